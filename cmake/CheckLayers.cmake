@@ -1,0 +1,26 @@
+# Fails when a room includes what it must not see: the product and the platform's interface stand on the standard
+# library and on each other alone, the view tree besides on the desktop platform, but on no other library.
+# Run with -D source=<the project's folder>.
+
+function(check_layer rooms allowed)
+  foreach(room IN LISTS rooms)
+    file(GLOB_RECURSE files ${source}/${room}/*.h ${source}/${room}/*.cpp)
+    foreach(file IN LISTS files)
+      file(STRINGS ${file} includes REGEX "^[ \t]*#[ \t]*include")
+      foreach(line IN LISTS includes)
+        # Headers of the standard library have no slash and no dot.
+        if(NOT line MATCHES "<[a-z0-9_]+>" AND NOT line MATCHES "${allowed}")
+          file(RELATIVE_PATH name ${source} ${file})
+          message(SEND_ERROR "${name} must not include this: ${line}")
+        endif()
+      endforeach()
+    endforeach()
+  endforeach()
+endfunction()
+
+set(frameworks "Foundation|CoreFoundation|CoreGraphics|UIKit|Preferences|AppSupport")
+check_layer("settings" "\"(settings|include|platform/(${frameworks}))/")
+check_layer(
+  "platform/Foundation;platform/CoreFoundation;platform/CoreGraphics;platform/UIKit;platform/Preferences;platform/AppSupport"
+  "\"platform/(${frameworks})/")
+check_layer("platform/desktop/UIKit;platform/desktop/Preferences" "\"platform/")

@@ -1,0 +1,69 @@
+#include "desktop/brimsound/Options.h"
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace brimsound::desktop {
+
+namespace {
+
+constexpr double largestScale = 8;
+
+[[noreturn]] void printAndExit(const QString& text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+    std::exit(EXIT_SUCCESS);
+}
+
+double readScale(const QString& text)
+{
+    bool isNumber = false;
+    const double scale = text.toDouble(&isNumber);
+    if (!isNumber || !(scale > 0) || scale > largestScale)
+        throw UsageError("--scale takes a number above 0 and up to 8, not \"" + text.toStdString() + "\"");
+    return scale;
+}
+
+} // namespace
+
+Options readOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("The settings pane of the Brimsound equalizer.");
+    const auto help = parser.addHelpOption();
+    const auto version = parser.addVersionOption();
+    const QCommandLineOption root(
+        "root", "Keep the settings in DIR instead of the user's data directory.", "DIR");
+    const QCommandLineOption headless("headless", "Open no window. Time passes only as a script says.");
+    const QCommandLineOption script("script",
+        "Do what the gesture script in FILE says (- for standard input) and print a trace.", "FILE");
+    const QCommandLineOption snapshot("snapshot", "Write a picture of the pane before ending.", "FILE.png");
+    const QCommandLineOption scale("scale", "Draw N device pixels a point.", "N");
+    parser.addOptions({ root, headless, script, snapshot, scale });
+
+    if (!parser.parse(arguments))
+        throw UsageError(parser.errorText().toStdString());
+    if (parser.isSet(help))
+        printAndExit(parser.helpText());
+    if (parser.isSet(version))
+        printAndExit("brimsound " BRIMSOUND_VERSION "\n");
+    if (const auto stray = parser.positionalArguments(); !stray.isEmpty())
+        throw UsageError("unexpected argument \"" + stray.front().toStdString() + "\"");
+    for (const auto* option : { &root, &script, &snapshot }) {
+        if (parser.isSet(*option) && parser.value(*option).isEmpty())
+            throw UsageError("--" + option->names().front().toStdString() + " needs a path");
+    }
+
+    Options options;
+    options.root = parser.value(root);
+    options.headless = parser.isSet(headless);
+    options.script = parser.value(script);
+    options.snapshot = parser.value(snapshot);
+    if (parser.isSet(scale))
+        options.scale = readScale(parser.value(scale));
+    return options;
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,96 @@
+#include "desktop/brimsound/PaneHost.h"
+
+#include "platform/Foundation/NSBundle.h"
+#include "platform/desktop/UIKit/NavigationBar.h"
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// Fills the window: the bar above, the pane's table below.
+class RootView : public UIView {
+public:
+    RootView()
+        : _bar(make<NavigationBar>(paneTitle()))
+    {
+        addSubview(*_bar);
+    }
+
+    void setContent(RetainPtr<UIView> content)
+    {
+        if (_content)
+            _content->removeFromSuperview();
+        _content = std::move(content);
+        if (_content)
+            addSubview(*_content);
+    }
+
+    void layoutSubviews() override
+    {
+        const auto [width, height] = bounds().size;
+        _bar->setFrame(CGRectMake(0, 0, width, NavigationBar::height));
+        if (_content) {
+            _content->setFrame(
+                CGRectMake(0, NavigationBar::height, width, std::max(0.0, height - NavigationBar::height)));
+        }
+    }
+
+private:
+    RetainPtr<NavigationBar> _bar;
+    RetainPtr<UIView> _content;
+};
+
+/// Keeps its one view as large as itself.
+class PaneWindow : public Window {
+public:
+    using Window::Window;
+
+    void layoutSubviews() override
+    {
+        for (const auto& view : subviews())
+            view->setFrame(bounds());
+    }
+};
+
+} // namespace
+
+std::string paneTitle()
+{
+    return NSBundle::bundleForClass("BrimsoundSettingsListController")
+        .localizedStringForKey("Brimsound", "Brimsound", "BrimsoundSettings");
+}
+
+PaneHost::PaneHost(CGSize size)
+    : _window(make<PaneWindow>(size))
+    , _root(make<RootView>())
+{
+    _window->addSubview(*_root);
+    open();
+}
+
+PaneHost::~PaneHost()
+{
+    close();
+}
+
+void PaneHost::open()
+{
+    if (_controller)
+        return;
+    const auto size = _window->bounds().size;
+    const auto controller = make<BrimsoundSettingsListController>();
+    if (!controller->initForContentSize({ size.width, std::max(0.0, size.height - NavigationBar::height) }))
+        return;
+    _controller = controller;
+    static_cast<RootView&>(*_root).setContent(retain<UIView>(&controller->table()));
+    _window->layOut();
+}
+
+void PaneHost::close()
+{
+    _window->touchCancel();
+    static_cast<RootView&>(*_root).setContent(nullptr);
+    _controller = nullptr;
+}
+
+} // namespace brimsound::desktop

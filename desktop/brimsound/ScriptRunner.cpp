@@ -1,0 +1,244 @@
+#include "desktop/brimsound/ScriptRunner.h"
+
+#include "desktop/brimsound/State.h"
+#include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/ScrollPeer.h"
+#include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/bus/Stranger.h"
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// How far below a slider a finger counts as outside, in points: beyond the margin that controls grant.
+constexpr double outsideDistance = 200;
+constexpr std::size_t lastSlider = 10;
+constexpr double largestWindow = 10000;
+
+double lengthFrom(const std::string& word)
+{
+    const double length = numberFrom(word);
+    if (length < 1 || length > largestWindow)
+        throw ScriptError("\"" + word + "\" is not a length in points");
+    return length;
+}
+
+void scrollIntoView(UIView& view)
+{
+    auto* scrollView = enclosingScrollView(view);
+    if (!scrollView)
+        return;
+    auto rect = view.bounds();
+    rect.origin = convertFromWindow(convertToWindow(rect.origin, view), *scrollView);
+    scrollPeerOf(*scrollView).scrollIntoView(rect);
+}
+
+} // namespace
+
+struct ScriptRunner::Command {
+    std::string_view name;
+    std::size_t fewestArguments;
+    std::size_t mostArguments;
+    /// How the command is written, for whoever wrote it otherwise.
+    std::string_view usage;
+    void (ScriptRunner::*carryOut)(const Words& arguments);
+};
+
+const std::vector<ScriptRunner::Command>& ScriptRunner::commands()
+{
+    static const std::vector<Command> table {
+        { "finger", 1, 3, "finger down X Y, finger move X Y, finger up or finger cancel",
+            &ScriptRunner::finger },
+        { "touch", 1, 1, "touch N", &ScriptRunner::touch },
+        { "drag", 2, 3, "drag N V [outside]", &ScriptRunner::drag },
+        { "lift", 1, 2, "lift N [outside]", &ScriptRunner::lift },
+        { "cancel", 1, 1, "cancel N", &ScriptRunner::cancel },
+        { "post", 1, 1, "post NAME", &ScriptRunner::post },
+        { "wait", 1, 1, "wait SECONDS", &ScriptRunner::wait },
+        { "resize", 2, 2, "resize W H", &ScriptRunner::resize },
+        { "close", 0, 0, "close", &ScriptRunner::close },
+        { "open", 0, 0, "open", &ScriptRunner::open },
+        { "state", 0, 0, "state", &ScriptRunner::state },
+        { "snapshot", 1, 2, "snapshot FILE [SCALE]", &ScriptRunner::snapshot },
+    };
+    return table;
+}
+
+ScriptRunner::ScriptRunner(
+    PaneHost& host, MainLoop& loop, Trace& trace, double scale, std::function<void(CGSize)> resize)
+    : _host(host)
+    , _loop(loop)
+    , _trace(trace)
+    , _scale(scale)
+    , _resize(std::move(resize))
+{
+}
+
+void ScriptRunner::run(std::string_view line)
+{
+    auto words = wordsOf(line);
+    if (words.empty())
+        return;
+    const auto name = words.front();
+    words.erase(words.begin());
+    for (const auto& command : commands()) {
+        if (command.name != name)
+            continue;
+        if (words.size() < command.fewestArguments || words.size() > command.mostArguments)
+            throw ScriptError("it is " + std::string(command.usage));
+        (this->*command.carryOut)(words);
+        return;
+    }
+    throw ScriptError("there is no command \"" + name + "\"");
+}
+
+BrimsoundSettingsListController& ScriptRunner::pane() const
+{
+    if (!_host.controller())
+        throw ScriptError("the pane is closed");
+    return *_host.controller();
+}
+
+UISlider& ScriptRunner::slider(const std::string& word) const
+{
+    const auto index = indexFrom(word, lastSlider);
+    _host.window().layOut();
+    const auto* sliders = pane().sliders();
+    if (!sliders)
+        throw ScriptError("the sliders are not on view");
+    return *(*sliders)[index];
+}
+
+UISlider& ScriptRunner::heldSlider(const std::string& word) const
+{
+    auto& named = slider(word);
+    if (!_held || &slider(*_held) != &named || !peerOf(named).isTracking)
+        throw ScriptError("slider " + word + " is not touched");
+    return named;
+}
+
+void ScriptRunner::pressAt(CGPoint point)
+{
+    if (_host.window().isTouched())
+        throw ScriptError("a finger is down already");
+    _finger = point;
+    _held.reset();
+}
+
+void ScriptRunner::finger(const Words& words)
+{
+    const auto& action = words.front();
+    const bool hasPlace = action == "down" || action == "move";
+    if (words.size() != (hasPlace ? 3u : 1u) || !(hasPlace || action == "up" || action == "cancel"))
+        throw ScriptError("it is finger down X Y, finger move X Y, finger up or finger cancel");
+    auto& window = _host.window();
+    if (action == "down") {
+        const CGPoint place { numberFrom(words[1]), numberFrom(words[2]) };
+        pressAt(place);
+        window.touchDown({ place, Pointer::Finger });
+        return;
+    }
+    if (!window.isTouched())
+        throw ScriptError("no finger is down");
+    if (action == "move") {
+        _finger = { numberFrom(words[1]), numberFrom(words[2]) };
+        window.touchMove(_finger);
+    } else if (action == "up") {
+        window.touchUp(_finger);
+    } else {
+        window.touchCancel();
+    }
+}
+
+void ScriptRunner::touch(const Words& words)
+{
+    auto& touched = slider(words[0]);
+    scrollIntoView(touched);
+    _host.window().layOut();
+    const auto place = convertToWindow(peerOf(touched).thumbCentre(touched.value()), touched);
+    if (hitTest(_host.window(), place) != &touched)
+        throw ScriptError("slider " + words[0] + " is covered");
+    pressAt(place);
+    _held = words[0];
+    // As the mouse does, which reaches the slider at once; a finger would wait to see whether it scrolls.
+    _host.window().touchDown({ place, Pointer::Mouse });
+}
+
+void ScriptRunner::drag(const Words& words)
+{
+    if (words.size() == 3 && words[2] != "outside")
+        throw ScriptError("it is drag N V [outside]");
+    const double value = numberFrom(words[1]);
+    auto& dragged = heldSlider(words[0]);
+    _finger = convertToWindow(peerOf(dragged).thumbCentre(value), dragged);
+    if (words.size() == 3)
+        _finger.y += outsideDistance;
+    _host.window().touchMove(_finger);
+}
+
+void ScriptRunner::lift(const Words& words)
+{
+    if (words.size() == 2 && words[1] != "outside")
+        throw ScriptError("it is lift N [outside]");
+    auto& lifted = heldSlider(words[0]);
+    _finger = convertToWindow(peerOf(lifted).thumbCentre(lifted.value()), lifted);
+    if (words.size() == 2)
+        _finger.y += outsideDistance;
+    _host.window().touchUp(_finger);
+}
+
+void ScriptRunner::cancel(const Words& words)
+{
+    heldSlider(words[0]);
+    _host.window().touchCancel();
+}
+
+void ScriptRunner::post(const Words& words)
+{
+    if (!postNotificationAsStranger(words[0]))
+        throw ScriptError("the session bus cannot be reached");
+}
+
+void ScriptRunner::wait(const Words& words)
+{
+    const double seconds = numberFrom(words[0]);
+    if (seconds < 0)
+        throw ScriptError("\"" + words[0] + "\" is not a time");
+    _loop.wait(seconds);
+}
+
+void ScriptRunner::resize(const Words& words)
+{
+    _resize({ lengthFrom(words[0]), lengthFrom(words[1]) });
+    _host.window().layOut();
+}
+
+void ScriptRunner::close(const Words&)
+{
+    pane();
+    _host.close();
+}
+
+void ScriptRunner::open(const Words&)
+{
+    if (_host.controller())
+        throw ScriptError("the pane is open already");
+    _host.open();
+}
+
+void ScriptRunner::state(const Words&)
+{
+    _host.window().layOut();
+    _trace.stateAsked(stateOf(_host));
+}
+
+void ScriptRunner::snapshot(const Words& words)
+{
+    const double scale = words.size() == 2 ? numberFrom(words[1]) : _scale;
+    if (!(scale > 0) || scale > 8)
+        throw ScriptError("a picture's scale is above 0 and up to 8");
+    if (!writeSnapshot(_host.window(), scale, QString::fromStdString(words[0])))
+        throw ScriptError("the picture \"" + words[0] + "\" cannot be written");
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,39 @@
+// The trace of a script: one JSON object a line for every effect.
+#pragma once
+
+#include "platform/desktop/effects/Effects.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+
+namespace brimsound::desktop {
+
+using Json = nlohmann::ordered_json;
+
+class Trace : public EffectObserver {
+public:
+    /// Prints to the stream, which the caller keeps open; each line is flushed.
+    explicit Trace(std::FILE* stream)
+        : _stream(stream)
+    {
+    }
+
+    void messageSent(
+        const std::string& name, const PropertyList::Dictionary& userInfo, const NSError* error) override;
+    void notificationPosted(const std::string& name) override;
+    void notificationDelivered(std::string_view name) override;
+    void fileWritten(const std::string& path) override;
+    void lineLogged(std::string_view text) override;
+    void stateAsked(const Json& state);
+
+private:
+    void print(const Json&);
+
+    std::FILE* _stream;
+};
+
+/// The value as JSON: data as base64 does not occur and becomes null, as does null itself.
+Json toJson(const PropertyList&);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,137 @@
+// The settings pane on the desktop: in a window, or without one under a gesture script.
+#include "desktop/brimsound/LineSource.h"
+#include "desktop/brimsound/MediaServer.h"
+#include "desktop/brimsound/Options.h"
+#include "desktop/brimsound/PaneHost.h"
+#include "desktop/brimsound/ScriptRunner.h"
+#include "platform/desktop/Foundation/DeviceRoot.h"
+#include "platform/desktop/Qt/MainLoop.h"
+#include "platform/desktop/Qt/PaneWidget.h"
+#include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/bus/PrivateBus.h"
+#include "platform/desktop/bus/SessionBus.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using namespace brimsound;
+using namespace brimsound::desktop;
+
+constexpr CGSize firstSize { 320, 568 };
+constexpr QSize smallestSize { 280, 240 };
+constexpr double scaleWithoutScreen = 2;
+
+/// Has Qt use a display when there is one, and none when not or when none is wanted.
+void choosePlatform(const Options& options)
+{
+    if (options.headless)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM",
+            qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? "wayland;xcb;offscreen" : "xcb;offscreen");
+    if (options.scale && !options.headless)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*options.scale));
+}
+
+std::unique_ptr<PrivateBus> startBusIfMissing()
+{
+    return SessionBus::shared().connection() ? nullptr : std::make_unique<PrivateBus>();
+}
+
+/// The exit status.
+int runScript(const QString& path, ScriptRunner& runner, MainLoop& loop)
+{
+    LineSource lines(path);
+    int number = 0;
+    while (const auto line = lines.next()) {
+        ++number;
+        try {
+            runner.run(*line);
+        } catch (const ScriptError& error) {
+            std::fprintf(stderr, "brimsound: line %d: %s\n", number, error.what());
+            return 2;
+        }
+    }
+    // What the last line set off is part of the trace.
+    loop.wait(0);
+    return 0;
+}
+
+int run(int argc, char** argv, const Options& options)
+{
+    if (!options.root.isEmpty())
+        setDeviceRoot(std::filesystem::absolute(options.root.toStdString()));
+    prepareDeviceRoot();
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("brimsound");
+    QApplication::setApplicationDisplayName(QString::fromStdString(paneTitle()));
+    QApplication::setDesktopFileName("com.quorvix.brimsound");
+    const auto icon = resolveDevicePath("/Library/PreferenceBundles/BrimsoundSettings.bundle/icon@3x.png");
+    QApplication::setWindowIcon(QIcon(QString::fromStdString(icon.string())));
+
+    const bool headless = QGuiApplication::platformName() == "offscreen";
+    if (headless && options.script.isEmpty() && options.snapshot.isEmpty())
+        throw UsageError("without a display there is nothing to do but --script or --snapshot");
+
+    const auto bus = startBusIfMissing();
+    const auto server
+        = startMediaServerIfMissing(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
+
+    Trace trace(stdout);
+    if (!options.script.isEmpty())
+        setEffectObserver(&trace);
+
+    MainLoop loop(headless ? MainLoop::Time::Virtual : MainLoop::Time::Real);
+    PaneHost host(firstSize);
+    std::unique_ptr<PaneWidget> widget;
+    if (!headless) {
+        widget = std::make_unique<PaneWidget>(host.window());
+        widget->setMinimumSize(smallestSize);
+        widget->show();
+    }
+    const double scale = headless ? options.scale.value_or(scaleWithoutScreen) : widget->devicePixelRatioF();
+    const auto resize = [&](CGSize size) {
+        if (widget)
+            widget->resize(QSizeF(size.width, size.height).toSize());
+        else
+            host.window().setFrame({ {}, size });
+    };
+
+    int status = 0;
+    if (!options.script.isEmpty()) {
+        ScriptRunner runner(host, loop, trace, scale, resize);
+        status = runScript(options.script, runner, loop);
+    } else if (!headless) {
+        status = QApplication::exec();
+    }
+    if (status == 0 && !options.snapshot.isEmpty() && !writeSnapshot(host.window(), scale, options.snapshot))
+        throw std::runtime_error("the picture \"" + options.snapshot.toStdString() + "\" cannot be written");
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    try {
+        const auto options = readOptions(arguments);
+        choosePlatform(options);
+        return run(argc, argv, options);
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "brimsound: %s\n", error.what());
+        return 2;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brimsound: %s\n", error.what());
+        return 1;
+    }
+}

@@ -1,0 +1,63 @@
+#include "desktop/mediaserverd/Equalizer.h"
+
+#include "platform/Foundation/PropertyListSerialization.h"
+#include "settings/tweak.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brimsound::mediaserver {
+
+namespace {
+
+float finiteOrZero(float gain)
+{
+    return std::isfinite(gain) ? gain : 0;
+}
+
+} // namespace
+
+std::optional<Gains> gainsOfMessage(const PropertyList::Dictionary& userInfo)
+{
+    const auto* value = userInfo.find(valsKey);
+    const auto* vals = value ? value->asArray() : nullptr;
+    Gains gains;
+    if (!vals || vals->size() != gains.size())
+        return std::nullopt;
+    for (std::size_t i = 0; i < gains.size(); ++i) {
+        const auto& val = (*vals)[i];
+        gains[i] = val.floatValue();
+        if (!(val.asReal() || val.asInteger()) || !std::isfinite(gains[i]))
+            return std::nullopt;
+    }
+    return gains;
+}
+
+Gains gainsInPreferences()
+{
+    Gains gains {};
+    const auto file = readPropertyListFile(preferencesPath);
+    const auto* preferences = file ? file->asDictionary() : nullptr;
+    if (!preferences)
+        return gains;
+
+    gains[0] = finiteOrZero(floatForKey(*preferences, preampKey));
+    const auto* value = preferences->find(peakingEqValuesKey);
+    if (const auto* bands = value ? value->asArray() : nullptr) {
+        const auto count = std::min(bands->size(), gains.size() - 1);
+        for (std::size_t band = 0; band < count; ++band)
+            gains[band + 1] = finiteOrZero((*bands)[band].floatValue());
+    }
+    return gains;
+}
+
+void Equalizer::setGains(const Gains& gains)
+{
+    if (gains == _gains)
+        return;
+    _gains = gains;
+    if (onChange)
+        onChange(_gains);
+}
+
+} // namespace brimsound::mediaserver

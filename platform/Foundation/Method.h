@@ -1,0 +1,79 @@
+// Methods that are called by name: by a control's target and action, and by the selectors of a specifier
+// plist.
+#pragma once
+
+#include "platform/Foundation/PropertyList.h"
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+namespace brimsound {
+
+class NSObject;
+
+/// What a call by name can hand over: an object (not retained) or a property-list value (not copied).
+using Argument = std::variant<std::monostate, NSObject*, const PropertyList*>;
+
+/// One row of a class's method table.
+struct Method {
+    std::string_view selector;
+    /// Calls the method on an object of the class that the table belongs to. Arguments beyond those that the
+    /// method takes are dropped; when one that it needs is missing or of the other kind, nothing is called
+    /// and the result is null. A method without a result gives null.
+    PropertyList (*invoke)(NSObject& self, std::span<const Argument> arguments);
+};
+
+namespace detail {
+
+template <typename Parameter>
+std::remove_reference_t<Parameter>* argumentAs(std::span<const Argument> arguments, std::size_t index)
+{
+    if (index >= arguments.size())
+        return nullptr;
+    if constexpr (std::is_same_v<Parameter, const PropertyList&>) {
+        auto* value = std::get_if<const PropertyList*>(&arguments[index]);
+        return value ? *value : nullptr;
+    } else {
+        auto* object = std::get_if<NSObject*>(&arguments[index]);
+        return object ? static_cast<std::remove_reference_t<Parameter>*>(*object) : nullptr;
+    }
+}
+
+template <auto member, typename Class, typename Result, typename... Parameters, std::size_t... indices>
+PropertyList invokeMember(
+    NSObject& self, std::span<const Argument> arguments, std::index_sequence<indices...>)
+{
+    if (!(... && argumentAs<Parameters>(arguments, indices)))
+        return {};
+    auto& object = static_cast<Class&>(self);
+    if constexpr (std::is_void_v<Result>) {
+        (object.*member)(*argumentAs<Parameters>(arguments, indices)...);
+        return {};
+    } else {
+        return (object.*member)(*argumentAs<Parameters>(arguments, indices)...);
+    }
+}
+
+template <auto member, typename Class, typename Result, typename... Parameters>
+Method methodOf(std::string_view selector, Result (Class::*)(Parameters...))
+{
+    return { selector, [](NSObject& self, std::span<const Argument> arguments) {
+                return invokeMember<member, Class, Result, Parameters...>(
+                    self, arguments, std::index_sequence_for<Parameters...> {});
+            } };
+}
+
+} // namespace detail
+
+/// The table row that binds a selector to a member function, whose parameters are references to objects or
+/// `const PropertyList&`.
+template <auto member> Method method(std::string_view selector)
+{
+    return detail::methodOf<member>(selector, member);
+}
+
+} // namespace brimsound

@@ -1,0 +1,12 @@
+// Strings made from formats.
+#pragma once
+
+#include <string>
+
+namespace brimsound {
+
+/// The number printed with the format, which holds one conversion for a double. Not localised: the decimal
+/// sign is a point whatever the user's language.
+std::string stringWithFormat(const char* format, double number);
+
+} // namespace brimsound

@@ -1,0 +1,31 @@
+// Fonts.
+#pragma once
+
+#include "platform/CoreGraphics/CGGeometry.h"
+#include "platform/Foundation/NSObject.h"
+
+#include <string>
+
+namespace brimsound {
+
+/// An unchanging font of a size in points.
+class UIFont : public NSObject {
+public:
+    /// The platform's default text font.
+    static RetainPtr<UIFont> systemFontOfSize(CGFloat size);
+    /// The font with that PostScript name ("HelveticaNeue-Bold"); null when the platform has nothing to show
+    /// for it.
+    static RetainPtr<UIFont> fontWithNameSize(const std::string& name, CGFloat size);
+
+    /// The same face in another size.
+    RetainPtr<UIFont> fontWithSize(CGFloat size) const;
+
+    /// The PostScript name; empty for the default text font of a platform that gives it none.
+    const std::string& fontName() const;
+    CGFloat pointSize() const;
+
+private:
+    explicit UIFont(Peer*);
+};
+
+} // namespace brimsound

@@ -1,0 +1,34 @@
+// Labels.
+#pragma once
+
+#include "platform/UIKit/UIFont.h"
+#include "platform/UIKit/UIView.h"
+
+#include <string>
+
+namespace brimsound {
+
+enum class NSTextAlignment {
+    Left = 0,
+    Center = 1,
+    Right = 2,
+};
+
+/// One line of text, cut off with an ellipsis where it does not fit.
+class UILabel : public UIView {
+public:
+    explicit UILabel(const CGRect& frame = {});
+
+    const std::string& text() const;
+    void setText(const std::string&);
+    /// At first the default text font at 17 points.
+    RetainPtr<UIFont> font() const;
+    void setFont(RetainPtr<UIFont>);
+    /// At first black.
+    RetainPtr<UIColor> textColor() const;
+    void setTextColor(RetainPtr<UIColor>);
+    NSTextAlignment textAlignment() const;
+    void setTextAlignment(NSTextAlignment);
+};
+
+} // namespace brimsound

@@ -1,0 +1,21 @@
+// Who decides on a table's looks and hears of its rows being tapped.
+#pragma once
+
+#include "platform/CoreGraphics/CGGeometry.h"
+#include "platform/Foundation/NSIndexPath.h"
+
+namespace brimsound {
+
+class UITableView;
+
+/// Asked and told by a table. Not retained by it.
+class UITableViewDelegate {
+public:
+    virtual ~UITableViewDelegate() = default;
+
+    /// In points.
+    virtual CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) { return 44; }
+    virtual void tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath&) { }
+};
+
+} // namespace brimsound

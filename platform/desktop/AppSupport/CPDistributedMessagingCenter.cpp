@@ -1,0 +1,100 @@
+#include "platform/AppSupport/CPDistributedMessagingCenter.h"
+
+#include "platform/AppSupport/rocketbootstrap.h"
+#include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/bus/BusValue.h"
+#include "platform/desktop/bus/Interfaces.h"
+#include "platform/desktop/bus/SessionBus.h"
+#include "platform/desktop/effects/Effects.h"
+
+#include <algorithm>
+
+namespace brimsound {
+
+namespace {
+
+constexpr std::uint64_t longestWaitInMicroseconds = 1'000'000;
+
+struct MessagingCenterPeer : Peer {
+    explicit MessagingCenterPeer(const std::string& centerName)
+        : name(centerName)
+        , path(desktop::messagingCenterPath(centerName))
+    {
+    }
+
+    std::string name;
+    std::string path;
+};
+
+// A negative errno, or the error that came as reply, is in `error` afterwards.
+int call(const MessagingCenterPeer& center, const std::string& name, const PropertyList::Dictionary& userInfo,
+    PropertyList::Dictionary& reply, sd_bus_error& error)
+{
+    auto* bus = desktop::SessionBus::shared().connection();
+    if (!bus)
+        return sd_bus_error_set(&error, SD_BUS_ERROR_NO_SERVER, "There is no session bus.");
+
+    sd_bus_message* created = nullptr;
+    int result = sd_bus_message_new_method_call(bus, &created, center.name.c_str(), center.path.c_str(),
+        desktop::messagingCenterInterface, desktop::sendMessageMethod);
+    const desktop::BusMessage message(created);
+    if (result >= 0)
+        result = sd_bus_message_set_auto_start(message.get(), false);
+    if (result >= 0)
+        result = sd_bus_message_append_basic(message.get(), SD_BUS_TYPE_STRING, name.c_str());
+    if (result >= 0)
+        result = desktop::appendDictionary(message.get(), userInfo);
+    if (result < 0)
+        return sd_bus_error_set_errno(&error, result);
+
+    sd_bus_message* received = nullptr;
+    result = sd_bus_call(bus, message.get(), longestWaitInMicroseconds, &error, &received);
+    const desktop::BusMessage answer(received);
+    if (result < 0)
+        return result;
+    result = desktop::readDictionary(answer.get(), reply);
+    return result < 0 ? sd_bus_error_set_errno(&error, result) : result;
+}
+
+NSError errorOf(const sd_bus_error& error)
+{
+    std::string description = error.message ? error.message : error.name;
+    std::replace(description.begin(), description.end(), '\n', ' ');
+    return { error.name, description };
+}
+
+} // namespace
+
+CPDistributedMessagingCenter::CPDistributedMessagingCenter(const std::string& name)
+    : NSObject(new MessagingCenterPeer(name))
+{
+}
+
+RetainPtr<CPDistributedMessagingCenter> CPDistributedMessagingCenter::centerNamed(const std::string& name)
+{
+    return adopt(new CPDistributedMessagingCenter(name));
+}
+
+PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveReplyName(
+    const std::string& name, const PropertyList::Dictionary& userInfo, std::optional<NSError>& error)
+{
+    PropertyList::Dictionary reply;
+    desktop::BusError failure;
+    if (call(static_cast<MessagingCenterPeer&>(peer()), name, userInfo, reply, failure) < 0) {
+        error = errorOf(failure);
+        reply = {};
+        desktop::effects().messageSent(name, userInfo, &*error);
+    } else {
+        desktop::effects().messageSent(name, userInfo, nullptr);
+    }
+    if (const auto& onPending = desktop::SessionBus::shared().onPending)
+        onPending();
+    return reply;
+}
+
+void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&)
+{
+    desktop::SessionBus::shared().connection();
+}
+
+} // namespace brimsound

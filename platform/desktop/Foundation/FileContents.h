@@ -1,0 +1,24 @@
+// Whole files, on this machine's paths.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace brimsound::desktop {
+
+/// The bytes of a regular file; nothing when it is none, cannot be read, or is longer than `limit`. Never
+/// waits for the other end of a pipe or a device.
+std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::path&, std::size_t limit);
+
+/// Overwrites a regular file in place, or makes it, for the user alone. False when that failed, perhaps
+/// halfway.
+bool overwriteFile(const std::filesystem::path&, std::span<const std::byte>);
+
+/// Puts a new file, for the user alone, in the place of the one of that name: the old one or the new one is
+/// there whole at any time. False when that failed.
+bool replaceFile(const std::filesystem::path&, std::span<const std::byte>);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,68 @@
+#include "platform/Foundation/NSBundle.h"
+
+#include "platform/Foundation/NSLocale.h"
+#include "platform/Foundation/PropertyListSerialization.h"
+#include "platform/desktop/Foundation/DeviceRoot.h"
+
+#include <vector>
+
+namespace brimsound {
+
+namespace {
+
+// "" is the bundle's own folder, for what is not localised.
+std::vector<std::string> resourceFolders()
+{
+    std::vector<std::string> folders;
+    for (const auto& language : preferredLanguages()) {
+        folders.push_back("/" + language + ".lproj");
+        if (const auto region = language.find('-'); region != std::string::npos)
+            folders.push_back("/" + language.substr(0, region) + ".lproj");
+    }
+    folders.push_back("/en.lproj");
+    folders.push_back("");
+    return folders;
+}
+
+} // namespace
+
+NSBundle NSBundle::bundleForClass(std::string_view)
+{
+    // Here the classes of the bundle are linked into the program: whichever is asked for is loaded.
+    return NSBundle("/Library/PreferenceBundles/BrimsoundSettings.bundle");
+}
+
+NSBundle::NSBundle(std::string path)
+    : _path(std::move(path))
+{
+}
+
+std::optional<std::string> NSBundle::pathForResource(std::string_view name, std::string_view type) const
+{
+    std::string fileName(name);
+    if (!type.empty())
+        fileName.append(".").append(type);
+
+    for (const auto& folder : resourceFolders()) {
+        auto path = _path + folder + "/" + fileName;
+        std::error_code ignored;
+        if (std::filesystem::exists(desktop::resolveDevicePath(path), ignored))
+            return path;
+    }
+    return std::nullopt;
+}
+
+std::string NSBundle::localizedStringForKey(
+    std::string_view key, std::string_view value, std::string_view table) const
+{
+    if (const auto path = pathForResource(table, "strings")) {
+        const auto strings = readPropertyListFile(*path);
+        const auto* texts = strings ? strings->asDictionary() : nullptr;
+        const auto* text = texts ? texts->find(key) : nullptr;
+        if (const auto* string = text ? text->asString() : nullptr)
+            return *string;
+    }
+    return std::string(value);
+}
+
+} // namespace brimsound

@@ -1,0 +1,24 @@
+#include "platform/Foundation/NSString.h"
+
+#include <clocale>
+#include <cstdio>
+#include <locale.h>
+
+namespace brimsound {
+
+std::string stringWithFormat(const char* format, double number)
+{
+    static const locale_t unlocalised = newlocale(LC_ALL_MASK, "C", nullptr);
+    const locale_t before = uselocale(unlocalised);
+    std::string text(32, '\0');
+    const auto length = static_cast<std::size_t>(std::snprintf(text.data(), text.size(), format, number));
+    if (length >= text.size()) {
+        text.resize(length + 1);
+        std::snprintf(text.data(), text.size(), format, number);
+    }
+    text.resize(length);
+    uselocale(before);
+    return text;
+}
+
+} // namespace brimsound

@@ -1,0 +1,157 @@
+#include "platform/desktop/Foundation/PropertyListBounds.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// The objects of a binary property list. An object may be referred to many times; parsed, each reference
+/// becomes a copy.
+class ObjectGraph {
+public:
+    explicit ObjectGraph(std::span<const std::byte> contents)
+        : _contents(contents)
+    {
+    }
+
+    bool isWithinBounds()
+    {
+        constexpr std::size_t trailerSize = 32;
+        if (_contents.size() < trailerSize)
+            return false;
+        const auto trailer = _contents.size() - trailerSize;
+        _offsetSize = std::to_integer<std::size_t>(_contents[trailer + 6]);
+        _referenceSize = std::to_integer<std::size_t>(_contents[trailer + 7]);
+        const auto count = number(trailer + 8, 8);
+        const auto root = number(trailer + 16, 8);
+        _offsetTable = number(trailer + 24, 8).value_or(0);
+        if (!count || !root || *count > _contents.size())
+            return false;
+        _objects.resize(*count);
+        return measure(*root, 0).has_value();
+    }
+
+private:
+    struct Measure {
+        std::size_t height;
+        std::size_t size;
+    };
+    struct Object {
+        bool isBeingMeasured = false;
+        std::optional<Measure> measure;
+    };
+    /// What the first bytes of an object say: its kind, and its count of bytes or references, which start at
+    /// `contents`.
+    struct Head {
+        unsigned kind;
+        std::size_t count;
+        std::size_t contents;
+    };
+
+    std::optional<std::size_t> number(std::size_t position, std::size_t size) const
+    {
+        if (size == 0 || size > 8 || position > _contents.size() || size > _contents.size() - position)
+            return std::nullopt;
+        std::size_t value = 0;
+        for (auto byte : _contents.subspan(position, size))
+            value = value << 8 | std::to_integer<std::size_t>(byte);
+        return value;
+    }
+
+    std::optional<Head> head(std::size_t index) const
+    {
+        const auto offset = number(_offsetTable + index * _offsetSize, _offsetSize);
+        const auto marker = offset ? number(*offset, 1) : std::nullopt;
+        if (!marker)
+            return std::nullopt;
+        Head head { static_cast<unsigned>(*marker >> 4), *marker & 0xf, *offset + 1 };
+        if (head.kind < 4 || head.count < 0xf)
+            return head;
+        // The count did not fit and follows as an integer object.
+        const auto integer = number(head.contents, 1);
+        if (!integer || *integer >> 4 != 1 || (*integer & 0xf) > 3)
+            return std::nullopt;
+        const auto size = std::size_t { 1 } << (*integer & 0xf);
+        const auto count = number(head.contents + 1, size);
+        if (!count)
+            return std::nullopt;
+        return Head { head.kind, *count, head.contents + 1 + size };
+    }
+
+    /// Nothing when the object is out of bounds or contains itself.
+    std::optional<Measure> measure(std::size_t index, std::size_t depth)
+    {
+        if (index >= _objects.size() || depth > deepestPropertyList)
+            return std::nullopt;
+        if (_objects[index].isBeingMeasured)
+            return std::nullopt;
+        if (!_objects[index].measure) {
+            _objects[index].isBeingMeasured = true;
+            _objects[index].measure = measureContents(index, depth);
+            _objects[index].isBeingMeasured = false;
+        }
+        const auto measure = _objects[index].measure;
+        return measure && depth + measure->height <= deepestPropertyList ? measure : std::nullopt;
+    }
+
+    std::optional<Measure> measureContents(std::size_t index, std::size_t depth)
+    {
+        // About what one parsed object takes in memory.
+        constexpr std::size_t objectSize = 64;
+        const auto object = head(index);
+        if (!object || object->count > _contents.size())
+            return std::nullopt;
+
+        const bool isContainer = object->kind >= 0xa;
+        Measure all { 0, objectSize + (isContainer ? 0 : object->count) };
+        // A dictionary's keys are followed by as many values.
+        const auto references = isContainer ? object->count * (object->kind == 0xd ? 2 : 1) : 0;
+        for (std::size_t i = 0; i < references; ++i) {
+            const auto reference = number(object->contents + i * _referenceSize, _referenceSize);
+            const auto member = reference ? measure(*reference, depth + 1) : std::nullopt;
+            if (!member)
+                return std::nullopt;
+            all.height = std::max(all.height, member->height + 1);
+            all.size += member->size;
+            if (all.size > largestPropertyList)
+                return std::nullopt;
+        }
+        return all;
+    }
+
+    std::span<const std::byte> _contents;
+    std::size_t _offsetSize = 0;
+    std::size_t _referenceSize = 0;
+    std::size_t _offsetTable = 0;
+    std::vector<Object> _objects;
+};
+
+bool isMarkupWithinBounds(std::string_view text)
+{
+    std::size_t depth = 0;
+    for (auto tag = text.find('<'); tag != std::string_view::npos; tag = text.find('<', tag + 1)) {
+        const auto rest = text.substr(tag + 1);
+        if (rest.starts_with("array") || rest.starts_with("dict"))
+            ++depth;
+        else if (depth > 0 && (rest.starts_with("/array") || rest.starts_with("/dict")))
+            --depth;
+        if (depth > deepestPropertyList)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool isWithinBounds(std::span<const std::byte> contents)
+{
+    const std::string_view text(reinterpret_cast<const char*>(contents.data()), contents.size());
+    return text.starts_with("bplist") ? ObjectGraph(contents).isWithinBounds() : isMarkupWithinBounds(text);
+}
+
+} // namespace brimsound::desktop

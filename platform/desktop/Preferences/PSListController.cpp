@@ -1,0 +1,178 @@
+#include "platform/Preferences/PSListController.h"
+
+#include "platform/Foundation/NSBundle.h"
+#include "platform/Foundation/PropertyListSerialization.h"
+#include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/Preferences/SpecifierCell.h"
+
+#include <cmath>
+
+namespace brimsound {
+
+using namespace desktop;
+
+namespace {
+
+struct ListControllerPeer : Peer {
+    explicit ListControllerPeer(std::string name)
+        : className(std::move(name))
+    {
+    }
+
+    const std::string className;
+    CGSize contentSize;
+    RetainPtr<UITableView> table;
+};
+
+ListControllerPeer& peerOf(const PSListController& controller)
+{
+    return static_cast<ListControllerPeer&>(controller.peer());
+}
+
+/// The specifiers of one section. Rows before the first group form a section without header and footer.
+struct Section {
+    PSSpecifier* group = nullptr;
+    std::vector<PSSpecifier*> rows;
+};
+
+std::vector<Section> sectionsOf(const PSListController::Specifiers& specifiers)
+{
+    std::vector<Section> sections;
+    for (const auto& specifier : specifiers) {
+        if (isOfType(*specifier, groupCellType)) {
+            sections.push_back({ specifier.get(), {} });
+        } else {
+            if (sections.empty())
+                sections.emplace_back();
+            sections.back().rows.push_back(specifier.get());
+        }
+    }
+    return sections;
+}
+
+} // namespace
+
+PSListController::PSListController(const std::string& className)
+    : NSObject(new ListControllerPeer(className))
+{
+}
+
+PSListController::~PSListController()
+{
+    // The table may be on view for longer than its controller lives.
+    if (const auto& table = peerOf(*this).table) {
+        table->setDataSource(nullptr);
+        table->setDelegate(nullptr);
+    }
+}
+
+PSListController* PSListController::initForContentSize(CGSize size)
+{
+    const auto isLength = [](CGFloat length) { return std::isfinite(length) && length >= 0; };
+    if (!isLength(size.width) || !isLength(size.height))
+        return nullptr;
+    peerOf(*this).contentSize = size;
+    return this;
+}
+
+const PSListController::Specifiers& PSListController::specifiers()
+{
+    if (!_specifiers)
+        _specifiers.emplace();
+    return *_specifiers;
+}
+
+PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget(
+    const std::string& name, NSObject& target)
+{
+    const auto bundle = NSBundle::bundleForClass(peerOf(*this).className);
+    const auto path = bundle.pathForResource(name, "plist");
+    const auto plist = path ? readPropertyListFile(*path) : std::nullopt;
+    const auto* root = plist ? plist->asDictionary() : nullptr;
+    const auto* found = root ? root->find("items") : nullptr;
+    const auto* items = found ? found->asArray() : nullptr;
+    if (!items)
+        return {};
+
+    Specifiers specifiers;
+    for (const auto& item : *items) {
+        const auto* properties = item.asDictionary();
+        if (!properties)
+            continue;
+        auto localized = *properties;
+        for (const auto* key : { "label", "footerText" }) {
+            const auto* text = localized.find(key);
+            if (const auto* string = text ? text->asString() : nullptr)
+                localized.set(key, bundle.localizedStringForKey(*string, *string, name));
+        }
+        const auto* label = localized.find("label");
+        const auto* labelText = label ? label->asString() : nullptr;
+        specifiers.push_back(make<PSSpecifier>(labelText ? *labelText : std::string(), target, localized));
+    }
+    return specifiers;
+}
+
+UITableView& PSListController::table()
+{
+    auto& peer = peerOf(*this);
+    if (!peer.table) {
+        peer.table = make<UITableView>(CGRect { {}, peer.contentSize }, UITableViewStyle::Grouped);
+        peer.table->setDataSource(this);
+        peer.table->setDelegate(this);
+    }
+    return *peer.table;
+}
+
+PropertyList PSListController::readPreferenceValue(PSSpecifier& specifier)
+{
+    return specifier.propertyForKey("default");
+}
+
+void PSListController::setPreferenceValueSpecifier(const PropertyList&, PSSpecifier&) { }
+
+void PSListController::suspend() { }
+
+std::size_t PSListController::numberOfSectionsInTableView(UITableView&)
+{
+    return sectionsOf(specifiers()).size();
+}
+
+std::size_t PSListController::tableViewNumberOfRowsInSection(UITableView&, std::size_t section)
+{
+    return sectionsOf(specifiers())[section].rows.size();
+}
+
+RetainPtr<UITableViewCell> PSListController::tableViewCellForRowAtIndexPath(
+    UITableView& table, const NSIndexPath& indexPath)
+{
+    auto& specifier = *sectionsOf(specifiers())[indexPath.section].rows[indexPath.row];
+    const auto type = stringProperty(specifier, "cell");
+    auto cell = table.dequeueReusableCellWithIdentifier(type);
+    if (!cell)
+        cell = make<SpecifierCell>(type, *this);
+    static_cast<SpecifierCell&>(*cell).show(specifier);
+    return cell;
+}
+
+std::string PSListController::tableViewTitleForHeaderInSection(UITableView&, std::size_t section)
+{
+    const auto* group = sectionsOf(specifiers())[section].group;
+    return group ? group->name() : std::string();
+}
+
+std::string PSListController::tableViewTitleForFooterInSection(UITableView&, std::size_t section)
+{
+    const auto* group = sectionsOf(specifiers())[section].group;
+    return group ? stringProperty(*group, "footerText") : std::string();
+}
+
+void PSListController::tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath& indexPath)
+{
+    auto& specifier = *sectionsOf(specifiers())[indexPath.section].rows[indexPath.row];
+    const auto* action = specifier.target().methodForSelector(stringProperty(specifier, "action"));
+    const Argument argument = static_cast<NSObject*>(&specifier);
+    if (action)
+        action->invoke(specifier.target(), { &argument, 1 });
+}
+
+} // namespace brimsound

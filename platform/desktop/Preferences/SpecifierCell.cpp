@@ -1,0 +1,110 @@
+#include "platform/desktop/Preferences/SpecifierCell.h"
+
+#include "platform/desktop/UIKit/CellPeer.h"
+#include "platform/desktop/UIKit/ImagePeer.h"
+#include "platform/desktop/UIKit/Theme.h"
+
+#include <array>
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// The mark of a row that leads somewhere.
+struct ChevronPeer : ViewPeer {
+    ChevronPeer() { frame.size = { 8, 13 }; }
+
+    void draw(Canvas& canvas) const override
+    {
+        canvas.strokeLine({ { 1, 1 }, { 6.5, 6.5 }, { 1, 12 } }, 2, theme::chevron);
+    }
+};
+
+class Chevron : public UIView {
+public:
+    Chevron()
+        : UIView(new ChevronPeer)
+    {
+    }
+};
+
+RetainPtr<UIColor> uiColor(const Color& color)
+{
+    return UIColor::colorWithRedGreenBlueAlpha(color.red, color.green, color.blue, color.alpha);
+}
+
+void storeValue(PSListController& controller, PSSpecifier& specifier, const PropertyList& value)
+{
+    const auto setter = stringProperty(specifier, "set");
+    if (setter.empty()) {
+        controller.setPreferenceValueSpecifier(value, specifier);
+    } else if (const auto* method = specifier.target().methodForSelector(setter)) {
+        const std::array<Argument, 2> arguments { &value, static_cast<NSObject*>(&specifier) };
+        method->invoke(specifier.target(), arguments);
+    }
+}
+
+} // namespace
+
+std::string stringProperty(const PSSpecifier& specifier, std::string_view key)
+{
+    const auto value = specifier.propertyForKey(key);
+    const auto* string = value.asString();
+    return string ? *string : std::string();
+}
+
+bool isOfType(const PSSpecifier& specifier, std::string_view cellType)
+{
+    return stringProperty(specifier, "cell") == cellType;
+}
+
+PropertyList currentValue(PSListController& controller, PSSpecifier& specifier)
+{
+    const auto getter = stringProperty(specifier, "get");
+    if (getter.empty())
+        return controller.readPreferenceValue(specifier);
+    const auto* method = specifier.target().methodForSelector(getter);
+    if (!method)
+        return specifier.propertyForKey("default");
+    const Argument argument = static_cast<NSObject*>(&specifier);
+    return method->invoke(specifier.target(), { &argument, 1 });
+}
+
+SpecifierCell::SpecifierCell(const std::string& cellType, PSListController& controller)
+    : UITableViewCell(UITableViewCellStyle::Default, cellType)
+    , _controller(controller)
+{
+    if (cellType == switchCellType) {
+        _toggle = make<UISwitch>();
+        _toggle->addTargetActionForControlEvents(*this, "toggled:", UIControlEventValueChanged);
+        setAccessoryView(_toggle);
+    } else if (cellType == linkCellType) {
+        setAccessoryView(make<Chevron>());
+    }
+    if (cellType == buttonCellType)
+        textLabel().setTextColor(uiColor(theme::tint));
+    const bool tappable = cellType == buttonCellType || cellType == linkCellType;
+    setSelectionStyle(
+        tappable ? UITableViewCellSelectionStyle::Default : UITableViewCellSelectionStyle::None);
+}
+
+void SpecifierCell::show(PSSpecifier& specifier)
+{
+    _specifier = brimsound::retain(&specifier);
+    textLabel().setText(specifier.name());
+    if (_toggle)
+        _toggle->setOn(currentValue(_controller, specifier).boolValue(), Animated::No);
+}
+
+std::span<const Method> SpecifierCell::methods() const
+{
+    static const std::array table { method<&SpecifierCell::toggled>("toggled:") };
+    return table;
+}
+
+void SpecifierCell::toggled(UISwitch& toggle)
+{
+    storeValue(_controller, *_specifier, toggle.isOn());
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,46 @@
+// The rows that a list controller makes from specifiers.
+#pragma once
+
+#include "platform/Preferences/PSListController.h"
+#include "platform/UIKit/UISwitch.h"
+#include "platform/UIKit/UITableViewCell.h"
+
+#include <string>
+
+namespace brimsound::desktop {
+
+/// The "cell" property that begins a group.
+inline constexpr auto groupCellType = "PSGroupCell";
+inline constexpr auto switchCellType = "PSSwitchCell";
+inline constexpr auto buttonCellType = "PSButtonCell";
+inline constexpr auto linkCellType = "PSLinkCell";
+
+/// The string under the key; empty when there is none.
+std::string stringProperty(const PSSpecifier&, std::string_view key);
+bool isOfType(const PSSpecifier&, std::string_view cellType);
+
+/// What a switch row shows for the specifier: what its getter gives, its default when nothing answers.
+PropertyList currentValue(PSListController&, PSSpecifier&);
+
+/// A row that shows one specifier at a time. Cells are reused among specifiers of the same type.
+class SpecifierCell : public UITableViewCell {
+public:
+    SpecifierCell(const std::string& cellType, PSListController&);
+
+    /// Shows the specifier: its label and, for a switch, the value that its getter gives now.
+    void show(PSSpecifier&);
+
+    /// The switch of a switch row, else null.
+    UISwitch* toggle() const { return _toggle.get(); }
+
+    std::span<const Method> methods() const override;
+
+private:
+    void toggled(UISwitch&);
+
+    PSListController& _controller;
+    RetainPtr<PSSpecifier> _specifier;
+    RetainPtr<UISwitch> _toggle;
+};
+
+} // namespace brimsound::desktop

@@ -1,0 +1,35 @@
+// The one widget that shows a view tree.
+#pragma once
+
+#include "platform/desktop/UIKit/Window.h"
+
+#include <QTouchEvent>
+#include <QWidget>
+
+namespace brimsound::desktop {
+
+/// Paints a window's views and hands it what mouse, finger and wheel do. The window outlives the widget.
+class PaneWidget : public QWidget {
+public:
+    explicit PaneWidget(Window&);
+    ~PaneWidget() override;
+
+protected:
+    bool event(QEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void wheelEvent(QWheelEvent*) override;
+
+private:
+    void touchEvent(const QTouchEvent&);
+    void repaintPart(const CGRect&);
+
+    Window& _window;
+    /// The finger that holds the touch; the others are ignored.
+    int _finger = -1;
+};
+
+} // namespace brimsound::desktop

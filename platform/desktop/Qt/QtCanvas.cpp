@@ -1,0 +1,167 @@
+#include "platform/desktop/Qt/QtCanvas.h"
+
+#include "platform/desktop/Qt/Fonts.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace brimsound::desktop {
+
+namespace {
+
+QRectF qRect(const CGRect& rect)
+{
+    return { rect.origin.x, rect.origin.y, rect.size.width, rect.size.height };
+}
+
+QColor qColor(const Color& color)
+{
+    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+        static_cast<float>(color.blue), static_cast<float>(color.alpha));
+}
+
+Qt::Alignment qAlignment(NSTextAlignment alignment)
+{
+    switch (alignment) {
+    case NSTextAlignment::Center:
+        return Qt::AlignHCenter;
+    case NSTextAlignment::Right:
+        return Qt::AlignRight;
+    case NSTextAlignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+QtCanvas::QtCanvas(QPainter& painter, double scale)
+    : _base(painter)
+    , _scale(scale)
+{
+    _base.setRenderHints(
+        QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+}
+
+void QtCanvas::save()
+{
+    painter().save();
+}
+
+void QtCanvas::restore()
+{
+    painter().restore();
+}
+
+void QtCanvas::translate(double dx, double dy)
+{
+    painter().translate(dx, dy);
+}
+
+void QtCanvas::clip(const CGRect& rect)
+{
+    painter().setClipRect(qRect(rect), Qt::IntersectClip);
+}
+
+bool QtCanvas::showsAnythingIn(const CGRect& rect) const
+{
+    return painter().clipBoundingRect().intersects(qRect(rect));
+}
+
+void QtCanvas::beginGroup(const CGRect& rect, double alpha, double cornerRadius)
+{
+    Group group { {}, nullptr, qRect(rect), alpha, cornerRadius };
+    // The picture covers whole device pixels, so that the group's contents stay as sharp as without it.
+    const auto toDevice = painter().combinedTransform();
+    const auto visible = toDevice.mapRect(group.rect & painter().clipBoundingRect()).toAlignedRect();
+    group.image = QImage(visible.size().expandedTo({ 1, 1 }), QImage::Format_ARGB32_Premultiplied);
+    group.image.fill(Qt::transparent);
+    group.image.setOffset(visible.topLeft());
+    group.painter = std::make_unique<QPainter>(&group.image);
+    group.painter->setRenderHints(painter().renderHints());
+    group.painter->setTransform(toDevice * QTransform::fromTranslate(-visible.x(), -visible.y()));
+    group.painter->setClipRect(group.rect);
+    _groups.push_back(std::move(group));
+}
+
+void QtCanvas::endGroup()
+{
+    const auto group = std::move(_groups.back());
+    _groups.pop_back();
+    if (group.cornerRadius > 0) {
+        QPainterPath shape;
+        shape.addRoundedRect(group.rect, group.cornerRadius, group.cornerRadius);
+        QPainterPath outside;
+        outside.addRect(group.rect.adjusted(-1, -1, 1, 1));
+        group.painter->setClipping(false);
+        group.painter->setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        group.painter->fillPath(outside - shape, Qt::black);
+    }
+    group.painter->end();
+
+    painter().save();
+    painter().setOpacity(group.alpha);
+    const auto toLogical = painter().combinedTransform().inverted();
+    painter().drawImage(
+        toLogical.mapRect(QRectF(group.image.offset(), group.image.size())), group.image, group.image.rect());
+    painter().restore();
+}
+
+void QtCanvas::fillRect(const CGRect& rect, const Color& color)
+{
+    painter().fillRect(qRect(rect), qColor(color));
+}
+
+void QtCanvas::fillRoundedRect(const CGRect& rect, double radius, const Color& color)
+{
+    if (radius <= 0) {
+        fillRect(rect, color);
+        return;
+    }
+    const double fitting = std::min({ radius, rect.size.width / 2, rect.size.height / 2 });
+    painter().setPen(Qt::NoPen);
+    painter().setBrush(qColor(color));
+    painter().drawRoundedRect(qRect(rect), fitting, fitting);
+}
+
+void QtCanvas::fillEllipse(const CGRect& rect, const Color& color)
+{
+    painter().setPen(Qt::NoPen);
+    painter().setBrush(qColor(color));
+    painter().drawEllipse(qRect(rect));
+}
+
+void QtCanvas::strokeLine(const std::vector<CGPoint>& points, double width, const Color& color)
+{
+    QPolygonF line;
+    for (const auto& point : points)
+        line << QPointF(point.x, point.y);
+    painter().setPen(QPen(qColor(color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter().drawPolyline(line);
+}
+
+void QtCanvas::drawLine(const std::string& text, const CGRect& rect, const UIFont& font, const Color& color,
+    NSTextAlignment alignment)
+{
+    const auto face = qFont(font);
+    const auto fitting
+        = QFontMetricsF(face).elidedText(QString::fromStdString(text), Qt::ElideRight, rect.size.width);
+    painter().setFont(face);
+    painter().setPen(qColor(color));
+    painter().drawText(qRect(rect),
+        static_cast<int>(Qt::AlignVCenter | qAlignment(alignment)) | Qt::TextSingleLine | Qt::TextDontClip,
+        fitting);
+}
+
+void QtCanvas::drawParagraph(
+    const std::string& text, const CGRect& rect, const UIFont& font, const Color& color)
+{
+    painter().setFont(qFont(font));
+    painter().setPen(qColor(color));
+    painter().drawText(qRect(rect), Qt::TextWordWrap | Qt::TextDontClip, QString::fromStdString(text));
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,29 @@
+#include "platform/desktop/Qt/Snapshot.h"
+
+#include "platform/desktop/Qt/QtCanvas.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
+
+#include <QPainter>
+
+namespace brimsound::desktop {
+
+QImage pictureOf(Window& window, double scale)
+{
+    window.layOut();
+    const auto size = window.bounds().size;
+    QImage picture((QSizeF(size.width, size.height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setClipRect(QRectF(0, 0, size.width, size.height));
+    QtCanvas canvas(painter, scale);
+    drawTree(window, canvas);
+    return picture;
+}
+
+bool writeSnapshot(Window& window, double scale, const QString& path)
+{
+    return pictureOf(window, scale).save(path, "PNG");
+}
+
+} // namespace brimsound::desktop

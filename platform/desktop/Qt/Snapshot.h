@@ -1,0 +1,17 @@
+// Pictures of the window.
+#pragma once
+
+#include "platform/desktop/UIKit/Window.h"
+
+#include <QImage>
+#include <QString>
+
+namespace brimsound::desktop {
+
+/// Lays the window out and draws all of it, with `scale` device pixels a point.
+QImage pictureOf(Window&, double scale);
+
+/// Writes such a picture as a PNG. False when the file cannot be written.
+bool writeSnapshot(Window&, double scale, const QString& path);
+
+} // namespace brimsound::desktop

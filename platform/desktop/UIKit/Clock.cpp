@@ -1,0 +1,77 @@
+#include "platform/desktop/UIKit/Clock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brimsound::desktop {
+
+namespace {
+
+constexpr double frame = 1.0 / 60;
+
+} // namespace
+
+Clock& Clock::shared()
+{
+    static Clock clock;
+    return clock;
+}
+
+std::uint64_t Clock::after(double delay, std::function<void()> action)
+{
+    _actions.emplace(now() + delay, std::make_pair(++_lastNumber, std::move(action)));
+    if (onChange)
+        onChange();
+    return _lastNumber;
+}
+
+void Clock::cancel(std::uint64_t number)
+{
+    std::erase_if(_actions, [&](const auto& action) { return action.second.first == number; });
+}
+
+void Clock::onEveryFrame(std::function<bool(double)> step)
+{
+    _movements.push_back({ now(), std::move(step) });
+    if (onChange)
+        onChange();
+}
+
+std::optional<double> Clock::untilNextAction() const
+{
+    if (_actions.empty())
+        return std::nullopt;
+    return std::max(0.0, _actions.begin()->first - now());
+}
+
+void Clock::advance(double seconds)
+{
+    const double end = _now + seconds;
+    while (isAnimating() && _now + frame < end)
+        moveTo(_now + frame);
+    moveTo(end);
+}
+
+void Clock::moveTo(double time)
+{
+    while (!_actions.empty() && _actions.begin()->first <= time) {
+        auto due = _actions.extract(_actions.begin());
+        _now = std::max(_now, due.key());
+        due.mapped().second();
+    }
+    _now = std::max(_now, time);
+    step();
+}
+
+void Clock::step()
+{
+    // A step may start another movement, so the list is not walked while it is being run.
+    auto movements = std::exchange(_movements, {});
+    std::erase_if(
+        movements, [this](const Movement& movement) { return !movement.step(_now - movement.start); });
+    movements.insert(movements.end(), std::make_move_iterator(_movements.begin()),
+        std::make_move_iterator(_movements.end()));
+    _movements = std::move(movements);
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,32 @@
+// What stands behind a UISlider.
+#pragma once
+
+#include "platform/UIKit/UISlider.h"
+#include "platform/desktop/UIKit/ControlPeer.h"
+
+namespace brimsound::desktop {
+
+/// A finger takes the thumb along from wherever it touches the slider, so that a touch alone moves nothing; a
+/// mouse press beside the thumb brings it there.
+struct SliderPeer : ControlPeer {
+    float value = 0;
+    float minimum = 0;
+    float maximum = 1;
+    RetainPtr<UIColor> minimumTrackTint;
+    /// How far the touch is from the thumb's centre while the slider is held, in points.
+    double grip = 0;
+
+    SliderPeer();
+
+    void beginTracking(CGPoint, Pointer) override;
+    void continueTracking(CGPoint) override;
+    void draw(Canvas&) const override;
+
+    /// Where the thumb's centre stands for a value, in the slider's own coordinates.
+    CGPoint thumbCentre(double value) const;
+    void takeValueAt(double x);
+};
+
+SliderPeer& peerOf(const UISlider&);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,127 @@
+#include "platform/desktop/UIKit/TouchSession.h"
+
+#include "platform/desktop/UIKit/Clock.h"
+#include "platform/desktop/UIKit/ScrollPeer.h"
+
+#include <cmath>
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// How long a finger within a scroll view is held back, in seconds.
+constexpr double holdBackTime = 0.15;
+/// How far a finger moves, in points, before it is taken to be going somewhere.
+constexpr double slop = 10;
+
+UIView* nearestThatTakesTouches(UIView* view)
+{
+    while (view && !peerOf(*view).takesTouches())
+        view = view->superview();
+    return view;
+}
+
+} // namespace
+
+TouchSession::~TouchSession()
+{
+    Clock::shared().cancel(_timer);
+}
+
+void TouchSession::begin(UIView& hit, const Touch& touch)
+{
+    _first = _last = touch;
+    _view = retain(nearestThatTakesTouches(&hit));
+    _scrollView = retain(touch.pointer == Pointer::Finger ? enclosingScrollView(hit) : nullptr);
+    if (!_view && !_scrollView)
+        return;
+
+    if (!_scrollView) {
+        handOver();
+        return;
+    }
+    _phase = Phase::HeldBack;
+    scrollPeerOf(*_scrollView).stop();
+    _timer = Clock::shared().after(holdBackTime, [this] { handOver(); });
+}
+
+void TouchSession::move(CGPoint location)
+{
+    if (_phase == Phase::None)
+        return;
+    _last.location = location;
+
+    if (_phase == Phase::HeldBack) {
+        if (movesUpOrDown(location)) {
+            startScrolling();
+            return;
+        }
+        if (std::abs(location.x - _first.location.x) <= slop)
+            return;
+        handOver();
+    }
+    if (_phase == Phase::Scrolling) {
+        scrollPeerOf(*_scrollView).panTo(location.y);
+    } else if (_scrollView && movesUpOrDown(location) && (!_view || peerOf(*_view).yieldsToScrolling())) {
+        if (_view)
+            peerOf(*_view).touchCancelled();
+        startScrolling();
+    } else if (_view) {
+        peerOf(*_view).touchMoved(_last);
+    }
+}
+
+void TouchSession::end(CGPoint location)
+{
+    if (_phase == Phase::None)
+        return;
+    _last.location = location;
+    if (_phase == Phase::HeldBack)
+        handOver();
+    if (_phase == Phase::Scrolling)
+        scrollPeerOf(*_scrollView).endPan();
+    else if (_view)
+        peerOf(*_view).touchEnded(_last);
+    finish();
+}
+
+void TouchSession::cancel()
+{
+    if (_phase == Phase::Scrolling)
+        scrollPeerOf(*_scrollView).endPan();
+    else if (_phase == Phase::WithView && _view)
+        peerOf(*_view).touchCancelled();
+    finish();
+}
+
+void TouchSession::handOver()
+{
+    Clock::shared().cancel(_timer);
+    _phase = Phase::WithView;
+    if (_view)
+        peerOf(*_view).touchBegan(_first);
+}
+
+void TouchSession::startScrolling()
+{
+    Clock::shared().cancel(_timer);
+    _phase = Phase::Scrolling;
+    scrollPeerOf(*_scrollView).beginPan(_last.location.y);
+}
+
+void TouchSession::finish()
+{
+    Clock::shared().cancel(_timer);
+    _phase = Phase::None;
+    _view = nullptr;
+    _scrollView = nullptr;
+}
+
+bool TouchSession::movesUpOrDown(CGPoint location) const
+{
+    const double dx = std::abs(location.x - _first.location.x);
+    const double dy = std::abs(location.y - _first.location.y);
+    return dy > slop && dy >= dx;
+}
+
+} // namespace brimsound::desktop

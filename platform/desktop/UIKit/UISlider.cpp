@@ -1,0 +1,182 @@
+#include "platform/UIKit/UISlider.h"
+
+#include "platform/desktop/UIKit/ImagePeer.h"
+#include "platform/desktop/UIKit/Knob.h"
+#include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/Theme.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brimsound {
+
+namespace desktop {
+
+namespace {
+
+constexpr double thumbSize = 28;
+constexpr double trackHeight = 4;
+
+struct ThumbPeer : ImagePeer {
+    ThumbPeer() { size = { thumbSize, thumbSize }; }
+
+    void draw(Canvas& canvas, const CGRect& rect) const override
+    {
+        drawKnob(canvas, rect);
+    }
+};
+
+// All sliders look alike and share the one thumb.
+const RetainPtr<UIImage>& thumbImage()
+{
+    static const auto image = makeImage(new ThumbPeer);
+    return image;
+}
+
+} // namespace
+
+SliderPeer& peerOf(const UISlider& slider)
+{
+    return static_cast<SliderPeer&>(slider.peer());
+}
+
+SliderPeer::SliderPeer()
+{
+    overhang = knobShadowReach;
+}
+
+CGPoint SliderPeer::thumbCentre(double shownValue) const
+{
+    const auto bounds = boundsOf(*this);
+    const double range = static_cast<double>(maximum) - minimum;
+    const double fraction = range > 0 ? (shownValue - minimum) / range : 0;
+    const double way = bounds.size.width - thumbSize;
+    return { bounds.origin.x + thumbSize / 2 + way * fraction, bounds.origin.y + bounds.size.height / 2 };
+}
+
+void SliderPeer::takeValueAt(double x)
+{
+    const auto bounds = boundsOf(*this);
+    const double way = bounds.size.width - thumbSize;
+    if (way <= 0)
+        return;
+    const double fraction = (x - bounds.origin.x - thumbSize / 2) / way;
+    const double range = static_cast<double>(maximum) - minimum;
+    const float before = value;
+    static_cast<UISlider*>(view)->setValue(static_cast<float>(minimum + fraction * range));
+    if (value != before)
+        send(UIControlEventValueChanged);
+}
+
+void SliderPeer::beginTracking(CGPoint point, Pointer pointer)
+{
+    grip = point.x - thumbCentre(value).x;
+    if (pointer == Pointer::Mouse && std::abs(grip) > thumbSize / 2) {
+        grip = 0;
+        takeValueAt(point.x);
+    }
+}
+
+void SliderPeer::continueTracking(CGPoint point)
+{
+    takeValueAt(point.x - grip);
+}
+
+void SliderPeer::draw(Canvas& canvas) const
+{
+    const auto bounds = boundsOf(*this);
+    const auto centre = thumbCentre(value);
+    const auto track
+        = CGRectMake(bounds.origin.x + 2, centre.y - trackHeight / 2, bounds.size.width - 4, trackHeight);
+    const double radius = trackHeight / 2;
+    canvas.fillRoundedRect(track, radius, theme::sliderTrack);
+
+    auto filled = track;
+    filled.size.width = std::max(0.0, centre.x - track.origin.x);
+    canvas.fillRoundedRect(filled, radius, minimumTrackTint ? colorOf(minimumTrackTint) : theme::tint);
+    // A light colour would fade into a white row without an edge.
+    canvas.fillRoundedRect(
+        CGRectMake(filled.origin.x, filled.origin.y + trackHeight - 0.5, filled.size.width, 0.5), 0,
+        { 0, 0, 0, 0.15 });
+
+    const auto& thumb = peerOf(*thumbImage());
+    thumb.draw(canvas,
+        CGRectMake(centre.x - thumb.size.width / 2, centre.y - thumb.size.height / 2, thumb.size.width,
+            thumb.size.height));
+}
+
+} // namespace desktop
+
+using desktop::peerOf;
+using desktop::SliderPeer;
+
+UISlider::UISlider()
+    : UIControl(new SliderPeer)
+{
+}
+
+float UISlider::value() const
+{
+    return peerOf(*this).value;
+}
+
+void UISlider::setValue(float value)
+{
+    auto& peer = peerOf(*this);
+    if (std::isnan(value))
+        return;
+    value = std::clamp(value, peer.minimum, peer.maximum);
+    if (value == peer.value)
+        return;
+    peer.value = value;
+    desktop::setNeedsDisplay(*this);
+}
+
+float UISlider::minimumValue() const
+{
+    return peerOf(*this).minimum;
+}
+
+void UISlider::setMinimumValue(float minimum)
+{
+    auto& peer = peerOf(*this);
+    peer.minimum = minimum;
+    peer.maximum = std::max(peer.maximum, minimum);
+    setValue(peer.value);
+    desktop::setNeedsDisplay(*this);
+}
+
+float UISlider::maximumValue() const
+{
+    return peerOf(*this).maximum;
+}
+
+void UISlider::setMaximumValue(float maximum)
+{
+    auto& peer = peerOf(*this);
+    peer.maximum = maximum;
+    peer.minimum = std::min(peer.minimum, maximum);
+    setValue(peer.value);
+    desktop::setNeedsDisplay(*this);
+}
+
+RetainPtr<UIColor> UISlider::minimumTrackTintColor() const
+{
+    return peerOf(*this).minimumTrackTint;
+}
+
+void UISlider::setMinimumTrackTintColor(RetainPtr<UIColor> color)
+{
+    auto& peer = peerOf(*this);
+    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.minimumTrackTint);
+    peer.minimumTrackTint = std::move(color);
+    if (!looksTheSame)
+        desktop::setNeedsDisplay(*this);
+}
+
+UIImage* UISlider::currentThumbImage() const
+{
+    return desktop::thumbImage().get();
+}
+
+} // namespace brimsound

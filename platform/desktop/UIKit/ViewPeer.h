@@ -1,0 +1,83 @@
+// A node of the view tree: what stands behind a UIView.
+#pragma once
+
+#include "platform/UIKit/UIView.h"
+#include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/UIKit/Canvas.h"
+#include "platform/desktop/UIKit/Touch.h"
+
+#include <vector>
+
+namespace brimsound::desktop {
+
+/// The state of a view and, in the derived peers, how it draws itself and what it does with touches.
+struct ViewPeer : Peer {
+    /// The view this is the peer of; set by the view's constructor.
+    UIView* view = nullptr;
+
+    CGRect frame;
+    /// What the view's own coordinates start from: the offset of a scroll view.
+    CGPoint origin;
+    UIView* superview = nullptr;
+    std::vector<RetainPtr<UIView>> subviews;
+
+    RetainPtr<UIColor> backgroundColor;
+    double alpha = 1;
+    double cornerRadius = 0;
+    bool hidden = false;
+    bool clipsToBounds = false;
+    bool needsLayout = true;
+    /// How far the view draws beyond its bounds, in points.
+    double overhang = 0;
+
+    /// Draws the view itself, in its own coordinates, below its subviews.
+    virtual void draw(Canvas&) const { }
+    /// Draws what lies above the subviews.
+    virtual void drawAbove(Canvas&) const { }
+
+    /// Whether a touch that hits the view, or a subview that does not take touches, is the view's own.
+    virtual bool takesTouches() const { return false; }
+    /// Whether the view gives its touch up when the finger turns out to scroll.
+    virtual bool yieldsToScrolling() const { return true; }
+    virtual void touchBegan(const Touch&) { }
+    virtual void touchMoved(const Touch&) { }
+    virtual void touchEnded(const Touch&) { }
+    virtual void touchCancelled() { }
+
+    /// Told when the view is laid out, before its layoutSubviews.
+    virtual void willLayOut() { }
+};
+
+/// The peer of a view.
+ViewPeer& peerOf(const UIView&);
+
+/// The bounds in the view's own coordinates.
+CGRect boundsOf(const ViewPeer&);
+
+/// Marks the view, or a part of it given in its own coordinates, to be drawn again.
+void setNeedsDisplay(const UIView&);
+void setNeedsDisplay(const UIView&, const CGRect&);
+
+/// Changes the view's own origin: scrolls it.
+void setOrigin(UIView&, CGPoint);
+
+/// A point of the window in the view's own coordinates, and back.
+CGPoint convertFromWindow(CGPoint, const UIView&);
+CGPoint convertToWindow(CGPoint, const UIView&);
+
+/// Lays out the view and everything in it that asked for it.
+void layOutTree(UIView&);
+
+/// Draws the view and everything in it; the canvas is in the coordinates of its superview.
+void drawTree(const UIView&, Canvas&);
+
+/// The frontmost view at the point, given in the view's own coordinates; null when it is outside or nothing
+/// there can be touched.
+UIView* hitTest(UIView&, CGPoint);
+
+bool contains(const CGRect&, CGPoint);
+bool intersects(const CGRect&, const CGRect&);
+CGRect insetBy(const CGRect&, double dx, double dy);
+CGRect unite(const CGRect&, const CGRect&);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,44 @@
+// The root of the view tree.
+#pragma once
+
+#include "platform/UIKit/UIView.h"
+#include "platform/desktop/UIKit/Touch.h"
+#include "platform/desktop/UIKit/TouchSession.h"
+
+#include <functional>
+
+namespace brimsound::desktop {
+
+/// The view at the top: takes what the user does, hands out what has to be painted. Coordinates are points
+/// from the top left corner.
+class Window : public UIView {
+public:
+    explicit Window(CGSize);
+
+    /// One finger, or the mouse while its button is down, goes down, moves, and goes up or is taken away by
+    /// the system. Moves and ends without a touch are ignored; a second touch while one is down is ignored.
+    void touchDown(const Touch&);
+    void touchMove(CGPoint);
+    void touchUp(CGPoint);
+    void touchCancel();
+    bool isTouched() const { return _touch.isActive(); }
+
+    /// Turns a wheel over a point: scrolls what lies there by so many points.
+    void scroll(CGPoint at, CGPoint by);
+
+    /// Lays out what needs it; to be called before painting and hit-testing.
+    void layOut();
+    /// Marks a part to be painted again.
+    void invalidate(const CGRect&) const;
+
+    /// Set by whoever paints the window: told of every part that must be painted again.
+    std::function<void(const CGRect&)> onInvalidate;
+
+protected:
+    ~Window() override;
+
+private:
+    TouchSession _touch;
+};
+
+} // namespace brimsound::desktop

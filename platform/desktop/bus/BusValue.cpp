@@ -1,0 +1,256 @@
+#include "platform/desktop/bus/BusValue.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <limits>
+#include <string_view>
+
+namespace brimsound::desktop {
+
+namespace {
+
+int appendContainer(sd_bus_message* message, char type, const char* contents, auto appendContents)
+{
+    int result = sd_bus_message_open_container(message, type, contents);
+    if (result >= 0)
+        result = appendContents();
+    return result < 0 ? result : sd_bus_message_close_container(message);
+}
+
+bool holdsRealsOnly(const PropertyList::Array& array)
+{
+    return !array.empty()
+        && std::all_of(array.begin(), array.end(), [](const PropertyList& item) { return item.asReal(); });
+}
+
+int appendVariant(sd_bus_message*, const PropertyList&);
+
+int appendReals(sd_bus_message* message, const PropertyList::Array& array)
+{
+    return appendContainer(message, 'a', "d", [&] {
+        int result = 0;
+        for (auto item = array.begin(); item != array.end() && result >= 0; ++item)
+            result = sd_bus_message_append_basic(message, 'd', item->asReal());
+        return result;
+    });
+}
+
+int appendVariants(sd_bus_message* message, const PropertyList::Array& array)
+{
+    return appendContainer(message, 'a', "v", [&] {
+        int result = 0;
+        for (auto item = array.begin(); item != array.end() && result >= 0; ++item)
+            result = appendVariant(message, *item);
+        return result;
+    });
+}
+
+const char* signatureOf(const PropertyList& value)
+{
+    if (value.asBoolean())
+        return "b";
+    if (value.asInteger())
+        return "x";
+    if (value.asReal() || value.asDate())
+        return "d";
+    if (value.asString())
+        return "s";
+    if (value.asData())
+        return "ay";
+    if (const auto* array = value.asArray())
+        return holdsRealsOnly(*array) ? "ad" : "av";
+    if (value.asDictionary())
+        return "a{sv}";
+    return nullptr;
+}
+
+int appendContents(sd_bus_message* message, const PropertyList& value)
+{
+    if (const auto* boolean = value.asBoolean())
+        return sd_bus_message_append(message, "b", int { *boolean });
+    if (const auto* integer = value.asInteger())
+        return sd_bus_message_append_basic(message, 'x', integer);
+    if (const auto* real = value.asReal())
+        return sd_bus_message_append_basic(message, 'd', real);
+    if (const auto* date = value.asDate())
+        return sd_bus_message_append_basic(message, 'd', &date->secondsSinceReferenceDate);
+    if (const auto* string = value.asString())
+        return sd_bus_message_append_basic(message, 's', string->c_str());
+    if (const auto* data = value.asData())
+        return sd_bus_message_append_array(message, 'y', data->data(), data->size());
+    if (const auto* array = value.asArray())
+        return holdsRealsOnly(*array) ? appendReals(message, *array) : appendVariants(message, *array);
+    return appendDictionary(message, *value.asDictionary());
+}
+
+int appendVariant(sd_bus_message* message, const PropertyList& value)
+{
+    const char* signature = signatureOf(value);
+    if (!signature)
+        return -EINVAL;
+    return appendContainer(message, 'v', signature, [&] { return appendContents(message, value); });
+}
+
+// The readers give more than 0 for a value, 0 at the end of a container, a negative errno on failure.
+
+int readContainer(sd_bus_message* message, char type, const char* contents, auto readContents)
+{
+    int result = sd_bus_message_enter_container(message, type, contents);
+    if (result <= 0)
+        return result;
+    result = readContents();
+    if (result >= 0)
+        result = sd_bus_message_exit_container(message);
+    return result < 0 ? result : 1;
+}
+
+template <typename Wire> int readBasic(sd_bus_message* message, char type, auto convert)
+{
+    Wire wire {};
+    const int result = sd_bus_message_read_basic(message, type, &wire);
+    if (result > 0)
+        convert(wire);
+    return result;
+}
+
+int readBytes(sd_bus_message* message, PropertyList& value)
+{
+    const void* bytes = nullptr;
+    std::size_t size = 0;
+    const int result = sd_bus_message_read_array(message, 'y', &bytes, &size);
+    if (result < 0)
+        return result;
+    const auto* first = static_cast<const std::byte*>(bytes);
+    value = PropertyList::Data(first, first + size);
+    return 1;
+}
+
+int readValue(sd_bus_message*, PropertyList&);
+
+int readItems(sd_bus_message* message, const char* contents, PropertyList& value)
+{
+    PropertyList::Array array;
+    const int result = readContainer(message, 'a', contents, [&] {
+        for (;;) {
+            PropertyList item;
+            const int itemResult = readValue(message, item);
+            if (itemResult <= 0)
+                return itemResult;
+            array.push_back(std::move(item));
+        }
+    });
+    value = std::move(array);
+    return result;
+}
+
+int readArray(sd_bus_message* message, std::string_view contents, PropertyList& value)
+{
+    if (contents == "y")
+        return readBytes(message, value);
+    if (contents.starts_with("{s")) {
+        PropertyList::Dictionary dictionary;
+        const int result = readDictionary(message, dictionary);
+        value = std::move(dictionary);
+        return result < 0 ? result : 1;
+    }
+    if (contents.starts_with('{'))
+        return sd_bus_message_skip(message, nullptr);
+    return readItems(message, std::string(contents).c_str(), value);
+}
+
+// Leaves the value null for a type that has no equivalent.
+int readValue(sd_bus_message* message, PropertyList& value)
+{
+    char type = 0;
+    const char* contents = nullptr;
+    const int result = sd_bus_message_peek_type(message, &type, &contents);
+    if (result <= 0)
+        return result;
+
+    const auto set = [&](auto wire) { value = wire; };
+    const auto setInteger = [&](auto wire) { value = std::int64_t { wire }; };
+    switch (type) {
+    case SD_BUS_TYPE_BOOLEAN:
+        return readBasic<int>(message, type, [&](int wire) { value = wire != 0; });
+    case SD_BUS_TYPE_BYTE:
+        return readBasic<std::uint8_t>(message, type, setInteger);
+    case SD_BUS_TYPE_INT16:
+        return readBasic<std::int16_t>(message, type, setInteger);
+    case SD_BUS_TYPE_UINT16:
+        return readBasic<std::uint16_t>(message, type, setInteger);
+    case SD_BUS_TYPE_INT32:
+        return readBasic<std::int32_t>(message, type, setInteger);
+    case SD_BUS_TYPE_UINT32:
+        return readBasic<std::uint32_t>(message, type, setInteger);
+    case SD_BUS_TYPE_INT64:
+        return readBasic<std::int64_t>(message, type, setInteger);
+    case SD_BUS_TYPE_UINT64:
+        return readBasic<std::uint64_t>(message, type, [&](std::uint64_t wire) {
+            constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+            value = static_cast<std::int64_t>(std::min(wire, largest));
+        });
+    case SD_BUS_TYPE_DOUBLE:
+        return readBasic<double>(message, type, set);
+    case SD_BUS_TYPE_STRING:
+    case SD_BUS_TYPE_OBJECT_PATH:
+    case SD_BUS_TYPE_SIGNATURE:
+        return readBasic<const char*>(message, type, set);
+    case SD_BUS_TYPE_VARIANT:
+        return readContainer(message, type, contents, [&] { return readValue(message, value); });
+    case SD_BUS_TYPE_ARRAY:
+        return readArray(message, contents, value);
+    default:
+        return sd_bus_message_skip(message, nullptr);
+    }
+}
+
+int readEntry(sd_bus_message* message, const char* contents, PropertyList::Dictionary& dictionary)
+{
+    return readContainer(message, SD_BUS_TYPE_DICT_ENTRY, contents, [&] {
+        const char* key = nullptr;
+        int result = sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &key);
+        if (result <= 0)
+            return result;
+        PropertyList value;
+        result = readValue(message, value);
+        if (result > 0 && !value.isNull())
+            dictionary.set(key, std::move(value));
+        return result;
+    });
+}
+
+} // namespace
+
+int appendDictionary(sd_bus_message* message, const PropertyList::Dictionary& dictionary)
+{
+    return appendContainer(message, 'a', "{sv}", [&] {
+        int result = 0;
+        for (auto entry = dictionary.begin(); entry != dictionary.end() && result >= 0; ++entry) {
+            result = appendContainer(message, 'e', "sv", [&] {
+                const int appended = sd_bus_message_append_basic(message, 's', entry->key.c_str());
+                return appended < 0 ? appended : appendVariant(message, entry->value);
+            });
+        }
+        return result;
+    });
+}
+
+int readDictionary(sd_bus_message* message, PropertyList::Dictionary& dictionary)
+{
+    char type = 0;
+    const char* peeked = nullptr;
+    const int result = sd_bus_message_peek_type(message, &type, &peeked);
+    const std::string contents = result > 0 && peeked ? peeked : "";
+    if (type != SD_BUS_TYPE_ARRAY || !contents.starts_with("{s"))
+        return result < 0 ? result : -EINVAL;
+    // An entry's own contents are what stands between the braces.
+    const auto entry = contents.substr(1, contents.size() - 2);
+    return readContainer(message, SD_BUS_TYPE_ARRAY, contents.c_str(), [&] {
+        int entryResult = 1;
+        while (entryResult > 0)
+            entryResult = readEntry(message, entry.c_str(), dictionary);
+        return entryResult;
+    });
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,46 @@
+# Installing what a Debian machine lacks. To be sourced.
+
+# What it takes to build and run the pane.
+run_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-wayland libplist-dev libsystemd-dev nlohmann-json3-dev
+    dbus-daemon fonts-inter
+)
+# What the tests take besides.
+test_packages=(
+    clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
+    python3 xvfb xdotool
+)
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# install_packages NAME…: installs those that are missing, as root or with sudo.
+install_packages() {
+    local missing=() name
+    for name; do
+        is_installed "$name" || missing+=("$name")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Missing packages: ${missing[*]}. Install them as root (apt-get install ${missing[*]}) and try again." >&2
+            exit 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET: configures when that was not done yet, and builds.
+build() {
+    echo "Building $1"
+    [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1"
+}

@@ -1,0 +1,42 @@
+// The table row that holds all eleven sliders.
+#pragma once
+
+#include "platform/UIKit/UILabel.h"
+#include "platform/UIKit/UISlider.h"
+#include "platform/UIKit/UITableViewCell.h"
+
+#include <memory>
+#include <vector>
+
+namespace brimsound {
+
+/// Lists that a pane and its slider cell share.
+using SliderList = std::vector<RetainPtr<UISlider>>;
+using LabelList = std::vector<RetainPtr<UILabel>>;
+
+/// Stretches the sliders with the cell. It holds the pane's own lists, filled or not.
+class BRSliderCell : public UITableViewCell {
+public:
+    using UITableViewCell::UITableViewCell;
+
+    /// The place of a slider within a content view of that width, in points: room for the caption at its
+    /// left, a little space at its right.
+    static constexpr CGFloat sliderX = 35;
+    static constexpr CGFloat sliderWidth(CGFloat contentWidth) { return contentWidth - 40; }
+
+    const std::shared_ptr<SliderList>& sliders() const { return _sliders; }
+    void setSliders(std::shared_ptr<SliderList> sliders) { _sliders = std::move(sliders); }
+    const std::shared_ptr<LabelList>& labels() const { return _labels; }
+    void setLabels(std::shared_ptr<LabelList> labels) { _labels = std::move(labels); }
+
+    void layoutSubviews() override;
+
+protected:
+    ~BRSliderCell() override;
+
+private:
+    std::shared_ptr<SliderList> _sliders;
+    std::shared_ptr<LabelList> _labels;
+};
+
+} // namespace brimsound

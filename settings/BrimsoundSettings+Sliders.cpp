@@ -1,0 +1,91 @@
+#include "platform/AppSupport/CPDistributedMessagingCenter.h"
+#include "platform/CoreFoundation/CFNotificationCenter.h"
+#include "platform/Foundation/NSString.h"
+#include "settings/BrimsoundSettings.h"
+#include "settings/Log.h"
+#include "settings/store/preferences.h"
+#include "settings/tweak.h"
+
+#include <algorithm>
+
+namespace brimsound {
+
+std::size_t BrimsoundSettingsListController::indexOf(const UISlider& slider) const
+{
+    const auto found
+        = std::ranges::find_if(*_sliders, [&](const auto& candidate) { return candidate == &slider; });
+    return static_cast<std::size_t>(found - _sliders->begin());
+}
+
+void BrimsoundSettingsListController::sliderChanged(UISlider& sender)
+{
+    const auto index = indexOf(sender);
+    (*_labels)[index]->setText(stringWithFormat("%.1f", sender.value()));
+
+    if (index != 0 && _autoPreamp) {
+        float highest = -12;
+        for (std::size_t i = 1; i < _sliders->size(); ++i)
+            highest = std::max(highest, (*_sliders)[i]->value());
+        preamp().setValue(-highest);
+        // As if the preamp had been moved: that recolours every band, this one too, and sends once.
+        sliderChanged(preamp());
+        return;
+    }
+    updateSliderColor(sender);
+    sendToMediaServer();
+}
+
+void BrimsoundSettingsListController::sendToMediaServer()
+{
+    PropertyList::Array values;
+    values.reserve(_sliders->size());
+    for (const auto& slider : *_sliders)
+        values.emplace_back(slider->value());
+
+    std::optional<NSError> error;
+    _center->sendMessageAndReceiveReplyName(equalizerSendMessage, { { valsKey, std::move(values) } }, error);
+    if (error) {
+        logLine("ERROR SENDING TO MEDIA SERVER " + error->localizedDescription);
+        openCenter();
+    }
+}
+
+void BrimsoundSettingsListController::sliderStopped(UISlider& sender)
+{
+    const auto index = indexOf(sender);
+    (*_labels)[index]->setText(*FREQUENCY_STRS[index]);
+    if (index != 0)
+        _labels->front()->setText(*FREQUENCY_STRS[0]);
+
+    auto preferences = get_preferences();
+    auto* values = preferences.find(peakingEqValuesKey);
+    if (auto* gains = values ? values->asArray() : nullptr) {
+        for (std::size_t i = 0; i + 1 < _sliders->size() && i < gains->size(); ++i)
+            (*gains)[i] = (*_sliders)[i + 1]->value();
+    }
+    if (index != 0)
+        preferences.remove(selectedPresetKey);
+    preferences.set(preampKey, preamp().value());
+    write_preferences(std::move(preferences));
+
+    auto* center = CFNotificationCenterGetDarwinNotifyCenter();
+    ++_notificationsToSkip;
+    CFNotificationCenterPostNotification(center, settingsFinishedNotification, nullptr, nullptr, true);
+}
+
+void BrimsoundSettingsListController::playlistSaverSelectedPreset(NSObject&, const PropertyList& gains)
+{
+    if (!_sliders || _sliders->size() == 1)
+        return;
+    static const PropertyList::Array none;
+    const auto& values = gains.asArray() ? *gains.asArray() : none;
+    for (std::size_t i = 0; i + 1 < _sliders->size(); ++i) {
+        auto& slider = *(*_sliders)[i + 1];
+        slider.setValue(values.at(i).floatValue());
+        slider.sendActionsForControlEvents(UIControlEventValueChanged);
+        slider.sendActionsForControlEvents(UIControlEventTouchDragInside);
+        slider.sendActionsForControlEvents(UIControlEventTouchUpInside);
+    }
+}
+
+} // namespace brimsound

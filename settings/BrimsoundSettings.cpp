@@ -1,0 +1,168 @@
+#include "settings/BrimsoundSettings.h"
+
+#include "platform/AppSupport/rocketbootstrap.h"
+#include "platform/Foundation/NSBundle.h"
+#include "settings/Log.h"
+#include "settings/store/preferences.h"
+#include "settings/tweak.h"
+
+namespace brimsound {
+
+namespace {
+
+constexpr auto className = "BrimsoundSettingsListController";
+/// The name of both the specifier plist and the strings table.
+constexpr auto resourceName = "BrimsoundSettings";
+
+bool isNegated(const PSSpecifier& specifier)
+{
+    return specifier.propertyForKey("negate").boolValue();
+}
+
+std::string keyOf(const PSSpecifier& specifier)
+{
+    const auto key = specifier.propertyForKey("key");
+    return key.asString() ? *key.asString() : std::string();
+}
+
+} // namespace
+
+std::array<std::optional<std::string>, 11> FREQUENCY_STRS {
+    std::nullopt,
+    "60",
+    "170",
+    "310",
+    "600",
+    "1K",
+    "3K",
+    "6K",
+    "12K",
+    "14K",
+    "16K",
+};
+bool _addedObserver = false;
+bool _autoPreamp = false;
+std::uint32_t _notificationsToSkip = 0;
+BrimsoundSettingsListController* _activeController = nullptr;
+
+void finishSettingsNotification(
+    CFNotificationCenterRef, void*, std::string_view, const void*, const PropertyList::Dictionary*)
+{
+    if (_notificationsToSkip > 0) {
+        --_notificationsToSkip;
+        return;
+    }
+    if (_activeController)
+        _activeController->gotNotification();
+}
+
+BrimsoundSettingsListController::BrimsoundSettingsListController()
+    : PSListController(className)
+{
+}
+
+std::span<const Method> BrimsoundSettingsListController::methods() const
+{
+    using Self = BrimsoundSettingsListController;
+    static const std::array table {
+        method<&Self::gotNotification>("gotNotification"),
+        method<&Self::updateSliderColor>("updateSliderColor:"),
+        method<&Self::sendToMediaServer>("sendToMediaServer"),
+        method<&Self::sliderChanged>("sliderChanged:"),
+        method<&Self::sliderStopped>("sliderStopped:"),
+        method<&Self::updateBlackBar>("updateBlackBar"),
+        method<&Self::setPreferenceValueSpecifier>("setPreferenceValue:specifier:"),
+        method<&Self::readPreferenceValue>("readPreferenceValue:"),
+        method<&Self::playlistSaverSelectedPreset>("playlistSaver:selectedPreset:"),
+        method<&Self::varEnabled>("varEnabled:"),
+        method<&Self::autoPreamp>("autoPreamp"),
+        method<&Self::writeSettings>("writeSettings"),
+        method<&Self::sendSettings>("sendSettings"),
+        method<&Self::settings>("settings"),
+        method<&Self::setSettings>("setSettings:"),
+    };
+    return table;
+}
+
+BrimsoundSettingsListController* BrimsoundSettingsListController::initForContentSize(CGSize size)
+{
+    if (!FREQUENCY_STRS[0]) {
+        FREQUENCY_STRS[0]
+            = NSBundle::bundleForClass(className).localizedStringForKey("PRE", "Pre", resourceName);
+    }
+    if (!PSListController::initForContentSize(size))
+        return nullptr;
+
+    openCenter();
+    if (!_addedObserver) {
+        CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), nullptr,
+            finishSettingsNotification, settingsFinishedNotification, nullptr, 0);
+        _addedObserver = true;
+    }
+    _autoPreamp = autoPreamp().boolValue();
+    _activeController = this;
+    return this;
+}
+
+BrimsoundSettingsListController::~BrimsoundSettingsListController()
+{
+    writeSettings();
+    setSettings({});
+    _sliders = nullptr;
+    _labels = nullptr;
+    _blackBar = nullptr;
+    _center = nullptr;
+    if (_activeController == this)
+        _activeController = nullptr;
+}
+
+const PSListController::Specifiers& BrimsoundSettingsListController::specifiers()
+{
+    if (!_specifiers)
+        _specifiers = loadSpecifiersFromPlistNameTarget(resourceName, *this);
+    return *_specifiers;
+}
+
+void BrimsoundSettingsListController::openCenter()
+{
+    _center = CPDistributedMessagingCenter::centerNamed(messagingCenterName);
+    rocketbootstrap_distributedmessagingcenter_apply(*_center);
+}
+
+void BrimsoundSettingsListController::gotNotification()
+{
+    const auto preferences = get_preferences();
+    const auto* values = preferences.find(peakingEqValuesKey);
+    if (const auto* gains = values ? values->asArray() : nullptr; gains && _sliders) {
+        for (std::size_t i = 1; i < _sliders->size() && i <= gains->size(); ++i)
+            (*_sliders)[i]->setValue((*gains)[i - 1].floatValue());
+    }
+    if (_sliders) {
+        preamp().setValue(floatForKey(preferences, preampKey));
+        updateSliderColor(preamp());
+    }
+    logLine("got notification in settings");
+}
+
+PropertyList BrimsoundSettingsListController::readPreferenceValue(PSSpecifier& specifier)
+{
+    const auto* settings = _settings.asDictionary();
+    const auto* value = settings ? settings->find(keyOf(specifier)) : nullptr;
+    if (!value)
+        return specifier.propertyForKey("default");
+    return isNegated(specifier) ? PropertyList(!value->boolValue()) : *value;
+}
+
+void BrimsoundSettingsListController::setPreferenceValueSpecifier(
+    const PropertyList& value, PSSpecifier& specifier)
+{
+    if (auto* settings = _settings.asDictionary())
+        settings->set(keyOf(specifier), isNegated(specifier) ? PropertyList(!value.boolValue()) : value);
+}
+
+void BrimsoundSettingsListController::suspend()
+{
+    writeSettings();
+}
+
+} // namespace brimsound
