@@ -9,7 +9,7 @@ run_packages=(
 # What the tests take besides.
 test_packages=(
     clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
-    python3 xvfb xdotool
+    locales python3 xvfb xdotool
 )
 
 is_installed() {

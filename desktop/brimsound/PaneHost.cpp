@@ -70,7 +70,8 @@ PaneHost::PaneHost(CGSize size)
 
 PaneHost::~PaneHost()
 {
-    close();
+    // A touch that is still down when the program ends was never let go, so nothing is saved for it.
+    releasePane();
 }
 
 void PaneHost::open()
@@ -89,6 +90,11 @@ void PaneHost::open()
 void PaneHost::close()
 {
     _window->touchCancel();
+    releasePane();
+}
+
+void PaneHost::releasePane()
+{
     static_cast<RootView&>(*_root).setContent(nullptr);
     _controller = nullptr;
 }

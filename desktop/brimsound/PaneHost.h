@@ -24,6 +24,8 @@ public:
     void close();
 
 private:
+    void releasePane();
+
     RetainPtr<Window> _window;
     RetainPtr<UIView> _root;
     RetainPtr<BrimsoundSettingsListController> _controller;

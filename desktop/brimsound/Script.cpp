@@ -60,7 +60,7 @@ double numberFrom(const std::string& word)
     const char* start = word.data() + (word.starts_with('+') ? 1 : 0);
     const char* end = word.data() + word.size();
     const auto [stop, error] = std::from_chars(start, end, number);
-    if (error != std::errc() || stop != end || !std::isfinite(number))
+    if (error != std::errc() || stop != end || !std::isfinite(number) || word.starts_with("+-"))
         throw ScriptError("\"" + word + "\" is not a number");
     return number;
 }

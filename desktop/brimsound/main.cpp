@@ -93,6 +93,7 @@ int run(int argc, char** argv, const Options& options)
     std::unique_ptr<PaneWidget> widget;
     if (!headless) {
         widget = std::make_unique<PaneWidget>(host.window());
+        widget->setWindowTitle(QGuiApplication::applicationDisplayName());
         widget->setMinimumSize(smallestSize);
         widget->show();
     }

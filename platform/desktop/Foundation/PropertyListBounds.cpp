@@ -32,7 +32,7 @@ public:
         _offsetTable = number(trailer + 24, 8).value_or(0);
         if (!count || !root || *count > _contents.size())
             return false;
-        _objects.resize(*count);
+        _measures.resize(*count);
         return measure(*root, 0).has_value();
     }
 
@@ -40,10 +40,6 @@ private:
     struct Measure {
         std::size_t height;
         std::size_t size;
-    };
-    struct Object {
-        bool isBeingMeasured = false;
-        std::optional<Measure> measure;
     };
     /// What the first bytes of an object say: its kind, and its count of bytes or references, which start at
     /// `contents`.
@@ -83,19 +79,14 @@ private:
         return Head { head.kind, *count, head.contents + 1 + size };
     }
 
-    /// Nothing when the object is out of bounds or contains itself.
+    /// Nothing when the object is out of bounds. One that contains itself is deeper than any bound.
     std::optional<Measure> measure(std::size_t index, std::size_t depth)
     {
-        if (index >= _objects.size() || depth > deepestPropertyList)
+        if (index >= _measures.size() || depth > deepestPropertyList)
             return std::nullopt;
-        if (_objects[index].isBeingMeasured)
-            return std::nullopt;
-        if (!_objects[index].measure) {
-            _objects[index].isBeingMeasured = true;
-            _objects[index].measure = measureContents(index, depth);
-            _objects[index].isBeingMeasured = false;
-        }
-        const auto measure = _objects[index].measure;
+        if (!_measures[index])
+            _measures[index] = measureContents(index, depth);
+        const auto measure = _measures[index];
         return measure && depth + measure->height <= deepestPropertyList ? measure : std::nullopt;
     }
 
@@ -128,7 +119,8 @@ private:
     std::size_t _offsetSize = 0;
     std::size_t _referenceSize = 0;
     std::size_t _offsetTable = 0;
-    std::vector<Object> _objects;
+    // Of the objects that have been measured.
+    std::vector<std::optional<Measure>> _measures;
 };
 
 bool isMarkupWithinBounds(std::string_view text)

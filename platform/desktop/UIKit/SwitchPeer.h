@@ -3,6 +3,7 @@
 
 #include "platform/UIKit/UISwitch.h"
 #include "platform/desktop/UIKit/ControlPeer.h"
+#include "platform/desktop/UIKit/Knob.h"
 
 namespace brimsound::desktop {
 
@@ -14,6 +15,8 @@ struct SwitchPeer : ControlPeer {
     /// Where the touch last counted as a draw, and whether it has been one.
     double drawnFrom = 0;
     bool wasDrawn = false;
+
+    SwitchPeer() { overhang = knobShadowReach; }
 
     void beginTracking(CGPoint, Pointer) override;
     void continueTracking(CGPoint) override;

@@ -20,10 +20,7 @@ constexpr double trackHeight = 4;
 struct ThumbPeer : ImagePeer {
     ThumbPeer() { size = { thumbSize, thumbSize }; }
 
-    void draw(Canvas& canvas, const CGRect& rect) const override
-    {
-        drawKnob(canvas, rect);
-    }
+    void draw(Canvas& canvas, const CGRect& rect) const override { drawKnob(canvas, rect); }
 };
 
 // All sliders look alike and share the one thumb.

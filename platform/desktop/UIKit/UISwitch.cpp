@@ -1,7 +1,6 @@
 #include "platform/UIKit/UISwitch.h"
 
 #include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/Knob.h"
 #include "platform/desktop/UIKit/SwitchPeer.h"
 #include "platform/desktop/UIKit/Theme.h"
 

@@ -31,8 +31,8 @@ public:
 
 /// The observer in force; one that ignores everything until another is set.
 EffectObserver& effects();
-/// Sets the observer, which the caller keeps alive; null sets back the one that ignores everything. Returns the one
-/// before, null for the ignoring one.
+/// Sets the observer, which the caller keeps alive; null sets back the one that ignores everything. Returns
+/// the one before, null for the ignoring one.
 EffectObserver* setEffectObserver(EffectObserver*);
 
 } // namespace brimsound::desktop

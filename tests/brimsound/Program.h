@@ -1,0 +1,63 @@
+// The desktop app as a user starts it.
+#pragma once
+
+#include "platform/desktop/process/ChildProcess.h"
+#include "tests/support/TemporaryRoot.h"
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brimsound::tests {
+
+using Json = nlohmann::ordered_json;
+
+/// What a run of the program left behind.
+struct Run {
+    int status;
+    /// Its trace, an object a line.
+    std::vector<Json> trace;
+    std::string errors;
+
+    /// The "effect" of each line.
+    std::vector<std::string> effects() const;
+    /// The lines of one effect.
+    std::vector<Json> all(const std::string& effect) const;
+};
+
+/// Runs the program with the arguments until it ends.
+Run runProgram(const std::vector<std::string>& arguments);
+
+/// Plays a script without a window on the root.
+Run playScript(const TemporaryRoot&, const std::string& script);
+
+/// A program that is told its script line by line while it runs.
+class RunningProgram {
+public:
+    /// Starts it on the root with the script still to come; `more` are further arguments.
+    explicit RunningProgram(const std::filesystem::path& root, const std::vector<std::string>& more);
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+    ~RunningProgram();
+
+    /// Hands over a line.
+    void say(const std::string& line);
+    /// The next line of its trace; null when none comes within ten seconds.
+    Json next();
+    /// The next line with that effect; those before it are dropped.
+    Json next(const std::string& effect);
+    /// Says "state" and gives the answer.
+    Json state();
+
+    desktop::ChildProcess& process() { return *_process; }
+
+private:
+    std::filesystem::path _script;
+    int _input = -1;
+    std::optional<desktop::ChildProcess> _process;
+};
+
+} // namespace brimsound::tests

@@ -1,0 +1,151 @@
+#include "tests/brimsound/Program.h"
+#include "tests/support/EnvironmentVariable.h"
+#include "tests/support/TestBus.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace brimsound::tests {
+namespace {
+
+/// An X server with a screen that nobody sees.
+class Screen {
+public:
+    Screen()
+        : _server({ "Xvfb", "-displayfd", "1", "-screen", "0", "900x1200x24", "-nolisten", "tcp" },
+            desktop::ChildProcess::Output::Piped)
+    {
+        const auto number = _server.readLine(std::chrono::seconds(20));
+        if (!number)
+            throw std::runtime_error("Xvfb did not start");
+        name = ":" + *number;
+    }
+
+    std::string name;
+
+private:
+    desktop::ChildProcess _server;
+};
+
+class ARealWindow : public testing::Test {
+protected:
+    ARealWindow()
+        : _display("DISPLAY", _screen.name.c_str())
+        , _wayland("WAYLAND_DISPLAY", nullptr)
+        , _platform("QT_QPA_PLATFORM", nullptr)
+        , pane(root.path(), {})
+    {
+        // Answers once the window is up.
+        pane.say("wait 0.2");
+        pane.state();
+    }
+
+    /// Lets xdotool do something with the window, and waits until it is done.
+    void point(std::vector<std::string> actions)
+    {
+        std::vector<std::string> command { "xdotool", "search", "--onlyvisible", "--name", "Brimsound" };
+        command.insert(command.end(), actions.begin(), actions.end());
+        desktop::ChildProcess xdotool(command);
+        ASSERT_EQ(xdotool.exitStatus(std::chrono::seconds(20)), 0);
+        // The pane sees to its window while it waits for a line.
+        pane.say("wait 0.2");
+    }
+
+private:
+    Screen _screen;
+    EnvironmentVariable _display;
+    EnvironmentVariable _wayland;
+    EnvironmentVariable _platform;
+    TestBus _bus;
+
+protected:
+    TemporaryRoot root;
+    RunningProgram pane;
+};
+
+/// Effects and messages of a gesture until its notification came back.
+std::vector<Json> gesture(RunningProgram& pane)
+{
+    std::vector<Json> lines;
+    do {
+        lines.push_back(pane.next());
+    } while (!lines.back().is_null() && lines.back().at("effect") != "delivered");
+    return lines;
+}
+
+TEST_F(ARealWindow, DoesForAPointerWhatItDoesForAScript)
+{
+    // The third band's thumb as the first screen shows it.
+    point({ "mousemove", "--window", "%1", "175", "541", "mousedown", "1" });
+    const auto touched = pane.next();
+    EXPECT_EQ(touched.at("effect"), "message");
+    EXPECT_EQ(touched.at("vals"), Json(std::vector<double>(11, 0.0)));
+
+    point({ "mousemove", "--window", "%1", "200", "541", "mousemove", "--window", "%1", "238", "541" });
+    point({ "mouseup", "1" });
+    auto byPointer = gesture(pane);
+    ASSERT_GE(byPointer.size(), 4u);
+    const auto lastDrag = byPointer[byPointer.size() - 4];
+    EXPECT_EQ(lastDrag.at("effect"), "message");
+    EXPECT_EQ(lastDrag.at("vals")[3], 6.0);
+    EXPECT_EQ(lastDrag.at("vals")[0], -6.0);
+    const auto pointed = pane.state();
+
+    pane.say("touch 3");
+    pane.say("drag 3 0");
+    pane.say("drag 3 6");
+    pane.say("lift 3");
+    pane.say("wait 0.1");
+    const auto byScript = gesture(pane);
+    EXPECT_EQ(byScript[byScript.size() - 4], lastDrag);
+    for (std::size_t fromEnd = 1; fromEnd <= 4; ++fromEnd)
+        EXPECT_EQ(byScript[byScript.size() - fromEnd], byPointer[byPointer.size() - fromEnd]);
+    EXPECT_EQ(pane.state(), pointed);
+}
+
+TEST_F(ARealWindow, ScrollsByTheWheelWithoutMovingASlider)
+{
+    const auto before = pane.state();
+    point({ "mousemove", "--window", "%1", "175", "541", "click", "5", "click", "5" });
+    EXPECT_EQ(pane.state(), before);
+    // What lay under the pointer has moved up: the same place now holds a lower slider.
+    point({ "mousedown", "1", "mouseup", "1" });
+    const auto pressed = pane.next();
+    EXPECT_EQ(pressed.at("effect"), "message");
+}
+
+TEST_F(ARealWindow, CanBeResized)
+{
+    pane.say("resize 400 700");
+    pane.say("wait 0.2");
+    pane.say("touch 0");
+    pane.say("drag 0 6");
+    // The sliders are as wide as the row but for 40 points, and the thumb's centre keeps 14 from their ends.
+    const double bar = pane.state().at("blackBar")[0];
+    EXPECT_NEAR(bar, 35 + 14 + (360 - 28) * (12 - 6) / 24.0, 1e-4);
+}
+
+TEST_F(ARealWindow, HearsOfOtherProcessesByItself)
+{
+    root.write("/var/mobile/Library/Preferences/com.quorvix.brimsound.plist",
+        "<plist><dict><key>PREAMP</key><real>-5</real></dict></plist>");
+    pane.say("post com.quorvix.brimsound.settingsfinishnotify");
+    EXPECT_EQ(pane.next("delivered").at("effect"), "delivered");
+    EXPECT_EQ(pane.state().at("sliders")[0], -5.0);
+}
+
+TEST(AProgramThatCannotReachItsDisplay, IsHeadlessByItself)
+{
+    const EnvironmentVariable display("DISPLAY", ":4711");
+    const EnvironmentVariable platform("QT_QPA_PLATFORM", nullptr);
+    const TemporaryRoot root;
+    const TestBus bus;
+    const auto run = runProgram({ "--root", root.path(), "--snapshot", root.path() / "pane.png" });
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_TRUE(std::filesystem::exists(root.path() / "pane.png"));
+}
+
+} // namespace
+} // namespace brimsound::tests

@@ -1,0 +1,93 @@
+#include "platform/Foundation/NSObject.h"
+
+#include <gmock/gmock.h>
+
+#include <array>
+#include <string>
+
+namespace brimsound {
+
+namespace {
+
+class Greeter : public NSObject {
+public:
+    explicit Greeter(bool& destroyed)
+        : _destroyed(destroyed)
+    {
+    }
+    ~Greeter() override { _destroyed = true; }
+
+    std::span<const Method> methods() const override
+    {
+        static const std::array table {
+            method<&Greeter::greet>("greet:"),
+            method<&Greeter::greetTwice>("greetTwice:"),
+            method<&Greeter::greeting>("greeting"),
+        };
+        return table;
+    }
+
+    void greet(const PropertyList& whom) { _greeting += *whom.asString(); }
+    void greetTwice(Greeter& other)
+    {
+        greet("hello");
+        other.greet("hello");
+    }
+    PropertyList greeting() { return _greeting; }
+
+private:
+    bool& _destroyed;
+    std::string _greeting;
+};
+
+} // namespace
+
+TEST(AnObject, IsBornWithOneReferenceAndDestroyedWithTheLastOne)
+{
+    bool destroyed = false;
+    auto object = make<Greeter>(destroyed);
+    EXPECT_EQ(object->retainCount(), 1u);
+    {
+        const auto second = object;
+        EXPECT_EQ(object->retainCount(), 2u);
+    }
+    EXPECT_EQ(object->retainCount(), 1u);
+    EXPECT_FALSE(destroyed);
+
+    object = nullptr;
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(AnObject, RespondsToTheSelectorsOfItsTableOnly)
+{
+    bool destroyed = false;
+    const auto object = make<Greeter>(destroyed);
+    EXPECT_TRUE(object->respondsToSelector("greet:"));
+    EXPECT_FALSE(object->respondsToSelector("greet"));
+    EXPECT_FALSE(object->respondsToSelector(""));
+    EXPECT_EQ(object->methodForSelector("leave"), nullptr);
+}
+
+TEST(CallingAMethodByName, HandsOverItsArgumentsAndGivesItsResult)
+{
+    bool destroyed = false;
+    const auto object = make<Greeter>(destroyed);
+    const PropertyList name = "world";
+    const std::array<Argument, 2> arguments { &name, object.get() };
+
+    EXPECT_TRUE(object->methodForSelector("greet:")->invoke(*object, arguments).isNull());
+    EXPECT_EQ(object->methodForSelector("greeting")->invoke(*object, {}), PropertyList("world"));
+}
+
+TEST(CallingAMethodByName, DoesNothingWhenAnArgumentIsMissingOrOfTheOtherKind)
+{
+    bool destroyed = false;
+    const auto object = make<Greeter>(destroyed);
+    const std::array<Argument, 1> anObject { object.get() };
+
+    object->methodForSelector("greet:")->invoke(*object, {});
+    object->methodForSelector("greet:")->invoke(*object, anObject);
+    EXPECT_EQ(object->greeting(), PropertyList(""));
+}
+
+} // namespace brimsound

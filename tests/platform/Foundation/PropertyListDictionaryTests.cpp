@@ -1,0 +1,94 @@
+#include "platform/Foundation/PropertyList.h"
+
+#include <gmock/gmock.h>
+
+namespace brimsound {
+
+using testing::ElementsAre;
+
+namespace {
+
+std::vector<std::string> keysOf(const PropertyList::Dictionary& dictionary)
+{
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : dictionary)
+        keys.push_back(key);
+    return keys;
+}
+
+PropertyList::Dictionary longDictionary(int size)
+{
+    PropertyList::Dictionary dictionary;
+    for (int i = 0; i < size; ++i)
+        dictionary.set(std::to_string(i), i);
+    return dictionary;
+}
+
+} // namespace
+
+TEST(ADictionary, KeepsTheOrderInWhichItsKeysWereSet)
+{
+    PropertyList::Dictionary dictionary { { "b", 1 }, { "a", 2 }, { "c", 3 } };
+    dictionary.set("a", 4);
+    dictionary.set("aa", 5);
+    EXPECT_THAT(keysOf(dictionary), ElementsAre("b", "a", "c", "aa"));
+    EXPECT_EQ(*dictionary.find("a"), PropertyList(4));
+}
+
+TEST(ADictionary, ForgetsWhatIsRemoved)
+{
+    PropertyList::Dictionary dictionary { { "a", 1 }, { "b", 2 }, { "c", 3 } };
+    dictionary.remove("b");
+    dictionary.remove("nothing");
+    EXPECT_THAT(keysOf(dictionary), ElementsAre("a", "c"));
+    EXPECT_EQ(dictionary.find("b"), nullptr);
+
+    dictionary.set("b", 4);
+    EXPECT_THAT(keysOf(dictionary), ElementsAre("a", "c", "b"));
+}
+
+TEST(ADictionary, EqualsOneWithTheSameEntriesInAnotherOrder)
+{
+    const PropertyList::Dictionary dictionary { { "a", 1 }, { "b", 2 } };
+    EXPECT_EQ(dictionary, (PropertyList::Dictionary { { "b", 2 }, { "a", 1 } }));
+    EXPECT_FALSE(dictionary == (PropertyList::Dictionary { { "a", 1 }, { "b", 3 } }));
+    EXPECT_FALSE(dictionary == (PropertyList::Dictionary { { "a", 1 }, { "c", 2 } }));
+    EXPECT_FALSE(dictionary == (PropertyList::Dictionary { { "a", 1 } }));
+}
+
+TEST(ADictionary, GivesAFloatForAKeyAndZeroWithoutOne)
+{
+    const PropertyList::Dictionary dictionary { { "PREAMP", "3.5" } };
+    EXPECT_EQ(floatForKey(dictionary, "PREAMP"), 3.5f);
+    EXPECT_EQ(floatForKey(dictionary, "TREBLE"), 0);
+}
+
+TEST(ALongDictionary, FindsItsKeysAfterEveryChange)
+{
+    constexpr int size = 1000;
+    auto dictionary = longDictionary(size);
+    ASSERT_NE(dictionary.find("999"), nullptr);
+
+    dictionary.remove("500");
+    dictionary.set("more", "more");
+    EXPECT_EQ(dictionary.find("500"), nullptr);
+    EXPECT_EQ(*dictionary.find("501"), PropertyList(501));
+    EXPECT_EQ(*dictionary.find("more"), PropertyList("more"));
+
+    const auto copy = dictionary;
+    const auto moved = std::move(dictionary);
+    EXPECT_EQ(*copy.find("999"), PropertyList(999));
+    EXPECT_EQ(*moved.find("999"), PropertyList(999));
+    EXPECT_EQ(copy, moved);
+}
+
+TEST(ALongDictionary, IsNotSearchedThroughForEveryKey)
+{
+    // Searching through it would compare five billion keys.
+    constexpr int size = 100'000;
+    const auto dictionary = longDictionary(size);
+    for (int i = 0; i < size; ++i)
+        ASSERT_EQ(dictionary.find(std::to_string(i))->integerValue(), i);
+}
+
+} // namespace brimsound

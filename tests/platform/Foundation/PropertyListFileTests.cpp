@@ -1,0 +1,407 @@
+#include "platform/Foundation/PropertyListSerialization.h"
+
+#include "platform/desktop/process/ChildProcess.h"
+#include "tests/support/RecordingEffects.h"
+#include "tests/support/TemporaryRoot.h"
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <cstdio>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace brimsound {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using tests::RecordingEffects;
+using tests::TemporaryRoot;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr auto path = "/values.plist";
+constexpr auto binary = NSPropertyListFormat::BinaryFormat_v1_0;
+constexpr auto xml = NSPropertyListFormat::XMLFormat_v1_0;
+
+PropertyList everything()
+{
+    PropertyList::Dictionary dictionary;
+    dictionary.set("yes", true);
+    dictionary.set("no", false);
+    dictionary.set("one", 1);
+    dictionary.set("minus", -5);
+    dictionary.set("smallest", std::numeric_limits<std::int64_t>::min());
+    dictionary.set("largest", std::numeric_limits<std::int64_t>::max());
+    dictionary.set("single", 5.8064516f);
+    dictionary.set("double", 0.1);
+    dictionary.set("text", "\xf0\x9f\x8e\xa7 Bässe & <Höhen>");
+    dictionary.set("empty", "");
+    dictionary.set("data", PropertyList::Data { std::byte { 0 }, std::byte { 255 }, std::byte { 7 } });
+    dictionary.set("no data", PropertyList::Data {});
+    dictionary.set("date", PropertyList::Date { 700'000'000 });
+    dictionary.set("array", PropertyList::Array { 1, "two", PropertyList::Array {} });
+    dictionary.set("a", PropertyList::Dictionary { { "z", 1 }, { "y", PropertyList::Dictionary {} } });
+    return dictionary;
+}
+
+std::string text(const PropertyList::Data& data)
+{
+    return { reinterpret_cast<const char*>(data.data()), data.size() };
+}
+
+PropertyList::Data data(std::string_view bytes)
+{
+    const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
+    return { first, first + bytes.size() };
+}
+
+std::string repeat(std::string_view part, int times)
+{
+    std::string all;
+    for (int i = 0; i < times; ++i)
+        all += part;
+    return all;
+}
+
+// A binary property list whose objects, the root first, are given as bytes; references are two bytes long.
+std::string binaryFile(const std::vector<std::string>& objects)
+{
+    const auto bigEndian = [](std::uint64_t value, int size) {
+        std::string bytes;
+        for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
+            bytes += static_cast<char>(value >> shift);
+        return bytes;
+    };
+    std::string file = "bplist00";
+    std::string offsets;
+    for (const auto& object : objects) {
+        offsets += bigEndian(file.size(), 4);
+        file += object;
+    }
+    const auto offsetTable = file.size();
+    return file + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(objects.size(), 8) + bigEndian(0, 8)
+        + bigEndian(offsetTable, 8);
+}
+
+std::string arrayOf(std::initializer_list<int> references)
+{
+    std::string object(1, static_cast<char>(0xa0 + references.size()));
+    for (const int reference : references) {
+        object += static_cast<char>(reference >> 8);
+        object += static_cast<char>(reference);
+    }
+    return object;
+}
+
+// What Python's independent reader makes of the file.
+std::string readByPython(const fs::path& file)
+{
+    desktop::ChildProcess python({ "python3", "-c",
+                                     "import plistlib, sys\n"
+                                     "print(ascii(plistlib.load(open(sys.argv[1], 'rb'))))",
+                                     file },
+        desktop::ChildProcess::Output::Piped);
+    return python.readLine(std::chrono::seconds(30)).value_or("unreadable");
+}
+
+class ReadingAPropertyListFile : public testing::Test {
+protected:
+    std::optional<PropertyList> reading(std::string_view contents)
+    {
+        root.write(path, contents);
+        return readPropertyListFile(path);
+    }
+
+    TemporaryRoot root;
+};
+
+class WritingAPropertyListFile : public testing::Test {
+protected:
+    std::optional<PropertyList> rereading(const PropertyList& value, NSPropertyListFormat format)
+    {
+        const auto bytes = dataWithPropertyList(value, format, 0);
+        if (!bytes || !writeToFile(*bytes, path, Atomically::No))
+            return std::nullopt;
+        return readPropertyListFile(path);
+    }
+
+    fs::path file() const { return root.path() / "values.plist"; }
+
+    TemporaryRoot root;
+    RecordingEffects effects;
+};
+
+ino_t inodeOf(const fs::path& file)
+{
+    struct stat status { };
+    stat(file.c_str(), &status);
+    return status.st_ino;
+}
+
+} // namespace
+
+TEST_F(ReadingAPropertyListFile, KeepsTheOrderAndTypesOfXML)
+{
+    const auto value
+        = reading("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+                  "<plist version=\"1.0\"><dict><key>z</key><integer>-3</integer><key>a</key><true/>"
+                  "<key>m</key><real>2.5</real><key>t</key><string>a &amp; b</string></dict></plist>");
+    ASSERT_TRUE(value && value->asDictionary());
+    const auto& dictionary = *value->asDictionary();
+    EXPECT_EQ(dictionary,
+        (PropertyList::Dictionary { { "z", -3 }, { "a", true }, { "m", 2.5 }, { "t", "a & b" } }));
+    EXPECT_EQ(dictionary.begin()[0].key, "z");
+    EXPECT_EQ(dictionary.begin()[1].key, "a");
+    EXPECT_EQ(dictionary.begin()[2].key, "m");
+}
+
+TEST_F(ReadingAPropertyListFile, GivesATopLevelOfAnyType)
+{
+    EXPECT_EQ(reading("<plist><string>text</string></plist>"), PropertyList("text"));
+    EXPECT_EQ(reading("<plist><array/></plist>"), PropertyList(PropertyList::Array {}));
+    EXPECT_EQ(reading(binaryFile({ std::string("\x10\x2a") })), PropertyList(42));
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingWithoutAFile)
+{
+    EXPECT_EQ(readPropertyListFile("/missing.plist"), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForADirectory)
+{
+    EXPECT_EQ(readPropertyListFile("/var"), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForAPipeWithoutWaitingForIt)
+{
+    ASSERT_EQ(mkfifo((root.path() / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(readPropertyListFile("/pipe"), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForADevice)
+{
+    fs::create_symlink("/dev/zero", root.path() / "device");
+    EXPECT_EQ(readPropertyListFile("/device"), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForWhatIsNoPropertyList)
+{
+    testing::internal::CaptureStderr();
+    for (auto* contents :
+        { "", " ", "garbage", "bplist00", "bplist00 and then nothing that makes sense, at length", "<plist>",
+            "<plist/>", "<html></html>", "<plist><dict><key>a</key>", "\xff\xfe\x01" })
+        EXPECT_EQ(reading(contents), std::nullopt) << contents;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatBreaksOff)
+{
+    const auto whole = text(*dataWithPropertyList(everything(), binary, 0));
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_EQ(reading(whole.substr(0, length)), std::nullopt) << length;
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForContainersNestedWithoutEnd)
+{
+    constexpr int depth = 200'000;
+    EXPECT_EQ(
+        reading("<plist>" + repeat("<array>", depth) + repeat("</array>", depth) + "</plist>"), std::nullopt);
+
+    std::vector<std::string> objects;
+    for (int i = 0; i < 60'000; ++i)
+        objects.push_back(arrayOf({ i + 1 }));
+    objects.push_back("\x09");
+    EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, TakesContainersNestedDeep)
+{
+    constexpr int depth = 500;
+    EXPECT_NE(
+        reading("<plist>" + repeat("<array>", depth) + repeat("</array>", depth) + "</plist>"), std::nullopt);
+
+    std::vector<std::string> objects;
+    for (int i = 0; i < depth; ++i)
+        objects.push_back(arrayOf({ i + 1 }));
+    objects.push_back("\x09");
+    EXPECT_NE(reading(binaryFile(objects)), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForAnArrayThatContainsItself)
+{
+    EXPECT_EQ(reading(binaryFile({ arrayOf({ 0 }) })), std::nullopt);
+    EXPECT_EQ(reading(binaryFile({ arrayOf({ 1 }), arrayOf({ 0 }) })), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, TakesSharedObjects)
+{
+    const PropertyList two = PropertyList::Array { true, true };
+    EXPECT_EQ(reading(binaryFile({ arrayOf({ 1, 1 }), arrayOf({ 2, 2 }), "\x09" })),
+        PropertyList(PropertyList::Array { two, two }));
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
+{
+    std::vector<std::string> objects;
+    for (int i = 0; i < 100; ++i)
+        objects.push_back(arrayOf({ i + 1, i + 1 }));
+    objects.push_back("\x09");
+    EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForReferencesToNowhere)
+{
+    EXPECT_EQ(reading(binaryFile({ arrayOf({ 7 }) })), std::nullopt);
+}
+
+TEST_F(WritingAPropertyListFile, KeepsEveryTypeInBothFormats)
+{
+    EXPECT_EQ(rereading(everything(), binary), everything());
+    EXPECT_THAT(root.read(path), testing::StartsWith("bplist00"));
+    EXPECT_EQ(rereading(everything(), xml), everything());
+    EXPECT_THAT(root.read(path), testing::StartsWith("<?xml"));
+}
+
+TEST_F(WritingAPropertyListFile, KeepsTheOrderOfADictionary)
+{
+    const PropertyList value
+        = PropertyList::Dictionary { { "PREAMP", 0.0 }, { "ENABLED", true }, { "AUTO_PREAMP", false } };
+    const auto read = rereading(value, binary);
+    ASSERT_TRUE(read);
+    std::vector<std::string> keys;
+    for (const auto& [key, ignored] : *read->asDictionary())
+        keys.push_back(key);
+    EXPECT_THAT(keys, ElementsAre("PREAMP", "ENABLED", "AUTO_PREAMP"));
+}
+
+TEST_F(WritingAPropertyListFile, MakesAFileThatOthersReadAlike)
+{
+    rereading(everything(), binary);
+    EXPECT_EQ(readByPython(file()),
+        "{'yes': True, 'no': False, 'one': 1, 'minus': -5, 'smallest': -9223372036854775808, "
+        "'largest': 9223372036854775807, 'single': 5.806451797485352, 'double': 0.1, "
+        "'text': '\\U0001f3a7 B\\xe4sse & <H\\xf6hen>', 'empty': '', 'data': b'\\x00\\xff\\x07', 'no data': "
+        "b'', "
+        "'date': datetime.datetime(2023, 3, 8, 20, 26, 40), 'array': [1, 'two', []], 'a': {'z': 1, 'y': "
+        "{}}}");
+}
+
+TEST_F(WritingAPropertyListFile, TakesFourBytesForARealOfSinglePrecision)
+{
+    const auto single = text(*dataWithPropertyList(PropertyList::Array { 5.8064516f, -12.0 }, binary, 0));
+    EXPECT_THAT(single, HasSubstr("\x22\x40\xb9\xce\x74"));
+    EXPECT_THAT(single, HasSubstr(std::string("\x22\xc1\x40\x00\x00", 5)));
+
+    const auto exact = text(*dataWithPropertyList(PropertyList::Array { 0.1 }, binary, 0));
+    EXPECT_THAT(exact, HasSubstr("\x23\x3f\xb9\x99\x99\x99\x99\x99\x9a"));
+}
+
+TEST_F(WritingAPropertyListFile, GivesNoDataForWhatHoldsNull)
+{
+    EXPECT_EQ(dataWithPropertyList({}, binary, 0), std::nullopt);
+    EXPECT_EQ(dataWithPropertyList(PropertyList::Array { 1, {} }, binary, 0), std::nullopt);
+    const PropertyList nested = PropertyList::Dictionary { { "a", PropertyList::Array { PropertyList() } } };
+    EXPECT_EQ(dataWithPropertyList(nested, binary, 0), std::nullopt);
+    EXPECT_EQ(dataWithPropertyList(nested, xml, 0), std::nullopt);
+}
+
+TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNoText)
+{
+    for (auto* bytes : { "\xff", "a\xc3", "\x80", "\xe2\x82", "\xc0\x80" })
+        EXPECT_EQ(dataWithPropertyList(bytes, binary, 0), std::nullopt) << bytes;
+    EXPECT_EQ(dataWithPropertyList(PropertyList::Dictionary { { "\xff", 1 } }, binary, 0), std::nullopt);
+    EXPECT_EQ(dataWithPropertyList(std::string("a\0b", 3), binary, 0), std::nullopt);
+}
+
+TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNestedTooDeepToBeReadAgain)
+{
+    PropertyList deep = 1;
+    for (int i = 0; i < 600; ++i)
+        deep = PropertyList::Array { std::move(deep) };
+    EXPECT_EQ(dataWithPropertyList(deep, binary, 0), std::nullopt);
+}
+
+TEST_F(WritingAPropertyListFile, TakesTenThousandPresets)
+{
+    PropertyList::Dictionary presets;
+    for (int i = 0; i < 10'000; ++i)
+        presets.set("Preset " + std::to_string(i), PropertyList::Array(10, PropertyList(0.5f)));
+    EXPECT_EQ(rereading(presets, binary), PropertyList(presets));
+}
+
+TEST_F(WritingAPropertyListFile, InPlaceKeepsTheFileAndCutsItOff)
+{
+    root.write(path, "an older and longer text");
+    const auto inode = inodeOf(file());
+    EXPECT_TRUE(writeToFile(data("new"), path, Atomically::No));
+    EXPECT_EQ(root.read(path), "new");
+    EXPECT_EQ(inodeOf(file()), inode);
+}
+
+TEST_F(WritingAPropertyListFile, AtomicallyPutsANewFileInItsPlace)
+{
+    root.write(path, "old");
+    fs::create_hard_link(file(), root.path() / "old.plist");
+    EXPECT_TRUE(writeToFile(data("new"), path, Atomically::Yes));
+    EXPECT_EQ(root.read(path), "new");
+    EXPECT_EQ(root.read("/old.plist"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(root.path()), {}), 3) << "a temporary file was left";
+}
+
+TEST_F(WritingAPropertyListFile, MakesItForTheUserAlone)
+{
+    for (const auto atomically : { Atomically::No, Atomically::Yes }) {
+        fs::remove(file());
+        ASSERT_TRUE(writeToFile(data("new"), path, atomically));
+        EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    }
+}
+
+TEST_F(WritingAPropertyListFile, IsAnEffectOnceItIsDone)
+{
+    writeToFile(data("new"), path, Atomically::No);
+    writeToFile(data("new"), "/other.plist", Atomically::Yes);
+    EXPECT_THAT(effects.trace(), ElementsAre("write /values.plist", "write /other.plist"));
+}
+
+TEST_F(WritingAPropertyListFile, MakesNoFolders)
+{
+    for (const auto atomically : { Atomically::No, Atomically::Yes })
+        EXPECT_FALSE(writeToFile(data("new"), "/missing/values.plist", atomically));
+    EXPECT_FALSE(root.contains("/missing"));
+    EXPECT_THAT(effects.trace(), IsEmpty());
+}
+
+TEST_F(WritingAPropertyListFile, InPlaceRefusesWhatIsNoFileWithoutWaitingForIt)
+{
+    ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
+    EXPECT_FALSE(writeToFile(data("new"), path, Atomically::No));
+    EXPECT_FALSE(writeToFile(data("new"), "/var", Atomically::No));
+    EXPECT_THAT(effects.trace(), IsEmpty());
+}
+
+TEST_F(WritingAPropertyListFile, FailsWhenTheDiskTakesOnlyAPart)
+{
+    rlimit before {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small { 1000, before.rlim_max };
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    root.write("/kept.plist", "old");
+    const PropertyList::Data large(5000);
+    EXPECT_FALSE(writeToFile(large, path, Atomically::No));
+    EXPECT_FALSE(writeToFile(large, "/kept.plist", Atomically::Yes));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handlerBefore);
+
+    EXPECT_EQ(root.read("/kept.plist"), "old");
+    EXPECT_THAT(effects.trace(), IsEmpty());
+    EXPECT_EQ(std::distance(fs::directory_iterator(root.path()), {}), 3) << "a temporary file was left";
+}
+
+} // namespace brimsound

@@ -1,0 +1,46 @@
+// The world around a pane under test. One implementation for each platform is linked in, so that the
+// behaviour tests are the same sources everywhere.
+#pragma once
+
+#include "platform/Foundation/PropertyList.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brimsound::tests {
+
+/// A fresh device for one test: no preferences file, nobody listening, a media server that answers.
+class TestPlatform {
+public:
+    TestPlatform();
+    TestPlatform(const TestPlatform&) = delete;
+    TestPlatform& operator=(const TestPlatform&) = delete;
+    ~TestPlatform();
+
+    /// What the pane did to the outside world since the last call, in order: "message NAME" ("message NAME
+    /// failed"), "post NAME", "deliver NAME", "write PATH", "log TEXT".
+    std::vector<std::string> takeTrace();
+    /// The user info of every message sent since the start.
+    std::vector<PropertyList::Dictionary> messages() const;
+
+    /// Runs the main loop until every notification that was posted has been delivered.
+    void deliverNotifications();
+    void postFromAnotherProcess(const std::string& name);
+
+    /// The media server goes away, or comes back.
+    void stopMediaServer();
+    void startMediaServer();
+
+    /// Puts bytes, or a property list in the XML format, into the preferences file's place.
+    void writePreferencesFile(const std::string& bytes);
+    void writePreferencesFile(const PropertyList&);
+    /// The file's bytes; empty when there is no file.
+    std::string preferencesFile() const;
+
+private:
+    struct Device;
+    std::unique_ptr<Device> _device;
+};
+
+} // namespace brimsound::tests

@@ -1,0 +1,37 @@
+// An environment variable for the length of a test.
+#pragma once
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+namespace brimsound::tests {
+
+/// Sets a variable, or removes it when the value is null; puts back what was there when it goes.
+class EnvironmentVariable {
+public:
+    EnvironmentVariable(const char* name, const char* value)
+        : _name(name)
+    {
+        if (const char* before = std::getenv(name))
+            _before = before;
+        set(value);
+    }
+    EnvironmentVariable(const EnvironmentVariable&) = delete;
+    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+    ~EnvironmentVariable() { set(_before ? _before->c_str() : nullptr); }
+
+private:
+    void set(const char* value)
+    {
+        if (value)
+            setenv(_name, value, 1);
+        else
+            unsetenv(_name);
+    }
+
+    const char* _name;
+    std::optional<std::string> _before;
+};
+
+} // namespace brimsound::tests

@@ -1,0 +1,49 @@
+#include "tests/support/RecordingEffects.h"
+
+#include <utility>
+
+namespace brimsound::tests {
+
+RecordingEffects::RecordingEffects()
+    : _before(desktop::setEffectObserver(this))
+{
+}
+
+RecordingEffects::~RecordingEffects()
+{
+    desktop::setEffectObserver(_before);
+}
+
+std::vector<std::string> RecordingEffects::takeTrace()
+{
+    return std::exchange(_trace, {});
+}
+
+void RecordingEffects::messageSent(
+    const std::string& name, const PropertyList::Dictionary& userInfo, const NSError* error)
+{
+    record("message " + name + (error ? " failed" : ""));
+    _messages.push_back({ name, userInfo, error ? std::optional(*error) : std::nullopt });
+}
+
+void RecordingEffects::notificationPosted(const std::string& name)
+{
+    record("post " + name);
+}
+
+void RecordingEffects::notificationDelivered(std::string_view name)
+{
+    record("deliver " + std::string(name));
+}
+
+void RecordingEffects::fileWritten(const std::string& path)
+{
+    record("write " + path);
+}
+
+void RecordingEffects::lineLogged(std::string_view text)
+{
+    record("log " + std::string(text));
+}
+
+} // namespace brimsound::tests

@@ -1,0 +1,52 @@
+// The effects of a test, in order.
+#pragma once
+
+#include "platform/desktop/effects/Effects.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brimsound::tests {
+
+/// Is the effect observer until it goes; then the one before is again.
+class RecordingEffects : public desktop::EffectObserver {
+public:
+    /// A message as it was sent.
+    struct Message {
+        std::string name;
+        PropertyList::Dictionary userInfo;
+        std::optional<NSError> error;
+    };
+
+    RecordingEffects();
+    RecordingEffects(const RecordingEffects&) = delete;
+    RecordingEffects& operator=(const RecordingEffects&) = delete;
+    ~RecordingEffects() override;
+
+    /// One line for each effect so far: "message NAME" ("message NAME failed" when no reply came), "post
+    /// NAME", "deliver NAME", "write DEVICEPATH", "log TEXT".
+    const std::vector<std::string>& trace() const { return _trace; }
+    /// The trace so far, which then starts anew.
+    std::vector<std::string> takeTrace();
+
+    /// Every message since the start.
+    const std::vector<Message>& messages() const { return _messages; }
+
+    void messageSent(const std::string&, const PropertyList::Dictionary&, const NSError*) override;
+    void notificationPosted(const std::string&) override;
+    void notificationDelivered(std::string_view) override;
+    void fileWritten(const std::string&) override;
+    void lineLogged(std::string_view) override;
+
+protected:
+    /// For observers that know of further effects.
+    void record(std::string line) { _trace.push_back(std::move(line)); }
+
+private:
+    EffectObserver* _before;
+    std::vector<std::string> _trace;
+    std::vector<Message> _messages;
+};
+
+} // namespace brimsound::tests
