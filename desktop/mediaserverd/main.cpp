@@ -51,7 +51,7 @@ Options readOptions(int argumentCount, char** arguments)
         {},
     };
     Options options;
-    for (int letter; (letter = getopt_long(argumentCount, arguments, "", known, nullptr)) != -1;) {
+    for (int letter = 0; (letter = getopt_long(argumentCount, arguments, "", known, nullptr)) != -1;) {
         switch (letter) {
         case 'p':
             options.print = true;

@@ -11,7 +11,6 @@ namespace brimsound::tests {
 namespace {
 
 using testing::AllOf;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -22,7 +21,7 @@ constexpr auto preferences = "/var/mobile/Library/Preferences/com.quorvix.brimso
 
 Json flat()
 {
-    return Json(std::vector<double>(11, 0.0));
+    return std::vector<double>(11, 0.0);
 }
 
 /// Eleven zeros but for those given.

@@ -10,7 +10,6 @@
 namespace brimsound::tests {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::StartsWith;
 
@@ -19,7 +18,7 @@ protected:
     BandEdit() { _notificationsToSkip = 0; }
 
     /// What a pane writes, with the rest of the file given.
-    void store(PropertyList::Dictionary preferences)
+    void store(const PropertyList::Dictionary& preferences)
     {
         platform.writePreferencesFile(PropertyList(preferences));
     }

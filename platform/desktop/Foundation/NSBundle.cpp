@@ -15,12 +15,12 @@ std::vector<std::string> resourceFolders()
 {
     std::vector<std::string> folders;
     for (const auto& language : preferredLanguages()) {
-        folders.push_back("/" + language + ".lproj");
+        folders.emplace_back("/" + language + ".lproj");
         if (const auto region = language.find('-'); region != std::string::npos)
-            folders.push_back("/" + language.substr(0, region) + ".lproj");
+            folders.emplace_back("/" + language.substr(0, region) + ".lproj");
     }
-    folders.push_back("/en.lproj");
-    folders.push_back("");
+    folders.emplace_back("/en.lproj");
+    folders.emplace_back("");
     return folders;
 }
 

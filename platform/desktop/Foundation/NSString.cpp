@@ -2,7 +2,6 @@
 
 #include <clocale>
 #include <cstdio>
-#include <locale.h>
 
 namespace brimsound {
 

@@ -74,7 +74,7 @@ PropertyList::Data fromData(plist_t node)
 {
     std::uint64_t length = 0;
     const auto* bytes = reinterpret_cast<const std::byte*>(plist_get_data_ptr(node, &length));
-    return PropertyList::Data(bytes, bytes + length);
+    return { bytes, bytes + length };
 }
 
 PropertyList::Date fromDate(plist_t node)

@@ -74,6 +74,7 @@ int millisecondsUntil(Clock::time_point deadline)
 ChildProcess::ChildProcess(std::vector<std::string> arguments, Output output)
 {
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (auto& argument : arguments)
         pointers.push_back(argument.data());
     pointers.push_back(nullptr);

@@ -19,7 +19,6 @@ namespace brimsound {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 

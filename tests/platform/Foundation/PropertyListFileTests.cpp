@@ -17,7 +17,6 @@ namespace brimsound {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using tests::RecordingEffects;
 using tests::TemporaryRoot;
 namespace fs = std::filesystem;
