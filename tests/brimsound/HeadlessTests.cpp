@@ -79,6 +79,16 @@ assert data.count(b'\x22') >= 20 and prefs['PRESETS']['Full treble'][9] == 10.45
     EXPECT_EQ(python.exitStatus(std::chrono::seconds(20)), 0);
 }
 
+TEST_F(AScript, OverwritesTheFileInPlace)
+{
+    root.write(preferences, "<plist><dict/></plist>");
+    const auto file = root.path().string() + preferences;
+    std::filesystem::create_hard_link(file, file + ".link");
+    playScript(root, "touch 3\nlift 3\n");
+    EXPECT_THAT(root.read(preferences), StartsWith("bplist00"));
+    EXPECT_EQ(root.read(std::string(preferences) + ".link"), root.read(preferences));
+}
+
 TEST_F(AScript, SwallowsItsOwnDeliveriesAndHearsOthers)
 {
     const auto run = playScript(

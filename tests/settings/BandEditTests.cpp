@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <clocale>
+#include <cmath>
 #include <stdexcept>
 
 namespace brimsound::tests {
@@ -351,6 +353,46 @@ TEST_F(ApplyingAPreset, ReplaysTenDragsAndReleases)
     EXPECT_EQ(storedPreferences().find("SELECTED_PRESET"), nullptr);
     EXPECT_THAT(pane.captions(),
         ElementsAre("Pre", "60", "170", "310", "600", "1K", "3K", "6K", "12K", "14K", "16K"));
+}
+
+/// Notes the events that a preset's replay makes a slider send.
+class EventListener : public NSObject {
+public:
+    std::span<const Method> methods() const override
+    {
+        static const std::array table {
+            method<&EventListener::valueChanged>("valueChanged:"),
+            method<&EventListener::dragged>("dragged:"),
+            method<&EventListener::lifted>("lifted:"),
+        };
+        return table;
+    }
+
+    void valueChanged(UISlider& slider) { heard.push_back("value changed to " + text(slider)); }
+    void dragged(UISlider& slider) { heard.push_back("dragged to " + text(slider)); }
+    void lifted(UISlider& slider) { heard.push_back("lifted at " + text(slider)); }
+
+    std::vector<std::string> heard;
+
+private:
+    static std::string text(const UISlider& slider) { return std::to_string(std::lround(slider.value())); }
+};
+
+TEST_F(ApplyingAPreset, SendsEachBandsEventsInTheOrderOfAGesture)
+{
+    const auto listener = make<EventListener>();
+    const Pane pane(platform);
+    for (const std::size_t i : { 0u, 1u, 10u }) {
+        auto& slider = pane.slider(i);
+        slider.addTargetActionForControlEvents(*listener, "valueChanged:", UIControlEventValueChanged);
+        slider.addTargetActionForControlEvents(*listener, "dragged:", UIControlEventTouchDragInside);
+        slider.addTargetActionForControlEvents(*listener, "lifted:", UIControlEventTouchUpInside);
+    }
+    pane.controller().playlistSaverSelectedPreset(
+        pane.controller(), PropertyList::Array { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 });
+    EXPECT_THAT(listener->heard,
+        ElementsAre("value changed to 1", "dragged to 1", "lifted at 1", "value changed to 10",
+            "dragged to 10", "lifted at 10"));
 }
 
 TEST_F(ApplyingAPreset, RecomputesThePreampBandByBandWhenItIsAutomatic)

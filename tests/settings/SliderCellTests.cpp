@@ -7,9 +7,9 @@
 namespace brimsound::tests {
 namespace {
 
+using testing::DoubleNear;
 using testing::Each;
 using testing::ElementsAre;
-using testing::DoubleNear;
 
 class SliderCell : public testing::Test {
 protected:
@@ -175,6 +175,8 @@ TEST_F(TheSliderRow, IsBuiltOnceAndComesBackWhenTheTableReusesIt)
     for (const auto& slider : *first)
         EXPECT_FALSE(slider->superview() == &again->contentView());
     EXPECT_EQ(static_cast<BRSliderCell&>(*again).sliders(), nullptr);
+    again->layoutSubviews();
+    EXPECT_EQ(again->contentView().subviews().size(), 1u) << "the cell's own label and nothing else";
 }
 
 TEST_F(TheSliderRow, StretchesTheSlidersWithTheCellAndKeepsTheCaptions)

@@ -20,6 +20,8 @@ protected:
         const auto preferences = get_preferences();
         EXPECT_THAT(keysOf(preferences), ElementsAre("PEAKING_EQ_VALUES", "PRESETS")) << situation;
         EXPECT_EQ(floatsIn(preferences, "PEAKING_EQ_VALUES"), std::vector<float>(10, 0.0f)) << situation;
+        for (const auto& gain : *preferences.find("PEAKING_EQ_VALUES")->asArray())
+            EXPECT_TRUE(gain.asReal()) << situation;
         EXPECT_EQ(*preferences.find("PRESETS")->asDictionary(), builtin_presets()) << situation;
     }
 
