@@ -29,12 +29,15 @@ std::unique_ptr<ChildProcess> startMediaServerIfMissing(
     auto server = std::make_unique<ChildProcess>(
         std::vector<std::string> { programFolder / "mediaserverd", "--root", root });
     const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (!isServed()) {
-        if (!server->running() || std::chrono::steady_clock::now() > deadline)
+    for (;;) {
+        // Asked first: a server that ends because another pane's was faster leaves the name served.
+        const bool running = server->running();
+        if (isServed())
+            return server;
+        if (!running || std::chrono::steady_clock::now() > deadline)
             throw std::runtime_error("the media server did not start");
         std::this_thread::sleep_for(pause);
     }
-    return server;
 }
 
 } // namespace brimsound::desktop

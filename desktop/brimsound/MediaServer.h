@@ -9,8 +9,8 @@
 namespace brimsound::desktop {
 
 /// Starts mediaserverd from the program's own folder with the device root, and waits until it answers to the
-/// center's name. Null when a media server is on the bus already. Throws std::runtime_error when it cannot be
-/// started.
+/// center's name, or until one that another program started in the meantime does. Null when a media server is
+/// on the bus already. Throws std::runtime_error when it cannot be started.
 std::unique_ptr<ChildProcess> startMediaServerIfMissing(
     const std::filesystem::path& programFolder, const std::filesystem::path& root);
 

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace brimsound::tests {
 namespace {
 
@@ -374,6 +376,9 @@ TEST_F(AMediaServer, IsBroughtAlongAndEndsWithThePane)
         ASSERT_FALSE(pane.state().is_null());
         EXPECT_TRUE(desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"));
     }
+    // It is told when the pane's process has ended.
+    for (int i = 0; i < 1000 && desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
     EXPECT_FALSE(desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"));
 }
 
