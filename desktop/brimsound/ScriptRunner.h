@@ -21,7 +21,8 @@ public:
     /// a size in points.
     ScriptRunner(PaneHost&, MainLoop&, Trace&, double scale, std::function<void(CGSize)> resize);
 
-    /// Carries one line out. Throws ScriptError when it is unknown or impossible; then nothing was done.
+    /// Carries one line out. Throws ScriptError when it is unknown or impossible; then nothing was done, but
+    /// the table may have been scrolled to where a touch was to go.
     void run(std::string_view line);
 
 private:

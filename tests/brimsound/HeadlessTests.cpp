@@ -243,6 +243,20 @@ TEST_F(AScript, StopsWhenItAsksForWhatCannotBe)
     EXPECT_EQ(playScript(root, "touch 3\ndrag 3 1 sideways\n").status, 2);
     EXPECT_EQ(playScript(root, "close\nclose\n").status, 2);
     EXPECT_EQ(playScript(root, "close\ntouch 3\n").status, 2);
+    EXPECT_EQ(playScript(root, "touch 3\nlift 3\nfinger move 3 3\n").status, 2);
+    EXPECT_EQ(playScript(root, "state now\n").status, 2);
+    EXPECT_EQ(playScript(root, "resize 10001 100\n").status, 2);
+    EXPECT_EQ(playScript(root, "snapshot /dev/null 9\n").status, 2);
+    EXPECT_EQ(playScript(root, "snapshot /dev/null 0\n").status, 2);
+    EXPECT_THAT(playScript(root, "resize 60 300\ntouch 3\n").errors, HasSubstr("slider 3 is covered\n"));
+}
+
+TEST_F(AScript, IsToldInOneLineThatAPictureIsTooLarge)
+{
+    const auto run = playScript(root, "resize 10000 10000\nsnapshot huge.png 8\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.errors, HasSubstr("brimsound: line 2: the picture \"huge.png\" cannot be written\n"));
+    EXPECT_THAT(run.errors, testing::Not(HasSubstr("QPainter")));
 }
 
 TEST_F(AScript, WorksWithPreferencesThatAreNone)

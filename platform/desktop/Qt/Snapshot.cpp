@@ -12,6 +12,8 @@ QImage pictureOf(Window& window, double scale)
     window.layOut();
     const auto size = window.bounds().size;
     QImage picture((QSizeF(size.width, size.height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    if (picture.isNull())
+        return picture;
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::white);
     QPainter painter(&picture);

@@ -8,10 +8,11 @@
 
 namespace brimsound::desktop {
 
-/// Lays the window out and draws all of it, with `scale` device pixels a point.
+/// Lays the window out and draws all of it, with `scale` device pixels a point. Null when that is more than a
+/// picture can hold.
 QImage pictureOf(Window&, double scale);
 
-/// Writes such a picture as a PNG. False when the file cannot be written.
+/// Writes such a picture as a PNG. False when there is none or the file cannot be written.
 bool writeSnapshot(Window&, double scale, const QString& path);
 
 } // namespace brimsound::desktop
