@@ -89,6 +89,22 @@ TEST_F(ASessionBus, HasEveryEarlierPostAfterDraining)
     EXPECT_THAT(heard, ElementsAre("one", "two"));
 }
 
+TEST_F(ASessionBus, KeepsItsConnectionWhenAHandlerAsksForMore)
+{
+    TestBus testBus;
+    const auto& heard = listen();
+    bus.subscribeToNotifications([](std::string_view name) {
+        if (name == "first")
+            SessionBus::shared().drain();
+    });
+    const auto* connection = bus.connection();
+    testBus.postFromAnotherProcess("first");
+    testBus.postFromAnotherProcess("second");
+    bus.drain();
+    EXPECT_THAT(heard, ElementsAre("first", "second"));
+    EXPECT_EQ(bus.connection(), connection);
+}
+
 TEST_F(ASessionBus, IgnoresSignalsThatAreNoPost)
 {
     TestBus testBus;
