@@ -10,6 +10,7 @@
 #include "platform/desktop/Qt/Snapshot.h"
 #include "platform/desktop/bus/PrivateBus.h"
 #include "platform/desktop/bus/SessionBus.h"
+#include "platform/desktop/process/StandardStreams.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -121,6 +122,7 @@ int run(int argc, char** argv, const Options& options)
 
 int main(int argc, char** argv)
 {
+    openMissingStandardStreams();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);

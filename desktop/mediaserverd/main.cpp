@@ -5,6 +5,7 @@
 #include "platform/CoreFoundation/CFNotificationCenter.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/bus/SessionBus.h"
+#include "platform/desktop/process/StandardStreams.h"
 #include "settings/tweak.h"
 
 #include <nlohmann/json.hpp>
@@ -123,6 +124,7 @@ int fail(const char* what)
 
 int main(int argumentCount, char** arguments)
 {
+    desktop::openMissingStandardStreams();
     const auto options = readOptions(argumentCount, arguments);
     if (options.exitStatus)
         return *options.exitStatus;
