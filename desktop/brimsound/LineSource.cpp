@@ -3,16 +3,16 @@
 #include <QEventLoop>
 #include <QSocketNotifier>
 
-#include <cstdio>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace brimsound::desktop {
 
 LineSource::LineSource(const QString& path)
     : _file(path)
 {
-    // Unbuffered, or the notifier below would not tell of lines that were read ahead.
-    const bool opened = path == "-" ? _file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)
+    // Neither Qt nor stdio may read ahead: the notifier below tells only of lines that are still in the pipe.
+    const bool opened = path == "-" ? _file.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered)
                                     : _file.open(QIODevice::ReadOnly);
     if (!opened)
         throw std::runtime_error("the script \"" + path.toStdString() + "\" cannot be read");

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
 #include <thread>
 
 namespace brimsound::tests {
@@ -33,6 +35,21 @@ Json valuesWith(std::initializer_list<std::pair<std::size_t, double>> some)
     for (const auto& [index, value] : some)
         values[index] = value;
     return values;
+}
+
+/// The command line of the process that owns the name on the bus.
+std::string commandLineOf(const std::string& name)
+{
+    sd_bus_creds* credentials = nullptr;
+    pid_t process = 0;
+    if (sd_bus_get_name_creds(
+            desktop::SessionBus::shared().connection(), name.c_str(), SD_BUS_CREDS_PID, &credentials)
+        >= 0)
+        sd_bus_creds_get_pid(credentials, &process);
+    sd_bus_creds_unref(credentials);
+    std::ostringstream text;
+    text << std::ifstream("/proc/" + std::to_string(process) + "/cmdline").rdbuf();
+    return text.str();
 }
 
 class AScript : public testing::Test {
@@ -119,6 +136,14 @@ TEST_F(AScript, ShowsTheStateOfThePane)
         (Json { { "ENABLED", true }, { "ENABLED_CC", true }, { "AUTO_PREAMP", true },
             { "FILTER_DISABLED", false }, { "CHECKING_DISABLED", false } }));
     EXPECT_EQ(state.at("autoPreamp"), true);
+}
+
+TEST_F(AScript, ShowsThatThePreampIsNotAutomatic)
+{
+    root.write(preferences, "<plist><dict><key>AUTO_PREAMP</key><false/></dict></plist>");
+    const auto run = playScript(root, "state\n");
+    EXPECT_EQ(run.trace.at(0).at("autoPreamp"), false);
+    EXPECT_EQ(run.trace.at(0).at("switches").at("AUTO_PREAMP"), false);
 }
 
 TEST_F(AScript, DragsAndLiftsOutsideAndCancels)
@@ -275,14 +300,34 @@ TEST_F(AScript, IsReadFromStandardInputToo)
 {
     RunningProgram program(root.path(), { "--headless" });
     EXPECT_EQ(program.state().at("sliders"), flat());
+    // Both lines come at once, and are carried out without waiting for the end.
     desktop::ChildProcess shell(
         { "/bin/sh", "-c",
-            "printf 'touch 3\\nstate\\n' | " BRIMSOUND " --headless --script - --root "
-                + root.path().string() },
+            "cd '" + root.path().string()
+                + "' && (printf 'touch 3\\nstate\\n'; until [ -e seen ]; do sleep 0.02; done) | " BRIMSOUND
+                  " --headless --script - --root ." },
         desktop::ChildProcess::Output::Piped);
     EXPECT_THAT(shell.readLine(std::chrono::seconds(20)).value_or(""), HasSubstr("message"));
     EXPECT_THAT(shell.readLine(std::chrono::seconds(20)).value_or(""), HasSubstr("state"));
+    root.write("/seen", "");
     EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 0);
+}
+
+TEST_F(AScript, IsEmptyWithoutStandardInput)
+{
+    const std::string program = BRIMSOUND " --headless --root " + root.path().string();
+    desktop::ChildProcess shell({ "/bin/sh", "-c", program + " --script - <&-" });
+    EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 0);
+}
+
+TEST_F(AScript, IsCarriedOutWithoutStandardOutput)
+{
+    root.write("/script", "touch 3\nlift 3\n");
+    const std::string program = BRIMSOUND " --headless --root " + root.path().string();
+    desktop::ChildProcess shell(
+        { "/bin/sh", "-c", program + " --script " + root.path().string() + "/script >&- 2>&-" });
+    EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 0);
+    EXPECT_THAT(root.read(preferences), StartsWith("bplist00"));
 }
 
 TEST_F(AScript, CannotBeReadWhenThereIsNone)
@@ -295,7 +340,8 @@ TEST_F(AScript, CannotBeReadWhenThereIsNone)
 TEST_F(AScript, ABadCommandLineIsToldInOneLine)
 {
     const std::vector<std::vector<std::string>> badLines { { "--nonsense" }, { "stray" }, { "--scale", "0" },
-        { "--scale", "big" }, { "--root", "" }, { "--script" }, { "--headless" } };
+        { "--scale", "big" }, { "--scale", "8.1" }, { "--scale", "nan" }, { "--root", "" }, { "--script" },
+        { "--headless" } };
     for (const auto& arguments : badLines) {
         const auto run = runProgram(arguments);
         EXPECT_EQ(run.status, 2) << arguments[0];
@@ -389,6 +435,8 @@ TEST_F(AMediaServer, IsBroughtAlongAndEndsWithThePane)
         RunningProgram pane(root.path(), { "--headless" });
         ASSERT_FALSE(pane.state().is_null());
         EXPECT_TRUE(desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"));
+        EXPECT_THAT(commandLineOf("com.quorvix.brimsound"),
+            AllOf(HasSubstr("mediaserverd"), HasSubstr(root.path().string())));
     }
     // It is told when the pane's process has ended.
     for (int i = 0; i < 1000 && desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"); ++i)
