@@ -123,13 +123,22 @@ private:
     std::vector<std::optional<Measure>> _measures;
 };
 
+/// Whether what follows a tag's name closes it at once. In doubt it does not: a tag with attributes counts as
+/// open.
+bool isSelfClosing(std::string_view afterName)
+{
+    afterName.remove_prefix(std::min(afterName.size(), afterName.find_first_not_of(" \t\r\n")));
+    return afterName.starts_with("/>");
+}
+
 bool isMarkupWithinBounds(std::string_view text)
 {
     std::size_t depth = 0;
     for (auto tag = text.find('<'); tag != std::string_view::npos; tag = text.find('<', tag + 1)) {
         const auto rest = text.substr(tag + 1);
-        if (rest.starts_with("array") || rest.starts_with("dict"))
-            ++depth;
+        const std::size_t nameLength = rest.starts_with("array") ? 5 : rest.starts_with("dict") ? 4 : 0;
+        if (nameLength > 0)
+            depth += isSelfClosing(rest.substr(nameLength)) ? 0 : 1;
         else if (depth > 0 && (rest.starts_with("/array") || rest.starts_with("/dict")))
             --depth;
         if (depth > deepestPropertyList)

@@ -166,6 +166,15 @@ TEST_F(ReadingAPropertyListFile, GivesATopLevelOfAnyType)
     EXPECT_EQ(reading(binaryFile({ std::string("\x10\x2a") })), PropertyList(42));
 }
 
+TEST_F(ReadingAPropertyListFile, TakesContainersSideBySideForNoDeeperThanOne)
+{
+    for (const auto* item : { "<array></array>", "<array/>", "<array />", "<dict></dict>", "<dict/>" }) {
+        const auto value = reading("<plist><array>" + repeat(item, 1000) + "</array></plist>");
+        ASSERT_TRUE(value && value->asArray()) << item;
+        EXPECT_EQ(value->asArray()->size(), 1000u) << item;
+    }
+}
+
 TEST_F(ReadingAPropertyListFile, GivesNothingWithoutAFile)
 {
     EXPECT_EQ(readPropertyListFile("/missing.plist"), std::nullopt);

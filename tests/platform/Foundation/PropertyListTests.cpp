@@ -25,6 +25,9 @@ TEST(ANumber, ConvertsAsFoundationsDo)
     EXPECT_FALSE(PropertyList(0).boolValue());
     EXPECT_TRUE(PropertyList(std::nan("")).boolValue());
     EXPECT_EQ(PropertyList(largestInteger).integerValue(), largestInteger);
+    // Rounded once: by way of a double this would come out one step lower.
+    EXPECT_EQ(PropertyList((std::int64_t { 1 } << 60) + (std::int64_t { 1 } << 36) + 1).floatValue(),
+        0x1p60f + 0x1p37f);
 }
 
 TEST(ANumber, OutOfRangeConvertsToTheNearestThatThereIs)
