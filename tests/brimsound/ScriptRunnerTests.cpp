@@ -69,15 +69,15 @@ protected:
     }
 
     /// Text is measured by Qt, which has to run for that.
-    class Qt {
+    class RunningQt {
         int _count = 1;
-        char _name[10] = "brimsound";
-        char* _arguments[2] = { _name, nullptr };
+        std::string _name = "brimsound";
+        std::array<char*, 2> _arguments { _name.data(), nullptr };
         EnvironmentVariable _platform { "QT_QPA_PLATFORM", "offscreen" };
-        QGuiApplication _application { _count, _arguments };
+        QGuiApplication _application { _count, _arguments.data() };
     };
 
-    Qt qt;
+    RunningQt qt;
     TemporaryRoot root;
     TestBus bus;
     MediaServer server;
