@@ -7,10 +7,19 @@
 
 namespace brimsound::desktop {
 
+namespace {
+
+/// Beyond that a picture would ask for more memory than a machine may have to spare: four bytes a pixel.
+constexpr double mostPixels = 1e8;
+
+} // namespace
+
 QImage pictureOf(Window& window, double scale)
 {
     window.layOut();
     const auto size = window.bounds().size;
+    if (size.width * scale * size.height * scale > mostPixels)
+        return {};
     QImage picture((QSizeF(size.width, size.height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     if (picture.isNull())
         return picture;

@@ -8,8 +8,8 @@
 
 namespace brimsound::desktop {
 
-/// Lays the window out and draws all of it, with `scale` device pixels a point. Null when that is more than a
-/// picture can hold.
+/// Lays the window out and draws all of it, with `scale` device pixels a point. Null when that makes more
+/// than a hundred million pixels, or more than there is memory for.
 QImage pictureOf(Window&, double scale);
 
 /// Writes such a picture as a PNG. False when there is none or the file cannot be written.
