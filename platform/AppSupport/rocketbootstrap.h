@@ -5,8 +5,8 @@ namespace brimsound {
 
 class CPDistributedMessagingCenter;
 
-/// Lets messages through this center reach servers outside the sandbox. On the desktop, where there is none, it opens
-/// the connection to the session bus, anew when the old one was lost.
+/// Lets messages through this center reach servers outside the sandbox. On the desktop, where there is none,
+/// it opens the connection to the session bus, anew when the old one was lost.
 void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&);
 
 } // namespace brimsound

@@ -11,7 +11,8 @@ namespace brimsound {
 class CFNotificationCenter;
 using CFNotificationCenterRef = CFNotificationCenter*;
 
-/// Called on the main loop for each delivery. Darwin notifications carry neither object nor user info: both are null.
+/// Called on the main loop for each delivery. Darwin notifications carry neither object nor user info: both
+/// are null.
 using CFNotificationCallback = void (*)(CFNotificationCenterRef, void* observer, std::string_view name,
     const void* object, const PropertyList::Dictionary* userInfo);
 
@@ -26,9 +27,9 @@ CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter();
 void CFNotificationCenterAddObserver(CFNotificationCenterRef, void* observer, CFNotificationCallback,
     const std::string& name, const void* object, CFNotificationSuspensionBehavior);
 
-/// Posts to every process. Returns before anything is delivered: this process's own observers hear of it on the main
-/// loop. A post that cannot be made is dropped silently.
-void CFNotificationCenterPostNotification(CFNotificationCenterRef, const std::string& name, const void* object,
-    const PropertyList::Dictionary* userInfo, bool deliverImmediately);
+/// Posts to every process. Returns before anything is delivered: this process's own observers hear of it on
+/// the main loop. A post that cannot be made is dropped silently.
+void CFNotificationCenterPostNotification(CFNotificationCenterRef, const std::string& name,
+    const void* object, const PropertyList::Dictionary* userInfo, bool deliverImmediately);
 
 } // namespace brimsound

@@ -72,7 +72,7 @@ QFont qFont(const UIFont& font)
 bool fontExists(const std::string& postScriptName)
 {
     const auto family = faceNamed(postScriptName).family;
-    return !postScriptName.empty() && (isPlatformFamily(family) || QFontDatabase::hasFamily(family));
+    return !family.isEmpty() && (isPlatformFamily(family) || QFontDatabase::hasFamily(family));
 }
 
 } // namespace brimsound::desktop

@@ -78,6 +78,7 @@ bool PaneWidget::event(QEvent* event)
     case QEvent::UngrabMouse:
     case QEvent::Hide:
         _finger = -1;
+        _mouse = false;
         _window.touchCancel();
         return QWidget::event(event);
     default:
@@ -89,7 +90,7 @@ void PaneWidget::touchEvent(const QTouchEvent& event)
 {
     for (const auto& point : event.points()) {
         const auto location = cgPoint(point.position());
-        if (point.state() == QEventPoint::Pressed && _finger < 0) {
+        if (point.state() == QEventPoint::Pressed && _finger < 0 && !_mouse) {
             _finger = point.id();
             _window.touchDown({ location, Pointer::Finger });
         } else if (point.id() == _finger && point.state() == QEventPoint::Updated) {
@@ -103,20 +104,24 @@ void PaneWidget::touchEvent(const QTouchEvent& event)
 
 void PaneWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && !isMadeUp(*event))
-        _window.touchDown({ cgPoint(event->position()), Pointer::Mouse });
+    if (event->button() != Qt::LeftButton || isMadeUp(*event) || _finger >= 0)
+        return;
+    _mouse = true;
+    _window.touchDown({ cgPoint(event->position()), Pointer::Mouse });
 }
 
 void PaneWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if ((event->buttons() & Qt::LeftButton) && !isMadeUp(*event))
+    if (_mouse && !isMadeUp(*event))
         _window.touchMove(cgPoint(event->position()));
 }
 
 void PaneWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && !isMadeUp(*event))
-        _window.touchUp(cgPoint(event->position()));
+    if (!_mouse || event->button() != Qt::LeftButton || isMadeUp(*event))
+        return;
+    _mouse = false;
+    _window.touchUp(cgPoint(event->position()));
 }
 
 void PaneWidget::wheelEvent(QWheelEvent* event)

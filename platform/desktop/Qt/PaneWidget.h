@@ -28,8 +28,9 @@ private:
     void repaintPart(const CGRect&);
 
     Window& _window;
-    /// The finger that holds the touch; the others are ignored.
+    /// The finger or the mouse that holds the touch; the others are ignored.
     int _finger = -1;
+    bool _mouse = false;
 };
 
 } // namespace brimsound::desktop

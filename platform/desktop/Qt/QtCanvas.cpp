@@ -73,17 +73,20 @@ bool QtCanvas::showsAnythingIn(const CGRect& rect) const
 
 void QtCanvas::beginGroup(const CGRect& rect, double alpha, double cornerRadius)
 {
-    Group group { {}, nullptr, qRect(rect), alpha, cornerRadius };
+    auto group = std::make_unique<Group>();
+    group->rect = qRect(rect);
+    group->alpha = alpha;
+    group->cornerRadius = cornerRadius;
     // The picture covers whole device pixels, so that the group's contents stay as sharp as without it.
     const auto toDevice = painter().combinedTransform();
-    const auto visible = toDevice.mapRect(group.rect & painter().clipBoundingRect()).toAlignedRect();
-    group.image = QImage(visible.size().expandedTo({ 1, 1 }), QImage::Format_ARGB32_Premultiplied);
-    group.image.fill(Qt::transparent);
-    group.image.setOffset(visible.topLeft());
-    group.painter = std::make_unique<QPainter>(&group.image);
-    group.painter->setRenderHints(painter().renderHints());
-    group.painter->setTransform(toDevice * QTransform::fromTranslate(-visible.x(), -visible.y()));
-    group.painter->setClipRect(group.rect);
+    const auto visible = toDevice.mapRect(group->rect & painter().clipBoundingRect()).toAlignedRect();
+    group->image = QImage(visible.size().expandedTo({ 1, 1 }), QImage::Format_ARGB32_Premultiplied);
+    group->image.fill(Qt::transparent);
+    group->image.setOffset(visible.topLeft());
+    group->painter.begin(&group->image);
+    group->painter.setRenderHints(painter().renderHints());
+    group->painter.setTransform(toDevice * QTransform::fromTranslate(-visible.x(), -visible.y()));
+    group->painter.setClipRect(group->rect);
     _groups.push_back(std::move(group));
 }
 
@@ -91,22 +94,22 @@ void QtCanvas::endGroup()
 {
     const auto group = std::move(_groups.back());
     _groups.pop_back();
-    if (group.cornerRadius > 0) {
+    if (group->cornerRadius > 0) {
         QPainterPath shape;
-        shape.addRoundedRect(group.rect, group.cornerRadius, group.cornerRadius);
+        shape.addRoundedRect(group->rect, group->cornerRadius, group->cornerRadius);
         QPainterPath outside;
-        outside.addRect(group.rect.adjusted(-1, -1, 1, 1));
-        group.painter->setClipping(false);
-        group.painter->setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        group.painter->fillPath(outside - shape, Qt::black);
+        outside.addRect(group->rect.adjusted(-1, -1, 1, 1));
+        group->painter.setClipping(false);
+        group->painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        group->painter.fillPath(outside - shape, Qt::black);
     }
-    group.painter->end();
+    group->painter.end();
 
     painter().save();
-    painter().setOpacity(group.alpha);
+    painter().setOpacity(group->alpha);
     const auto toLogical = painter().combinedTransform().inverted();
-    painter().drawImage(
-        toLogical.mapRect(QRectF(group.image.offset(), group.image.size())), group.image, group.image.rect());
+    painter().drawImage(toLogical.mapRect(QRectF(group->image.offset(), group->image.size())), group->image,
+        group->image.rect());
     painter().restore();
 }
 

@@ -36,18 +36,19 @@ public:
 private:
     /// A picture that a group is drawn into before it goes onto what lies below.
     struct Group {
-        QImage image;
-        std::unique_ptr<QPainter> painter;
         QRectF rect;
-        double alpha;
-        double cornerRadius;
+        double alpha = 1;
+        double cornerRadius = 0;
+        QImage image;
+        QPainter painter;
     };
 
-    QPainter& painter() const { return _groups.empty() ? _base : *_groups.back().painter; }
+    QPainter& painter() const { return _groups.empty() ? _base : _groups.back()->painter; }
 
     QPainter& _base;
     const double _scale;
-    std::vector<Group> _groups;
+    /// By pointer, as a picture must stay where it is while it is painted.
+    std::vector<std::unique_ptr<Group>> _groups;
 };
 
 } // namespace brimsound::desktop

@@ -47,8 +47,13 @@ std::optional<double> Clock::untilNextAction() const
 void Clock::advance(double seconds)
 {
     const double end = _now + seconds;
-    while (isAnimating() && _now + frame < end)
-        moveTo(_now + frame);
+    // An action on the way may set something in motion, so it is gone to the next action when nothing moves.
+    while (isAnimating() || !_actions.empty()) {
+        const double next = isAnimating() ? _now + frame : _actions.begin()->first;
+        if (next >= end)
+            break;
+        moveTo(next);
+    }
     moveTo(end);
 }
 
@@ -65,10 +70,11 @@ void Clock::moveTo(double time)
 
 void Clock::step()
 {
-    // A step may start another movement, so the list is not walked while it is being run.
+    // A step may start another movement, so the list is not walked while it is being run. A movement that
+    // was started at the real time may be ahead of a clock that is still catching up.
     auto movements = std::exchange(_movements, {});
-    std::erase_if(
-        movements, [this](const Movement& movement) { return !movement.step(_now - movement.start); });
+    std::erase_if(movements,
+        [this](const Movement& movement) { return !movement.step(std::max(0.0, _now - movement.start)); });
     movements.insert(movements.end(), std::make_move_iterator(_movements.begin()),
         std::make_move_iterator(_movements.end()));
     _movements = std::move(movements);

@@ -28,6 +28,12 @@ double resisted(double distance, double height)
     return height * (1 - 1 / (distance * resistance / height + 1));
 }
 
+/// How far beyond the edge the finger is that pulled a view of that height to `distance` points beyond it.
+double unresisted(double distance, double height)
+{
+    return height / resistance * (1 / (1 - distance / height) - 1);
+}
+
 } // namespace
 
 ScrollPeer::ScrollPeer()
@@ -66,6 +72,10 @@ void ScrollPeer::beginPan(double windowY)
     stop();
     _panY = windowY;
     _panOffset = origin.y;
+    if (origin.y < 0)
+        _panOffset = -unresisted(-origin.y, frame.size.height);
+    else if (origin.y > furthest())
+        _panOffset = furthest() + unresisted(origin.y - furthest(), frame.size.height);
     _trail = { { Clock::shared().now(), windowY } };
     showIndicator();
 }
@@ -100,6 +110,12 @@ void ScrollPeer::stop()
     ++_movement;
 }
 
+void ScrollPeer::comeBack()
+{
+    if (origin.y < 0 || origin.y > furthest())
+        settle(0);
+}
+
 void ScrollPeer::settle(double velocity)
 {
     stop();
@@ -107,19 +123,19 @@ void ScrollPeer::settle(double velocity)
                     double elapsed) mutable {
         if (movement != _movement)
             return false;
-        const double seconds = std::exchange(before, elapsed) - elapsed;
+        const double seconds = elapsed - std::exchange(before, elapsed);
         double offset = origin.y;
         const double edge = std::clamp(offset, 0.0, furthest());
         if (offset != edge) {
             // Beyond an edge only the way back counts.
-            offset = edge + (offset - edge) * std::pow(pullKept, -seconds);
+            offset = edge + (offset - edge) * std::pow(pullKept, seconds);
             velocity = 0;
             if (std::abs(offset - edge) < 0.5)
                 offset = edge;
         } else {
             offset = std::clamp(
-                offset - velocity * seconds, -frame.size.height / 8, furthest() + frame.size.height / 8);
-            velocity *= std::pow(momentumKept, -seconds);
+                offset + velocity * seconds, -frame.size.height / 8, furthest() + frame.size.height / 8);
+            velocity *= std::pow(momentumKept, seconds);
         }
         setOrigin(*view, { 0, offset });
         showIndicator();

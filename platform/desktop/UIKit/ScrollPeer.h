@@ -25,6 +25,8 @@ struct ScrollPeer : ViewPeer {
     void endPan();
     /// Ends any momentum.
     void stop();
+    /// Moves back to the edge that the view is beyond.
+    void comeBack();
 
     void drawAbove(Canvas&) const override;
 

@@ -24,6 +24,8 @@ struct SliderPeer : ControlPeer {
 
     /// Where the thumb's centre stands for a value, in the slider's own coordinates.
     CGPoint thumbCentre(double value) const;
+    /// What the track is drawn in between its start and the thumb.
+    Color tint() const;
     void takeValueAt(double x);
 };
 

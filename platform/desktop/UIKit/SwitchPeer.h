@@ -12,6 +12,8 @@ struct SwitchPeer : ControlPeer {
     bool isOn = false;
     /// Where the knob stands: 0 at the off side, 1 at the on side.
     double knob = 0;
+    /// Counts the knob's movements, so that a new one ends the one before.
+    unsigned movement = 0;
     /// Where the touch last counted as a draw, and whether it has been one.
     double drawnFrom = 0;
     bool wasDrawn = false;

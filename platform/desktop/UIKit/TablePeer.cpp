@@ -172,6 +172,10 @@ std::optional<NSIndexPath> TablePeer::rowAt(CGPoint point) const
 
 void TablePeer::touchBegan(const Touch& touch)
 {
+    // The press before may still be fading.
+    if (pressedRow)
+        setPressed(false);
+    pressedRow.reset();
     const auto row = rowAt(convertFromWindow(touch.location, *view));
     const auto* cell = row ? table().cellForRowAtIndexPath(*row) : nullptr;
     if (!cell || cell->selectionStyle() == UITableViewCellSelectionStyle::None)
@@ -186,8 +190,9 @@ void TablePeer::touchMoved(const Touch& touch)
         setPressed(rowAt(convertFromWindow(touch.location, *view)) == pressedRow);
 }
 
-void TablePeer::touchEnded(const Touch&)
+void TablePeer::touchEnded(const Touch& touch)
 {
+    touchMoved(touch);
     if (!pressedRow || !isPressed)
         return;
     const auto row = *pressedRow;

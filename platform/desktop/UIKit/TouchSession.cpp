@@ -45,6 +45,8 @@ void TouchSession::begin(UIView& hit, const Touch& touch)
     _timer = Clock::shared().after(holdBackTime, [this] { handOver(); });
 }
 
+// A view may end the touch from within what it is told, so it is kept for as long as it is being told.
+
 void TouchSession::move(CGPoint location)
 {
     if (_phase == Phase::None)
@@ -60,14 +62,15 @@ void TouchSession::move(CGPoint location)
             return;
         handOver();
     }
+    const auto view = _view;
     if (_phase == Phase::Scrolling) {
         scrollPeerOf(*_scrollView).panTo(location.y);
-    } else if (_scrollView && movesUpOrDown(location) && (!_view || peerOf(*_view).yieldsToScrolling())) {
-        if (_view)
-            peerOf(*_view).touchCancelled();
+    } else if (_scrollView && movesUpOrDown(location) && (!view || peerOf(*view).yieldsToScrolling())) {
+        if (view)
+            peerOf(*view).touchCancelled();
         startScrolling();
-    } else if (_view) {
-        peerOf(*_view).touchMoved(_last);
+    } else if (view) {
+        peerOf(*view).touchMoved(_last);
     }
 }
 
@@ -78,19 +81,21 @@ void TouchSession::end(CGPoint location)
     _last.location = location;
     if (_phase == Phase::HeldBack)
         handOver();
+    const auto view = _view;
     if (_phase == Phase::Scrolling)
         scrollPeerOf(*_scrollView).endPan();
-    else if (_view)
-        peerOf(*_view).touchEnded(_last);
+    else if (view)
+        peerOf(*view).touchEnded(_last);
     finish();
 }
 
 void TouchSession::cancel()
 {
+    const auto view = _view;
     if (_phase == Phase::Scrolling)
         scrollPeerOf(*_scrollView).endPan();
-    else if (_phase == Phase::WithView && _view)
-        peerOf(*_view).touchCancelled();
+    else if (_phase == Phase::WithView && view)
+        peerOf(*view).touchCancelled();
     finish();
 }
 
@@ -98,8 +103,8 @@ void TouchSession::handOver()
 {
     Clock::shared().cancel(_timer);
     _phase = Phase::WithView;
-    if (_view)
-        peerOf(*_view).touchBegan(_first);
+    if (const auto view = _view)
+        peerOf(*view).touchBegan(_first);
 }
 
 void TouchSession::startScrolling()
@@ -112,6 +117,9 @@ void TouchSession::startScrolling()
 void TouchSession::finish()
 {
     Clock::shared().cancel(_timer);
+    // The touch may have stopped the view on its way back to its edge.
+    if (_scrollView && _phase != Phase::Scrolling)
+        scrollPeerOf(*_scrollView).comeBack();
     _phase = Phase::None;
     _view = nullptr;
     _scrollView = nullptr;

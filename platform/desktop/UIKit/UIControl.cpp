@@ -56,7 +56,8 @@ void ControlPeer::touchBegan(const Touch& touch)
     isTracking = true;
     isTouchInside = true;
     beginTracking(convertFromWindow(touch.location, *view), touch.pointer);
-    send(UIControlEventTouchDown);
+    if (isTracking)
+        send(UIControlEventTouchDown);
 }
 
 void ControlPeer::touchMoved(const Touch& touch)
@@ -67,9 +68,11 @@ void ControlPeer::touchMoved(const Touch& touch)
     const bool inside = contains(insetBy(boundsOf(*this), -touchMargin, -touchMargin), point);
     const bool wasInside = std::exchange(isTouchInside, inside);
     continueTracking(point);
-    if (inside != wasInside)
+    // Any of the actions may take the touch away.
+    if (isTracking && inside != wasInside)
         send(inside ? UIControlEventTouchDragEnter : UIControlEventTouchDragExit);
-    send(inside ? UIControlEventTouchDragInside : UIControlEventTouchDragOutside);
+    if (isTracking)
+        send(inside ? UIControlEventTouchDragInside : UIControlEventTouchDragOutside);
 }
 
 void ControlPeer::touchEnded(const Touch& touch)

@@ -53,6 +53,8 @@ RetainPtr<UIFont> UILabel::font() const
 
 void UILabel::setFont(RetainPtr<UIFont> font)
 {
+    if (peerOf(*this).font == font)
+        return;
     peerOf(*this).font = std::move(font);
     desktop::setNeedsDisplay(*this);
 }
@@ -64,8 +66,11 @@ RetainPtr<UIColor> UILabel::textColor() const
 
 void UILabel::setTextColor(RetainPtr<UIColor> color)
 {
-    peerOf(*this).textColor = std::move(color);
-    desktop::setNeedsDisplay(*this);
+    auto& peer = peerOf(*this);
+    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.textColor);
+    peer.textColor = std::move(color);
+    if (!looksTheSame)
+        desktop::setNeedsDisplay(*this);
 }
 
 NSTextAlignment UILabel::textAlignment() const
@@ -75,6 +80,8 @@ NSTextAlignment UILabel::textAlignment() const
 
 void UILabel::setTextAlignment(NSTextAlignment alignment)
 {
+    if (peerOf(*this).alignment == alignment)
+        return;
     peerOf(*this).alignment = alignment;
     desktop::setNeedsDisplay(*this);
 }

@@ -42,6 +42,11 @@ SliderPeer::SliderPeer()
     overhang = knobShadowReach;
 }
 
+Color SliderPeer::tint() const
+{
+    return minimumTrackTint ? colorOf(minimumTrackTint) : theme::tint;
+}
+
 CGPoint SliderPeer::thumbCentre(double shownValue) const
 {
     const auto bounds = boundsOf(*this);
@@ -59,8 +64,12 @@ void SliderPeer::takeValueAt(double x)
         return;
     const double fraction = (x - bounds.origin.x - thumbSize / 2) / way;
     const double range = static_cast<double>(maximum) - minimum;
+    double wanted = minimum + fraction * range;
+    // Rounding would otherwise leave a trace of a value, and of a sign, where the thumb stands at zero.
+    if (std::abs(wanted) < range * 1e-12)
+        wanted = 0;
     const float before = value;
-    static_cast<UISlider*>(view)->setValue(static_cast<float>(minimum + fraction * range));
+    static_cast<UISlider*>(view)->setValue(static_cast<float>(wanted));
     if (value != before)
         send(UIControlEventValueChanged);
 }
@@ -90,7 +99,7 @@ void SliderPeer::draw(Canvas& canvas) const
 
     auto filled = track;
     filled.size.width = std::max(0.0, centre.x - track.origin.x);
-    canvas.fillRoundedRect(filled, radius, minimumTrackTint ? colorOf(minimumTrackTint) : theme::tint);
+    canvas.fillRoundedRect(filled, radius, tint());
     // A light colour would fade into a white row without an edge.
     canvas.fillRoundedRect(
         CGRectMake(filled.origin.x, filled.origin.y + trackHeight - 0.5, filled.size.width, 0.5), 0,
@@ -137,6 +146,8 @@ float UISlider::minimumValue() const
 void UISlider::setMinimumValue(float minimum)
 {
     auto& peer = peerOf(*this);
+    if (peer.minimum == minimum)
+        return;
     peer.minimum = minimum;
     peer.maximum = std::max(peer.maximum, minimum);
     setValue(peer.value);
@@ -151,6 +162,8 @@ float UISlider::maximumValue() const
 void UISlider::setMaximumValue(float maximum)
 {
     auto& peer = peerOf(*this);
+    if (peer.maximum == maximum)
+        return;
     peer.maximum = maximum;
     peer.minimum = std::min(peer.minimum, maximum);
     setValue(peer.value);
@@ -165,9 +178,9 @@ RetainPtr<UIColor> UISlider::minimumTrackTintColor() const
 void UISlider::setMinimumTrackTintColor(RetainPtr<UIColor> color)
 {
     auto& peer = peerOf(*this);
-    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.minimumTrackTint);
+    const auto before = peer.tint();
     peer.minimumTrackTint = std::move(color);
-    if (!looksTheSame)
+    if (peer.tint() != before)
         desktop::setNeedsDisplay(*this);
 }
 

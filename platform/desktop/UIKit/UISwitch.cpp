@@ -49,14 +49,17 @@ void UISwitch::setOn(bool on, Animated animated)
     auto& peer = peerOf(*this);
     peer.isOn = on;
     const double end = on ? 1 : 0;
+    const auto movement = ++peer.movement;
+    if (peer.knob == end)
+        return;
     if (animated == Animated::No) {
         peer.knob = end;
         desktop::setNeedsDisplay(*this);
         return;
     }
-    const auto slide = [view = brimsound::retain(this), start = peer.knob, end, on](double elapsed) {
+    const auto slide = [view = brimsound::retain(this), start = peer.knob, end, movement](double elapsed) {
         auto& moved = peerOf(*view);
-        if (moved.isOn != on)
+        if (moved.movement != movement)
             return false;
         const double progress = std::clamp(elapsed / slideTime, 0.0, 1.0);
         moved.knob = start + (end - start) * progress * (2 - progress);

@@ -71,12 +71,12 @@ void UIView::addSubview(UIView& view)
 
 void UIView::removeFromSuperview()
 {
-    auto* superview = std::exchange(peerOf(*this).superview, nullptr);
-    if (!superview)
+    if (!superview())
         return;
-    desktop::setNeedsDisplay(*superview, frame());
+    desktop::setNeedsDisplay(*this);
     const auto kept = brimsound::retain(this);
-    std::erase(peerOf(*superview).subviews, kept);
+    auto* former = std::exchange(peerOf(*this).superview, nullptr);
+    std::erase(peerOf(*former).subviews, kept);
 }
 
 void UIView::setNeedsLayout()
@@ -93,8 +93,11 @@ RetainPtr<UIColor> UIView::backgroundColor() const
 
 void UIView::setBackgroundColor(RetainPtr<UIColor> color)
 {
-    peerOf(*this).backgroundColor = std::move(color);
-    desktop::setNeedsDisplay(*this);
+    auto& peer = peerOf(*this);
+    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.backgroundColor);
+    peer.backgroundColor = std::move(color);
+    if (!looksTheSame)
+        desktop::setNeedsDisplay(*this);
 }
 
 CGFloat UIView::alpha() const
@@ -104,7 +107,10 @@ CGFloat UIView::alpha() const
 
 void UIView::setAlpha(CGFloat alpha)
 {
-    peerOf(*this).alpha = std::clamp(alpha, 0.0, 1.0);
+    alpha = std::clamp(alpha, 0.0, 1.0);
+    if (peerOf(*this).alpha == alpha)
+        return;
+    peerOf(*this).alpha = alpha;
     desktop::setNeedsDisplay(*this);
 }
 
@@ -115,6 +121,10 @@ bool UIView::isHidden() const
 
 void UIView::setHidden(bool hidden)
 {
+    if (peerOf(*this).hidden == hidden)
+        return;
+    // Before and after, as what is hidden asks for no drawing.
+    desktop::setNeedsDisplay(*this);
     peerOf(*this).hidden = hidden;
     desktop::setNeedsDisplay(*this);
 }

@@ -44,10 +44,23 @@ CGRect boundsOf(const ViewPeer& peer)
     return { peer.origin, peer.frame.size };
 }
 
+CGRect reachOf(const ViewPeer& peer)
+{
+    if (peer.clipsToBounds)
+        return boundsOf(peer);
+    auto reach = insetBy(boundsOf(peer), -peer.overhang, -peer.overhang);
+    for (const auto& subview : peer.subviews) {
+        const auto& inner = peerOf(*subview);
+        const auto innerReach = reachOf(inner);
+        if (!inner.hidden)
+            reach = unite(reach, { toSuperview(innerReach.origin, inner), innerReach.size });
+    }
+    return reach;
+}
+
 void setNeedsDisplay(const UIView& view)
 {
-    const auto& peer = peerOf(view);
-    setNeedsDisplay(view, insetBy(boundsOf(peer), -peer.overhang, -peer.overhang));
+    setNeedsDisplay(view, reachOf(peerOf(view)));
 }
 
 void setNeedsDisplay(const UIView& view, const CGRect& rect)
@@ -103,22 +116,20 @@ void layOutTree(UIView& view)
 void drawTree(const UIView& view, Canvas& canvas)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.alpha <= 0 || peer.frame.size.width <= 0 || peer.frame.size.height <= 0)
+    if (peer.hidden || peer.alpha <= 0)
         return;
-    if (!canvas.showsAnythingIn(insetBy(peer.frame, -peer.overhang, -peer.overhang)))
+    const auto reach = reachOf(peer);
+    if (!canvas.showsAnythingIn({ toSuperview(reach.origin, peer), reach.size }))
         return;
 
     canvas.save();
     canvas.translate(peer.frame.origin.x - peer.origin.x, peer.frame.origin.y - peer.origin.y);
-    const auto bounds = boundsOf(peer);
     const bool rounded = peer.clipsToBounds && peer.cornerRadius > 0;
     const bool grouped = rounded || peer.alpha < 1;
-    if (grouped) {
-        const auto reach = peer.clipsToBounds ? bounds : insetBy(bounds, -peer.overhang, -peer.overhang);
+    if (grouped)
         canvas.beginGroup(reach, peer.alpha, rounded ? peer.cornerRadius : 0);
-    } else if (peer.clipsToBounds) {
-        canvas.clip(bounds);
-    }
+    else if (peer.clipsToBounds)
+        canvas.clip(reach);
     drawContents(peer, canvas);
     if (grouped)
         canvas.endGroup();
@@ -130,6 +141,7 @@ UIView* hitTest(UIView& view, CGPoint point)
     const auto& peer = peerOf(view);
     if (peer.hidden || peer.alpha < faintest || !contains(boundsOf(peer), point))
         return nullptr;
+    // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
     for (auto front = peer.subviews.rbegin(); front != peer.subviews.rend(); ++front) {
         if (auto* hit = hitTest(**front, fromSuperview(point, peerOf(**front))))
             return hit;

@@ -54,6 +54,9 @@ ViewPeer& peerOf(const UIView&);
 /// The bounds in the view's own coordinates.
 CGRect boundsOf(const ViewPeer&);
 
+/// All that the view and its subviews draw on, in the view's own coordinates.
+CGRect reachOf(const ViewPeer&);
+
 /// Marks the view, or a part of it given in its own coordinates, to be drawn again.
 void setNeedsDisplay(const UIView&);
 void setNeedsDisplay(const UIView&, const CGRect&);

@@ -1,0 +1,261 @@
+#include "platform/UIKit/UISlider.h"
+#include "platform/UIKit/UISwitch.h"
+#include "platform/desktop/Qt/QtCanvas.h"
+#include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/TablePeer.h"
+#include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace brimsound::tests {
+
+namespace {
+
+using desktop::peerOf;
+using desktop::pictureOf;
+using desktop::Window;
+
+RetainPtr<UIColor> red()
+{
+    return UIColor::colorWithRedGreenBlueAlpha(1, 0, 0, 1);
+}
+
+RetainPtr<UIView> box(const CGRect& frame, const RetainPtr<UIColor>& color)
+{
+    auto view = make<UIView>(frame);
+    view->setBackgroundColor(color);
+    return view;
+}
+
+/// Components from 0 to 255, each off by one at the most.
+MATCHER_P3(IsColor, redPart, greenPart, bluePart, "")
+{
+    *result_listener << arg.red() << ", " << arg.green() << ", " << arg.blue();
+    return std::abs(arg.red() - redPart) <= 1 && std::abs(arg.green() - greenPart) <= 1
+        && std::abs(arg.blue() - bluePart) <= 1;
+}
+
+MATCHER_P(IsThemed, color, "")
+{
+    return testing::ExplainMatchResult(IsColor(static_cast<int>(std::lround(color.red * 255)),
+                                           static_cast<int>(std::lround(color.green * 255)),
+                                           static_cast<int>(std::lround(color.blue * 255))),
+        arg, result_listener);
+}
+
+const auto isWhite = IsColor(255, 255, 255);
+const auto isRed = IsColor(255, 0, 0);
+const auto isBlack = IsColor(0, 0, 0);
+
+class APicture : public testing::Test {
+protected:
+    QColor pixel(int x, int y, double scale = 1) const { return pictureOf(*window, scale).pixelColor(x, y); }
+
+    const RetainPtr<Window> window = make<Window>(CGSize { 100, 80 });
+};
+
+TEST_F(APicture, HasAsManyPixelsAPointAsItsScale)
+{
+    EXPECT_EQ(pictureOf(*window, 1).size(), QSize(100, 80));
+    EXPECT_EQ(pictureOf(*window, 2).size(), QSize(200, 160));
+    window->addSubview(*box(CGRectMake(10, 10, 20, 20), red()));
+    EXPECT_THAT(pixel(10, 10), isRed);
+    EXPECT_THAT(pixel(9, 10), isWhite);
+    EXPECT_THAT(pixel(30, 10), isWhite);
+    EXPECT_THAT(pixel(20, 20, 2), isRed);
+    EXPECT_THAT(pixel(19, 20, 2), isWhite);
+    EXPECT_THAT(pixel(59, 59, 2), isRed);
+    EXPECT_THAT(pixel(60, 59, 2), isWhite);
+}
+
+TEST_F(APicture, IsLaidOutFirst)
+{
+    class Filling : public UIView {
+    public:
+        void layoutSubviews() override { subviews().front()->setFrame(bounds()); }
+    };
+    const auto filling = make<Filling>();
+    filling->setFrame(CGRectMake(0, 0, 100, 80));
+    filling->addSubview(*box({}, red()));
+    window->addSubview(*filling);
+    EXPECT_THAT(pixel(99, 79), isRed);
+}
+
+TEST_F(APicture, ShowsTheFrontmostViewAndFollowsScrolledOrigins)
+{
+    const auto outer = box(CGRectMake(10, 10, 50, 50), UIColor::blackColor());
+    outer->addSubview(*box(CGRectMake(0, 20, 10, 10), red()));
+    window->addSubview(*outer);
+    EXPECT_THAT(pixel(15, 35), isRed);
+    desktop::setOrigin(*outer, { 0, 15 });
+    EXPECT_THAT(pixel(15, 35), isBlack);
+    EXPECT_THAT(pixel(15, 20), isRed);
+}
+
+TEST_F(APicture, DoesNotShowHiddenOrInvisibleViews)
+{
+    const auto outer = box(CGRectMake(0, 0, 50, 50), UIColor::blackColor());
+    const auto inner = box(CGRectMake(10, 10, 10, 10), red());
+    outer->addSubview(*inner);
+    window->addSubview(*outer);
+    inner->setHidden(true);
+    EXPECT_THAT(pixel(15, 15), isBlack);
+    inner->setHidden(false);
+    outer->setAlpha(0);
+    EXPECT_THAT(pixel(15, 15), isWhite);
+    outer->setAlpha(1);
+    outer->setHidden(true);
+    EXPECT_THAT(pixel(15, 15), isWhite);
+}
+
+TEST_F(APicture, ShowsWhatSticksOutOfAViewThatDoesNotClip)
+{
+    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
+    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
+    const auto empty = make<UIView>(CGRectMake(10, 50, 0, 0));
+    empty->addSubview(*box(CGRectMake(0, 0, 10, 10), red()));
+    window->addSubview(*outer);
+    window->addSubview(*empty);
+    EXPECT_THAT(pixel(35, 15), isRed);
+    EXPECT_THAT(pixel(15, 55), isRed);
+    peerOf(*outer).clipsToBounds = true;
+    peerOf(*empty).clipsToBounds = true;
+    EXPECT_THAT(pixel(35, 15), isWhite);
+    EXPECT_THAT(pixel(15, 55), isWhite);
+}
+
+TEST_F(APicture, ShowsWhatSticksOutWhenOnlyThatPartIsDrawn)
+{
+    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
+    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
+    window->addSubview(*outer);
+    QImage picture(100, 80, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setClipRect(QRectF(25, 0, 50, 50));
+    desktop::QtCanvas canvas(painter, 1);
+    desktop::drawTree(*window, canvas);
+    EXPECT_THAT(picture.pixelColor(35, 15), isRed);
+}
+
+TEST_F(APicture, FadesAViewTogetherWithEverythingInIt)
+{
+    const auto outer = make<UIView>(CGRectMake(0, 0, 60, 60));
+    outer->addSubview(*box(CGRectMake(0, 0, 40, 40), UIColor::blackColor()));
+    outer->addSubview(*box(CGRectMake(20, 20, 40, 40), red()));
+    outer->setAlpha(0.5);
+    window->addSubview(*outer);
+    EXPECT_THAT(pixel(5, 5), IsColor(128, 128, 128));
+    EXPECT_THAT(pixel(30, 30), IsColor(255, 128, 128));
+    EXPECT_THAT(pixel(50, 50), IsColor(255, 128, 128));
+    EXPECT_THAT(pixel(60, 60, 2), IsColor(255, 128, 128));
+}
+
+TEST_F(APicture, FadesWhatSticksOutOfAViewToo)
+{
+    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
+    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
+    outer->setAlpha(0.5);
+    window->addSubview(*outer);
+    EXPECT_THAT(pixel(35, 15), IsColor(255, 128, 128));
+}
+
+TEST_F(APicture, FadesViewsWithinFadedViewsMore)
+{
+    const auto outer = make<UIView>(CGRectMake(10, 10, 60, 60));
+    const auto inner = box(CGRectMake(10, 10, 30, 30), UIColor::blackColor());
+    outer->addSubview(*inner);
+    outer->setAlpha(0.5);
+    inner->setAlpha(0.5);
+    window->addSubview(*outer);
+    for (const int scale : { 1, 2 }) {
+        EXPECT_THAT(pixel(30 * scale, 30 * scale, scale), IsColor(191, 191, 191));
+        EXPECT_THAT(pixel(20 * scale, 20 * scale, scale), IsColor(191, 191, 191));
+        EXPECT_THAT(pixel(20 * scale - 1, 20 * scale, scale), isWhite);
+        EXPECT_THAT(pixel(50 * scale, 50 * scale, scale), isWhite);
+    }
+}
+
+TEST_F(APicture, CutsTheCornersOfARoundedView)
+{
+    const auto outer = make<UIView>(CGRectMake(10, 10, 60, 60));
+    peerOf(*outer).clipsToBounds = true;
+    peerOf(*outer).cornerRadius = 20;
+    outer->addSubview(*box(CGRectMake(-10, -10, 100, 100), UIColor::blackColor()));
+    window->addSubview(*outer);
+    for (const int scale : { 1, 2 }) {
+        const auto picture = pictureOf(*window, scale);
+        const auto at = [&](int x, int y) { return picture.pixelColor(x * scale, y * scale); };
+        EXPECT_THAT(at(11, 11), isWhite);
+        EXPECT_THAT(at(68, 11), isWhite);
+        EXPECT_THAT(at(11, 68), isWhite);
+        EXPECT_THAT(at(68, 68), isWhite);
+        EXPECT_THAT(at(14, 14), isWhite);
+        EXPECT_THAT(at(17, 17), isBlack);
+        EXPECT_THAT(at(40, 10), isBlack);
+        EXPECT_THAT(at(10, 40), isBlack);
+        EXPECT_THAT(at(40, 9), isWhite);
+        EXPECT_THAT(at(70, 40), isWhite);
+    }
+}
+
+TEST_F(APicture, ClipsAScrollingViewToItsFrame)
+{
+    const auto outer = make<UITableView>(CGRectMake(10, 10, 40, 40), UITableViewStyle::Plain);
+    outer->addSubview(*box(CGRectMake(-20, -20, 200, 200), red()));
+    window->addSubview(*outer);
+    EXPECT_THAT(pixel(10, 10), isRed);
+    EXPECT_THAT(pixel(49, 49), isRed);
+    EXPECT_THAT(pixel(9, 20), isWhite);
+    EXPECT_THAT(pixel(20, 50), isWhite);
+}
+
+TEST_F(APicture, OfASliderShowsItsTintLeftOfTheThumbOnly)
+{
+    const auto slider = make<UISlider>();
+    slider->setFrame(CGRectMake(0, 20, 100, 40));
+    slider->setValue(0.5f);
+    slider->setMinimumTrackTintColor(red());
+    window->addSubview(*slider);
+    EXPECT_THAT(pixel(20, 39), isRed);
+    EXPECT_THAT(pixel(80, 39), IsThemed(desktop::theme::sliderTrack));
+    EXPECT_THAT(pixel(50, 39), isWhite);
+    slider->setMinimumTrackTintColor(nullptr);
+    EXPECT_THAT(pixel(20, 39), IsThemed(desktop::theme::tint));
+    slider->setValue(1);
+    EXPECT_THAT(pixel(60, 39), IsThemed(desktop::theme::tint));
+}
+
+TEST_F(APicture, OfASwitchShowsItsKnobOnTheSideWhereItIs)
+{
+    const auto toggle = make<UISwitch>();
+    toggle->setFrame(CGRectMake(10, 10, 51, 31));
+    window->addSubview(*toggle);
+    EXPECT_THAT(pixel(25, 25), isWhite);
+    EXPECT_THAT(pixel(54, 25), IsThemed(desktop::theme::switchOff));
+    toggle->setOn(true, Animated::No);
+    EXPECT_THAT(pixel(46, 25), isWhite);
+    EXPECT_THAT(pixel(18, 25), IsThemed(desktop::theme::switchOn));
+}
+
+TEST_F(APicture, CanBeWrittenToAFile)
+{
+    window->addSubview(*box(CGRectMake(10, 10, 20, 20), red()));
+    const QTemporaryDir folder;
+    const auto path = folder.filePath("picture.png");
+    EXPECT_TRUE(desktop::writeSnapshot(*window, 2, path));
+    const QImage written(path);
+    EXPECT_EQ(written.size(), QSize(200, 160));
+    EXPECT_THAT(written.pixelColor(30, 30), isRed);
+    EXPECT_FALSE(desktop::writeSnapshot(*window, 2, folder.filePath("missing/picture.png")));
+}
+
+} // namespace
+
+} // namespace brimsound::tests
