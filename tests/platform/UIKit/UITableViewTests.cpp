@@ -61,7 +61,7 @@ TEST(ATable, MakesFewCellsForManyRows)
 {
     Rows rows { { 10000 } };
     const TableInWindow list(rows, phone);
-    for (double offset = 0; offset < 10000 * 44; offset += 150)
+    for (int offset = 0; offset < 10000 * 44; offset += 150)
         list.scrollTo(offset);
     for (const double offset : { 300000.0, 0.0, 439000.0, 123.0 })
         list.scrollTo(offset);
