@@ -83,7 +83,9 @@ void MainLoop::scheduleTick()
 {
     const auto& clock = Clock::shared();
     if (clock.isAnimating()) {
-        _timer.start(frame);
+        // Events that come faster than frames must not put the next frame off again and again.
+        if (!_timer.isActive() || _timer.remainingTimeAsDuration() > frame)
+            _timer.start(frame);
     } else if (const auto next = clock.untilNextAction()) {
         _timer.start(milliseconds(*next));
     }

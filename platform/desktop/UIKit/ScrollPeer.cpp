@@ -108,6 +108,7 @@ void ScrollPeer::endPan()
 void ScrollPeer::stop()
 {
     ++_movement;
+    _isMoving = false;
 }
 
 void ScrollPeer::comeBack()
@@ -139,8 +140,10 @@ void ScrollPeer::settle(double velocity)
         }
         setOrigin(*view, { 0, offset });
         showIndicator();
-        return std::abs(velocity) >= slowest || offset != std::clamp(offset, 0.0, furthest());
+        _isMoving = std::abs(velocity) >= slowest || offset != std::clamp(offset, 0.0, furthest());
+        return _isMoving;
     };
+    _isMoving = true;
     Clock::shared().onEveryFrame(move);
 }
 

@@ -25,6 +25,8 @@ struct ScrollPeer : ViewPeer {
     void endPan();
     /// Ends any momentum.
     void stop();
+    /// Whether the view moves by itself.
+    bool isMoving() const { return _isMoving; }
     /// Moves back to the edge that the view is beyond.
     void comeBack();
 
@@ -41,6 +43,7 @@ private:
     std::deque<std::pair<double, double>> _trail;
     /// Counts movements, so that a new one ends the one before.
     unsigned _movement = 0;
+    bool _isMoving = false;
     unsigned _indicatorShowing = 0;
     double _indicatorAlpha = 0;
 };

@@ -41,6 +41,9 @@ void TouchSession::begin(UIView& hit, const Touch& touch)
         return;
     }
     _phase = Phase::HeldBack;
+    // A touch that stops a moving view means nothing else: nobody can have aimed at what was passing by.
+    if (scrollPeerOf(*_scrollView).isMoving())
+        _view = nullptr;
     scrollPeerOf(*_scrollView).stop();
     _timer = Clock::shared().after(holdBackTime, [this] { handOver(); });
 }

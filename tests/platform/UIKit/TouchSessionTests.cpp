@@ -67,6 +67,29 @@ TEST_F(AFingerOnASliderInATable, ScrollsWhenItSoonMovesUpAndTheSliderNeverHearsO
     EXPECT_THAT(log->take(), IsEmpty());
 }
 
+TEST_F(AFingerOnASliderInATable, ThatStopsAMovingTableIsNoTapOnWhatWasPassingBy)
+{
+    putDown({ 150, 350 });
+    for (const double y : { 320.0, 280.0, 240.0 }) {
+        Clock::shared().advance(0.02);
+        window().touchMove({ 150, y });
+    }
+    window().touchUp({ 150, 240 });
+    Clock::shared().advance(0.05);
+    const double passing = offset();
+    ASSERT_GT(passing, 110);
+
+    putDown({ 150, 200 });
+    Clock::shared().advance(0.05);
+    EXPECT_EQ(offset(), passing);
+    window().touchUp({ 150, 200 });
+    EXPECT_THAT(rows.selected, IsEmpty());
+    // At rest, the same tap is one.
+    putDown({ 150, 200 });
+    window().touchUp({ 150, 200 });
+    EXPECT_EQ(rows.selected.size(), 1u);
+}
+
 TEST_F(AFingerOnASliderInATable, ScrollsWhenItSoonMovesDown)
 {
     list->scrollTo(100);
