@@ -1,19 +1,137 @@
+#include "platform/CoreFoundation/CFBase.h"
+#include "platform/CoreFoundation/CFNotificationCenter.h"
+#include "platform/System/process.h"
+#include "platform/UIKit/UIAlertView.h"
 #include "settings/BrimsoundSettings.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
 
 namespace brimsound {
 
-PropertyList BrimsoundSettingsListController::varEnabled(const PropertyList& key)
+namespace {
+
+/// From this version of Core Foundation on, restarting the user interface is restarting backboardd.
+constexpr double firstWithBackboard = 792.0;
+
+/// The value that is stored under the key, as it is; the default when there is none.
+PropertyList storedValue(const PropertyList& key, bool defaultValue)
 {
     const auto preferences = get_preferences();
     const auto* value = key.asString() ? preferences.find(*key.asString()) : nullptr;
-    return value ? *value : PropertyList(true);
+    return value ? *value : PropertyList(defaultValue);
+}
+
+void store(const PropertyList& key, const PropertyList& value)
+{
+    auto preferences = get_preferences();
+    if (key.asString())
+        preferences.set(*key.asString(), value);
+    write_preferences(std::move(preferences));
+}
+
+} // namespace
+
+void BrimsoundSettingsListController::showActivator(PSSpecifier&) { }
+
+void BrimsoundSettingsListController::respring(PSSpecifier&)
+{
+    // Only what is saved elsewhere would be lost, and nothing is: the hooks below have nothing to do, and the
+    // cell's switch is read for nothing.
+    if (const auto* cell = table().cellForRowAtIndexPath({ 0, 0 }))
+        static_cast<void>(cell->accessoryView());
+    writeSettings();
+    sendSettings();
+}
+
+void BrimsoundSettingsListController::showAlertViewWithMessage(const PropertyList& message)
+{
+    const auto* text = message.asString();
+    make<UIAlertView>(
+        "", text ? *text : std::string(), this, "Not now", std::vector<std::string> { "Respring" })
+        ->show();
+}
+
+PropertyList BrimsoundSettingsListController::enabled()
+{
+    return storedValue(enabledKey, true);
+}
+
+void BrimsoundSettingsListController::setEnabled(const PropertyList& value)
+{
+    store(enabledKey, value);
+    showAlertViewWithMessage(value.boolValue()
+            ? "In order to enable the equalizer, you will need to respring."
+            : "In order to disable the equalizer, you will need to respring.");
+}
+
+PropertyList BrimsoundSettingsListController::enabledCC()
+{
+    return storedValue(enabledCCKey, true);
+}
+
+void BrimsoundSettingsListController::setEnabledCC(const PropertyList& value)
+{
+    store(enabledCCKey, value);
+    showAlertViewWithMessage(value.boolValue()
+            ? "In order to add the equalizer to the control center, you will need to respring."
+            : "In order to remove the equalizer from the control center, you will need to respring.");
+}
+
+PropertyList BrimsoundSettingsListController::varDisabled(const PropertyList& key)
+{
+    return storedValue(key, false);
+}
+
+PropertyList BrimsoundSettingsListController::varEnabled(const PropertyList& key)
+{
+    return storedValue(key, true);
+}
+
+void BrimsoundSettingsListController::setVarValue(const PropertyList& key, const PropertyList& value)
+{
+    store(key, value);
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDarwinNotifyCenter(), settingsChangedNotification, nullptr, nullptr, true);
 }
 
 PropertyList BrimsoundSettingsListController::autoPreamp()
 {
     return varEnabled(autoPreampKey);
+}
+
+void BrimsoundSettingsListController::setAutoPreamp(const PropertyList& value)
+{
+    _autoPreamp = value.boolValue();
+    setVarValue(autoPreampKey, value);
+}
+
+PropertyList BrimsoundSettingsListController::filterDisabled()
+{
+    return varDisabled(filterDisabledKey);
+}
+
+void BrimsoundSettingsListController::setFilterDisabled(const PropertyList& value)
+{
+    setVarValue(filterDisabledKey, value);
+}
+
+PropertyList BrimsoundSettingsListController::checkingDisabled()
+{
+    return varDisabled(checkingDisabledKey);
+}
+
+void BrimsoundSettingsListController::setCheckingDisabled(const PropertyList& value)
+{
+    setVarValue(checkingDisabledKey, value);
+}
+
+void BrimsoundSettingsListController::alertViewClickedButtonAtIndex(UIAlertView&, long buttonIndex)
+{
+    if (buttonIndex == 0)
+        return;
+    brimsound::system("killall mediaserverd");
+    brimsound::system(
+        kCFCoreFoundationVersionNumber >= firstWithBackboard ? "killall backboardd" : "killall SpringBoard");
 }
 
 } // namespace brimsound

@@ -3,7 +3,9 @@
 
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
 #include "platform/CoreFoundation/CFNotificationCenter.h"
+#include "platform/MessageUI/MFMailComposeViewControllerDelegate.h"
 #include "platform/Preferences/PSListController.h"
+#include "platform/UIKit/UIAlertViewDelegate.h"
 #include "settings/BRSliderCell.h"
 
 #include <array>
@@ -40,7 +42,9 @@ void finishSettingsNotification(CFNotificationCenterRef, void* observer, std::st
 
 /// The pane: a list of specifiers with the sliders as row 0 of section 2. It keeps no model of the settings;
 /// the preferences file is read for every change and written with it.
-class BrimsoundSettingsListController : public PSListController {
+class BrimsoundSettingsListController : public PSListController,
+                                        public UIAlertViewDelegate,
+                                        public MFMailComposeViewControllerDelegate {
 public:
     BrimsoundSettingsListController();
 
@@ -67,9 +71,17 @@ public:
     /// A slider was let go: shows the caption again, saves and announces.
     void sliderStopped(UISlider& sender);
 
+    /// Composes a mail with a description of the device and the preferences file.
+    void reportIssue(PSSpecifier&);
+    /// Takes the composed mail's sheet away, whatever became of it.
+    void mailComposeControllerDidFinishWithResultError(
+        MFMailComposeViewController&, MFMailComposeResult, const NSError*) override;
+
     /// Puts the black bar where a band slider's thumb would cancel the preamp. Nothing before the sliders
     /// exist.
     void updateBlackBar();
+    /// Nothing: there is no gesture to assign.
+    void showActivator(PSSpecifier&);
     CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) override;
 
     /// The bridge for specifiers without accessors of their own. It works on `settings`, which nothing fills:
@@ -77,13 +89,37 @@ public:
     void setPreferenceValueSpecifier(const PropertyList& value, PSSpecifier&) override;
     PropertyList readPreferenceValue(PSSpecifier&) override;
 
+    void visitWebsite(PSSpecifier&);
+
     /// Plays a preset's ten gains (dB) onto the band sliders as if each had been dragged and let go. Throws
     /// std::out_of_range at the first gain that is missing.
     void playlistSaverSelectedPreset(NSObject& saver, const PropertyList& gains);
 
-    /// The stored value, else true; nothing is stored by reading.
+    /// Opens the product's profile in the first app that can.
+    void visitTwitter(PSSpecifier&);
+    /// Restarts nothing, whatever its name says.
+    void respring(PSSpecifier&);
+    /// Offers to respring at once.
+    void showAlertViewWithMessage(const PropertyList& message);
+
+    // The switches. Getters return what is stored, of whatever type, and else a default that is not stored;
+    // setters write the file. The first two then offer a respring, the others tell the running engine.
+    PropertyList enabled();
+    void setEnabled(const PropertyList&);
+    PropertyList enabledCC();
+    void setEnabledCC(const PropertyList&);
+    PropertyList varDisabled(const PropertyList& key);
     PropertyList varEnabled(const PropertyList& key);
+    void setVarValue(const PropertyList& key, const PropertyList& value);
     PropertyList autoPreamp();
+    void setAutoPreamp(const PropertyList&);
+    PropertyList filterDisabled();
+    void setFilterDisabled(const PropertyList&);
+    PropertyList checkingDisabled();
+    void setCheckingDisabled(const PropertyList&);
+
+    /// Restarts the media server and then the user interface, unless the button is the cancel button.
+    void alertViewClickedButtonAtIndex(UIAlertView&, long buttonIndex) override;
 
     // Called where a pane with a model of its own would save it; this one has nothing left to save.
     void writeSettings() { }

@@ -15,8 +15,16 @@ inline constexpr auto preampKey = "PREAMP";
 inline constexpr auto presetsKey = "PRESETS";
 /// The name of the preset last chosen or saved.
 inline constexpr auto selectedPresetKey = "SELECTED_PRESET";
+/// Whether the equalizer is on at all; on when absent.
+inline constexpr auto enabledKey = "ENABLED";
+/// Whether it is in the Control Center; on when absent.
+inline constexpr auto enabledCCKey = "ENABLED_CC";
 /// Whether the preamp follows the highest band; on when absent.
 inline constexpr auto autoPreampKey = "AUTO_PREAMP";
+
+/// Two flags of the engine's own; off when absent.
+inline constexpr auto filterDisabledKey = "FILTER_DISABLED";
+inline constexpr auto checkingDisabledKey = "CHECKING_DISABLED";
 
 /// The messaging center that the engine serves in the media server.
 inline constexpr auto messagingCenterName = "com.quorvix.brimsound";
@@ -27,5 +35,7 @@ inline constexpr auto valsKey = "vals";
 
 /// Darwin notification: the gains or presets in the file changed.
 inline constexpr auto settingsFinishedNotification = "com.quorvix.brimsound.settingsfinishnotify";
+/// Darwin notification: one of the engine's flags in the file changed.
+inline constexpr auto settingsChangedNotification = "LMAO_BRIMSOUND_SETTINGS_CHANGED";
 
 } // namespace brimsound

@@ -3,7 +3,7 @@
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
 
-#include <chrono>
+#include <cstdio>
 #include <stdexcept>
 #include <thread>
 
@@ -11,8 +11,13 @@ namespace brimsound::desktop {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr std::chrono::seconds patience { 5 };
 constexpr std::chrono::milliseconds pause { 5 };
+/// A server that ends sooner than this after its start, so many times in a row, is not started again.
+constexpr std::chrono::seconds quickEnd { 1 };
+constexpr int mostQuickEnds = 5;
 
 bool isServed()
 {
@@ -21,22 +26,44 @@ bool isServed()
 
 } // namespace
 
-std::unique_ptr<ChildProcess> startMediaServerIfMissing(
-    const std::filesystem::path& programFolder, const std::filesystem::path& root)
+MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::path root)
+    : _programFolder(std::move(programFolder))
+    , _root(std::move(root))
 {
     if (isServed())
-        return nullptr;
-    auto server = std::make_unique<ChildProcess>(
-        std::vector<std::string> { programFolder / "mediaserverd", "--root", root });
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+        return;
+    start();
+    SessionBus::shared().watchForLoss(messagingCenterName, [this] { startAgain(); });
+}
+
+void MediaServer::start()
+{
+    _process = std::make_unique<ChildProcess>(
+        std::vector<std::string> { _programFolder / "mediaserverd", "--root", _root });
+    _started = Clock::now();
     for (;;) {
         // Asked first: a server that ends because another pane's was faster leaves the name served.
-        const bool running = server->running();
+        const bool running = _process->running();
         if (isServed())
-            return server;
-        if (!running || std::chrono::steady_clock::now() > deadline)
+            return;
+        if (!running || Clock::now() > _started + patience)
             throw std::runtime_error("the media server did not start");
         std::this_thread::sleep_for(pause);
+    }
+}
+
+void MediaServer::startAgain()
+{
+    // Its name is gone a moment before the process is.
+    if (!_process->exitStatus(patience))
+        return;
+    _quickEnds = Clock::now() < _started + quickEnd ? _quickEnds + 1 : 0;
+    try {
+        if (_quickEnds > mostQuickEnds)
+            throw std::runtime_error("the media server keeps ending");
+        start();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brimsound: %s\n", error.what());
     }
 }
 

@@ -39,9 +39,11 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption headless("headless", "Open no window. Time passes only as a script says.");
     const QCommandLineOption script("script",
         "Do what the gesture script in FILE says (- for standard input) and print a trace.", "FILE");
+    const QCommandLineOption live(
+        "live", "Carry out the commands, URLs and mails of a script; without it they are only traced.");
     const QCommandLineOption snapshot("snapshot", "Write a picture of the pane before ending.", "FILE.png");
     const QCommandLineOption scale("scale", "Draw N device pixels a point.", "N");
-    parser.addOptions({ root, headless, script, snapshot, scale });
+    parser.addOptions({ root, headless, script, live, snapshot, scale });
 
     if (!parser.parse(arguments))
         throw UsageError(parser.errorText().toStdString());
@@ -60,6 +62,7 @@ Options readOptions(const QStringList& arguments)
     options.root = parser.value(root);
     options.headless = parser.isSet(headless);
     options.script = parser.value(script);
+    options.live = parser.isSet(live);
     options.snapshot = parser.value(snapshot);
     if (parser.isSet(scale))
         options.scale = readScale(parser.value(scale));

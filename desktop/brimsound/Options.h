@@ -16,6 +16,8 @@ struct Options {
     bool headless = false;
     /// The gesture script, "-" for standard input; empty for none.
     QString script;
+    /// Whether a script's commands, URLs and mails reach the rest of the machine.
+    bool live = false;
     /// The picture to write before the end; empty for none.
     QString snapshot;
     /// Device pixels a point; nothing for the screen's own, 2 without a screen.

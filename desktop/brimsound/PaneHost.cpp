@@ -1,7 +1,9 @@
 #include "desktop/brimsound/PaneHost.h"
 
 #include "platform/Foundation/NSBundle.h"
+#include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/UIKit/NavigationBar.h"
+#include "platform/desktop/UIKit/ViewControllerPeer.h"
 
 namespace brimsound::desktop {
 
@@ -63,6 +65,7 @@ std::string paneTitle()
 PaneHost::PaneHost(CGSize size)
     : _window(make<PaneWindow>(size))
     , _root(make<RootView>())
+    , _rootController(makeViewController(_root))
 {
     _window->addSubview(*_root);
     open();
@@ -82,6 +85,7 @@ void PaneHost::open()
     const auto controller = make<BrimsoundSettingsListController>();
     if (!controller->initForContentSize({ size.width, std::max(0.0, size.height - NavigationBar::height) }))
         return;
+    setRootController(*controller, *_rootController);
     _controller = controller;
     static_cast<RootView&>(*_root).setContent(retain<UIView>(&controller->table()));
     _window->layOut();
@@ -95,6 +99,9 @@ void PaneHost::close()
 
 void PaneHost::releasePane()
 {
+    // They would answer to a pane that is gone.
+    _window->alerts().dismissAll();
+    _rootController->dismissViewControllerAnimatedCompletion(Animated::No, {});
     static_cast<RootView&>(*_root).setContent(nullptr);
     _controller = nullptr;
 }

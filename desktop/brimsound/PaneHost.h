@@ -19,8 +19,11 @@ public:
     /// Null while the pane is closed.
     BrimsoundSettingsListController* controller() const { return _controller.get(); }
 
+    /// Presents the pane's sheets.
+    UIViewController& rootController() const { return *_rootController; }
+
     void open();
-    /// Takes a touch that is down away and releases the pane.
+    /// Takes a touch that is down away, and alerts and sheets unanswered, and releases the pane.
     void close();
 
 private:
@@ -28,6 +31,7 @@ private:
 
     RetainPtr<Window> _window;
     RetainPtr<UIView> _root;
+    RetainPtr<UIViewController> _rootController;
     RetainPtr<BrimsoundSettingsListController> _controller;
 };
 

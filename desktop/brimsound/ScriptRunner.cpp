@@ -1,9 +1,16 @@
 #include "desktop/brimsound/ScriptRunner.h"
 
 #include "desktop/brimsound/State.h"
+#include "platform/MessageUI/MFMailComposeViewController.h"
+#include "platform/desktop/MessageUI/ComposeView.h"
+#include "platform/desktop/Preferences/SpecifierCell.h"
 #include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/AlertPeer.h"
+#include "platform/desktop/UIKit/Press.h"
 #include "platform/desktop/UIKit/ScrollPeer.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/TablePeer.h"
+#include "platform/desktop/UIKit/ViewControllerPeer.h"
 #include "platform/desktop/bus/Stranger.h"
 
 namespace brimsound::desktop {
@@ -14,6 +21,8 @@ namespace {
 constexpr double outsideDistance = 200;
 constexpr std::size_t lastSlider = 10;
 constexpr double largestWindow = 10000;
+/// A day.
+constexpr double longestWait = 86400;
 
 double lengthFrom(const std::string& word)
 {
@@ -53,6 +62,10 @@ const std::vector<ScriptRunner::Command>& ScriptRunner::commands()
         { "drag", 2, 3, "drag N V [outside]", &ScriptRunner::drag },
         { "lift", 1, 2, "lift N [outside]", &ScriptRunner::lift },
         { "cancel", 1, 1, "cancel N", &ScriptRunner::cancel },
+        { "switch", 2, 2, "switch KEY on or switch KEY off", &ScriptRunner::flipSwitch },
+        { "press", 1, 1, "press \"LABEL\" or press SELECTOR", &ScriptRunner::press },
+        { "alert", 1, 1, "alert \"BUTTON\"", &ScriptRunner::alert },
+        { "mail", 1, 1, "mail send or mail cancel", &ScriptRunner::mail },
         { "post", 1, 1, "post NAME", &ScriptRunner::post },
         { "wait", 1, 1, "wait SECONDS", &ScriptRunner::wait },
         { "resize", 2, 2, "resize W H", &ScriptRunner::resize },
@@ -193,6 +206,77 @@ void ScriptRunner::cancel(const Words& words)
     _host.window().touchCancel();
 }
 
+UITableViewCell& ScriptRunner::rowOf(const PSSpecifier& specifier) const
+{
+    _host.window().layOut();
+    auto& table = pane().table();
+    const auto path = indexPathOf(pane(), specifier);
+    scrollPeerOf(table).scrollIntoView(peerOf(table).rowRect(path));
+    _host.window().layOut();
+    return *table.cellForRowAtIndexPath(path);
+}
+
+void ScriptRunner::tap(UIView& view, const std::string& name) const
+{
+    if (_host.window().isTouched())
+        throw ScriptError("a finger is down already");
+    if (!desktop::press(view))
+        throw ScriptError("\"" + name + "\" is covered");
+}
+
+void ScriptRunner::flipSwitch(const Words& words)
+{
+    if (words[1] != "on" && words[1] != "off")
+        throw ScriptError("it is switch KEY on or switch KEY off");
+    for (const auto& specifier : pane().specifiers()) {
+        if (!isOfType(*specifier, switchCellType) || stringProperty(*specifier, "key") != words[0])
+            continue;
+        auto& toggle = *static_cast<SpecifierCell&>(rowOf(*specifier)).toggle();
+        if (toggle.isOn() != (words[1] == "on"))
+            tap(toggle, words[0]);
+        return;
+    }
+    throw ScriptError("there is no switch \"" + words[0] + "\"");
+}
+
+void ScriptRunner::press(const Words& words)
+{
+    for (const auto& specifier : pane().specifiers()) {
+        const bool isButton = isOfType(*specifier, buttonCellType) || isOfType(*specifier, linkCellType);
+        if (!isButton || (specifier->name() != words[0] && stringProperty(*specifier, "action") != words[0]))
+            continue;
+        tap(rowOf(*specifier), words[0]);
+        return;
+    }
+    throw ScriptError("there is no button \"" + words[0] + "\"");
+}
+
+void ScriptRunner::alert(const Words& words)
+{
+    const auto* shown = _host.window().alerts().current();
+    if (!shown)
+        throw ScriptError("no alert is shown");
+    for (const auto& button : peerOf(*shown).buttons) {
+        if (button->title() != words[0])
+            continue;
+        tap(*button, words[0]);
+        return;
+    }
+    throw ScriptError("the alert has no button \"" + words[0] + "\"");
+}
+
+void ScriptRunner::mail(const Words& words)
+{
+    if (words[0] != "send" && words[0] != "cancel")
+        throw ScriptError("it is mail send or mail cancel");
+    const auto* sheet
+        = dynamic_cast<MFMailComposeViewController*>(peerOf(_host.rootController()).presented.get());
+    if (!sheet)
+        throw ScriptError("no mail is being composed");
+    const auto& view = static_cast<ComposeView&>(sheet->view());
+    tap(words[0] == "send" ? view.sendButton() : view.cancelButton(), words[0]);
+}
+
 void ScriptRunner::post(const Words& words)
 {
     if (!postNotificationAsStranger(words[0]))
@@ -202,7 +286,7 @@ void ScriptRunner::post(const Words& words)
 void ScriptRunner::wait(const Words& words)
 {
     const double seconds = numberFrom(words[0]);
-    if (seconds < 0)
+    if (seconds < 0 || seconds > longestWait)
         throw ScriptError("\"" + words[0] + "\" is not a time");
     _loop.wait(seconds);
 }

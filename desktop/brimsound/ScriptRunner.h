@@ -36,6 +36,10 @@ private:
     void drag(const Words&);
     void lift(const Words&);
     void cancel(const Words&);
+    void flipSwitch(const Words&);
+    void press(const Words&);
+    void alert(const Words&);
+    void mail(const Words&);
     void post(const Words&);
     void wait(const Words&);
     void resize(const Words&);
@@ -45,6 +49,10 @@ private:
     void snapshot(const Words&);
 
     void pressAt(CGPoint);
+    /// Touches the middle of the view and lets go.
+    void tap(UIView&, const std::string& name) const;
+    /// The row of that specifier, scrolled into view.
+    UITableViewCell& rowOf(const PSSpecifier&) const;
     BrimsoundSettingsListController& pane() const;
     UISlider& slider(const std::string& word) const;
     /// The held slider, which must be the one that the word names.

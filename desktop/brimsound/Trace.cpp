@@ -2,6 +2,8 @@
 
 #include "settings/tweak.h"
 
+#include <QByteArray>
+
 namespace brimsound::desktop {
 
 Json toJson(const PropertyList& value)
@@ -54,6 +56,41 @@ void Trace::notificationDelivered(std::string_view name)
 void Trace::fileWritten(const std::string& path)
 {
     print({ { "effect", "write" }, { "path", path } });
+}
+
+void Trace::shellCommandRun(const std::string& command)
+{
+    print({ { "effect", "shell" }, { "command", command } });
+}
+
+void Trace::alertShown(const std::string& message, const std::vector<std::string>& buttons)
+{
+    print({ { "effect", "alert" }, { "message", message }, { "buttons", buttons } });
+}
+
+void Trace::mailSent(const Mail& mail)
+{
+    auto attachments = Json::array();
+    for (const auto& attachment : mail.attachments) {
+        const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(attachment.data.data()),
+            static_cast<qsizetype>(attachment.data.size()));
+        attachments.push_back({
+            { "name", attachment.fileName },
+            { "type", attachment.mimeType },
+            { "base64", bytes.toBase64().toStdString() },
+        });
+    }
+    print({
+        { "effect", "mail" },
+        { "subject", mail.subject },
+        { "to", mail.to },
+        { "attachments", attachments },
+    });
+}
+
+void Trace::urlOpened(const std::string& url)
+{
+    print({ { "effect", "url" }, { "url", url } });
 }
 
 void Trace::lineLogged(std::string_view text)

@@ -24,6 +24,10 @@ public:
     void notificationPosted(const std::string& name) override;
     void notificationDelivered(std::string_view name) override;
     void fileWritten(const std::string& path) override;
+    void shellCommandRun(const std::string& command) override;
+    void alertShown(const std::string& message, const std::vector<std::string>& buttons) override;
+    void mailSent(const Mail&) override;
+    void urlOpened(const std::string& url) override;
     void lineLogged(std::string_view text) override;
     void stateAsked(const Json& state);
 

@@ -82,12 +82,13 @@ int run(int argc, char** argv, const Options& options)
         throw UsageError("without a display there is nothing to do but --script or --snapshot");
 
     const auto bus = startBusIfMissing();
-    const auto server
-        = startMediaServerIfMissing(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
+    const MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
 
     Trace trace(stdout);
     if (!options.script.isEmpty())
         setEffectObserver(&trace);
+    if (!options.script.isEmpty() && !options.live)
+        setReach(Reach::ObserverOnly);
 
     MainLoop loop(headless ? MainLoop::Time::Virtual : MainLoop::Time::Real);
     PaneHost host(firstSize);

@@ -5,6 +5,7 @@
 #include "platform/Foundation/NSObject.h"
 #include "platform/Preferences/PSSpecifier.h"
 #include "platform/UIKit/UITableView.h"
+#include "platform/UIKit/UIViewController.h"
 
 #include <optional>
 #include <string>
@@ -36,6 +37,9 @@ public:
 
     virtual PropertyList readPreferenceValue(PSSpecifier&);
     virtual void setPreferenceValueSpecifier(const PropertyList& value, PSSpecifier&);
+
+    /// The controller at the root of the app that shows the pane, from which sheets are presented; not owned.
+    UIViewController& rootController() const;
 
     /// Called when the app goes to the background.
     virtual void suspend();

@@ -87,6 +87,7 @@ RetainPtr<BrimsoundSettingsListController> openController(CGFloat contentWidth)
 {
     auto controller = make<BrimsoundSettingsListController>();
     controller->initForContentSize({ contentWidth, 568 });
+    putIntoAnApp(*controller);
     return controller;
 }
 

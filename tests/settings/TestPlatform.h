@@ -3,8 +3,10 @@
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
+#include "platform/Preferences/PSListController.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,34 @@ public:
     void stopMediaServer();
     void startMediaServer();
 
+    /// Presses a button of the alert that is shown; 0 is the cancel button. False when none is.
+    bool answerAlert(std::size_t button);
+
+    /// A mail in its sheet, as the user sees it.
+    struct Mail {
+        std::string subject;
+        std::vector<std::string> to;
+        struct Attachment {
+            std::string fileName;
+            std::string mimeType;
+            std::string bytes;
+        };
+        std::vector<Attachment> attachments;
+    };
+    /// The mail that is being composed; nothing when none is.
+    std::optional<Mail> composedMail() const;
+    /// Presses a button of the sheet.
+    void sendMail();
+    void cancelMail();
+
+    /// Commands are carried out from now on; before, they are only traced.
+    void carryOutCommands();
+    /// No command can be started from now on.
+    void failToStartCommands();
+    /// What programs there are for URLs of those schemes, in place of whatever the machine has.
+    void haveProgramsFor(const std::vector<std::string>& schemes);
+    void setPreferredLanguages(const std::vector<std::string>& languages);
+
     /// Puts bytes, or a property list in the XML format, into the preferences file's place.
     void writePreferencesFile(const std::string& bytes);
     void writePreferencesFile(const PropertyList&);
@@ -42,5 +72,8 @@ private:
     struct Device;
     std::unique_ptr<Device> _device;
 };
+
+/// Lets a controller present its sheets, as the app does that shows it.
+void putIntoAnApp(PSListController&);
 
 } // namespace brimsound::tests

@@ -46,4 +46,28 @@ void RecordingEffects::lineLogged(std::string_view text)
     record("log " + std::string(text));
 }
 
+void RecordingEffects::shellCommandRun(const std::string& command)
+{
+    record("shell " + command);
+}
+
+void RecordingEffects::alertShown(const std::string& message, const std::vector<std::string>& buttons)
+{
+    std::string titles;
+    for (const auto& button : buttons)
+        titles += (titles.empty() ? "" : ", ") + button;
+    record("alert " + message + " (" + titles + ")");
+}
+
+void RecordingEffects::mailSent(const desktop::Mail& mail)
+{
+    record("mail " + mail.subject);
+    _mails.push_back(mail);
+}
+
+void RecordingEffects::urlOpened(const std::string& url)
+{
+    record("url " + url);
+}
+
 } // namespace brimsound::tests

@@ -25,11 +25,14 @@ public:
     ~RecordingEffects() override;
 
     /// One line for each effect so far: "message NAME" ("message NAME failed" when no reply came), "post
-    /// NAME", "deliver NAME", "write DEVICEPATH", "log TEXT".
+    /// NAME", "deliver NAME", "write DEVICEPATH", "log TEXT", "shell COMMAND", "alert MESSAGE (BUTTON,
+    /// BUTTON)", "mail SUBJECT", "url URL".
     const std::vector<std::string>& trace() const { return _trace; }
     /// The trace so far, which then starts anew.
     std::vector<std::string> takeTrace();
 
+    /// Every mail since the start.
+    const std::vector<desktop::Mail>& mails() const { return _mails; }
     /// Every message since the start.
     const std::vector<Message>& messages() const { return _messages; }
 
@@ -37,6 +40,10 @@ public:
     void notificationPosted(const std::string&) override;
     void notificationDelivered(std::string_view) override;
     void fileWritten(const std::string&) override;
+    void shellCommandRun(const std::string&) override;
+    void alertShown(const std::string&, const std::vector<std::string>&) override;
+    void mailSent(const desktop::Mail&) override;
+    void urlOpened(const std::string&) override;
     void lineLogged(std::string_view) override;
 
 protected:
@@ -47,6 +54,7 @@ private:
     EffectObserver* _before;
     std::vector<std::string> _trace;
     std::vector<Message> _messages;
+    std::vector<desktop::Mail> _mails;
 };
 
 } // namespace brimsound::tests

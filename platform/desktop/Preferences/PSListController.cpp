@@ -3,8 +3,10 @@
 #include "platform/Foundation/NSBundle.h"
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/Preferences/SpecifierCell.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace brimsound {
@@ -22,6 +24,7 @@ struct ListControllerPeer : Peer {
     const std::string className;
     CGSize contentSize;
     RetainPtr<UITableView> table;
+    UIViewController* rootController = nullptr;
 };
 
 ListControllerPeer& peerOf(const PSListController& controller)
@@ -121,6 +124,29 @@ UITableView& PSListController::table()
         peer.table->setDelegate(this);
     }
     return *peer.table;
+}
+
+UIViewController& PSListController::rootController() const
+{
+    return *peerOf(*this).rootController;
+}
+
+void desktop::setRootController(PSListController& controller, UIViewController& root)
+{
+    peerOf(controller).rootController = &root;
+}
+
+NSIndexPath desktop::indexPathOf(PSListController& controller, const PSSpecifier& specifier)
+{
+    NSIndexPath path;
+    for (const auto& section : sectionsOf(controller.specifiers())) {
+        const auto found = std::ranges::find(section.rows, &specifier);
+        path.row = static_cast<std::size_t>(found - section.rows.begin());
+        if (found != section.rows.end())
+            break;
+        ++path.section;
+    }
+    return path;
 }
 
 PropertyList PSListController::readPreferenceValue(PSSpecifier& specifier)

@@ -19,6 +19,9 @@ inline constexpr auto linkCellType = "PSLinkCell";
 std::string stringProperty(const PSSpecifier&, std::string_view key);
 bool isOfType(const PSSpecifier&, std::string_view cellType);
 
+/// The row of one of the controller's specifiers that is no group.
+NSIndexPath indexPathOf(PSListController&, const PSSpecifier&);
+
 /// What a switch row shows for the specifier: what its getter gives, its default when nothing answers.
 PropertyList currentValue(PSListController&, PSSpecifier&);
 

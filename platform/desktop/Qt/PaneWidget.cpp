@@ -3,11 +3,14 @@
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTouchEvent>
 #include <QWheelEvent>
+
+#include <optional>
 
 namespace brimsound::desktop {
 
@@ -29,6 +32,29 @@ bool isMadeUp(const QMouseEvent& event)
     return event.source() != Qt::MouseEventNotSynthesized;
 }
 
+std::optional<Key> keyOf(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Tab:
+        return Key::Tab;
+    case Qt::Key_Backtab:
+        return Key::Backtab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Key::Return;
+    case Qt::Key_Space:
+        return Key::Space;
+    case Qt::Key_Escape:
+        return Key::Escape;
+    case Qt::Key_Left:
+        return Key::Left;
+    case Qt::Key_Right:
+        return Key::Right;
+    default:
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 PaneWidget::PaneWidget(Window& window)
@@ -36,6 +62,7 @@ PaneWidget::PaneWidget(Window& window)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
     const auto size = window.bounds().size;
     resize(QSizeF(size.width, size.height).toSize());
     _window.onInvalidate = [this](const CGRect& part) { repaintPart(part); };
@@ -130,6 +157,19 @@ void PaneWidget::wheelEvent(QWheelEvent* event)
     const QPointF distance
         = pixels.isNull() ? QPointF(event->angleDelta()) * (notchDistance / notchAngle) : QPointF(pixels);
     _window.scroll(cgPoint(event->position()), { -distance.x(), -distance.y() });
+}
+
+void PaneWidget::keyPressEvent(QKeyEvent* event)
+{
+    const auto key = keyOf(*event);
+    if (!key || !_window.keyPressed(*key))
+        QWidget::keyPressEvent(event);
+}
+
+bool PaneWidget::focusNextPrevChild(bool)
+{
+    // There is no other widget to go to: Tab is the views' own.
+    return false;
 }
 
 } // namespace brimsound::desktop

@@ -1,6 +1,7 @@
 // The one widget that shows a view tree.
 #pragma once
 
+#include "platform/desktop/Qt/Accessibility.h"
 #include "platform/desktop/UIKit/Window.h"
 
 #include <QTouchEvent>
@@ -14,6 +15,8 @@ public:
     explicit PaneWidget(Window&);
     ~PaneWidget() override;
 
+    Accessibility& accessibility() { return _accessibility; }
+
 protected:
     bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
@@ -22,12 +25,15 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void touchEvent(const QTouchEvent&);
     void repaintPart(const CGRect&);
 
     Window& _window;
+    Accessibility _accessibility { *this, _window };
     /// The finger or the mouse that holds the touch; the others are ignored.
     int _finger = -1;
     bool _mouse = false;

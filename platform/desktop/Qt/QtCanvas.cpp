@@ -159,12 +159,14 @@ void QtCanvas::drawLine(const std::string& text, const CGRect& rect, const UIFon
         fitting);
 }
 
-void QtCanvas::drawParagraph(
-    const std::string& text, const CGRect& rect, const UIFont& font, const Color& color)
+void QtCanvas::drawParagraph(const std::string& text, const CGRect& rect, const UIFont& font,
+    const Color& color, NSTextAlignment alignment)
 {
     painter().setFont(qFont(font));
     painter().setPen(qColor(color));
-    painter().drawText(qRect(rect), Qt::TextWordWrap | Qt::TextDontClip, QString::fromStdString(text));
+    painter().drawText(qRect(rect),
+        static_cast<int>(Qt::AlignTop | qAlignment(alignment)) | Qt::TextWordWrap | Qt::TextDontClip,
+        QString::fromStdString(text));
 }
 
 } // namespace brimsound::desktop

@@ -30,7 +30,8 @@ public:
     void strokeLine(const std::vector<CGPoint>&, double width, const Color&) override;
     void drawLine(
         const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment) override;
-    void drawParagraph(const std::string& text, const CGRect&, const UIFont&, const Color&) override;
+    void drawParagraph(
+        const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment) override;
     double hairline() const override { return 1 / _scale; }
 
 private:

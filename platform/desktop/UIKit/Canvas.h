@@ -41,7 +41,9 @@ public:
         const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment)
         = 0;
     /// Text broken into lines at the rectangle's width, from its top.
-    virtual void drawParagraph(const std::string& text, const CGRect&, const UIFont&, const Color&) = 0;
+    virtual void drawParagraph(
+        const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment)
+        = 0;
 
     /// The width in points of the thinnest line that the canvas shows: one device pixel.
     virtual double hairline() const = 0;

@@ -14,6 +14,8 @@ struct CellPeer : ViewPeer {
     RetainPtr<UILabel> textLabel;
     RetainPtr<UIView> accessoryView;
     UITableViewCellSelectionStyle selectionStyle = UITableViewCellSelectionStyle::Default;
+
+    Accessible accessible() const override;
 };
 
 CellPeer& peerOf(const UITableViewCell&);

@@ -15,12 +15,15 @@ struct SliderPeer : ControlPeer {
     RetainPtr<UIColor> minimumTrackTint;
     /// How far the touch is from the thumb's centre while the slider is held, in points.
     double grip = 0;
+    /// What names the slider while it or one beside it is held: the labels show values then.
+    std::string heldCaption;
 
     SliderPeer();
 
     void beginTracking(CGPoint, Pointer) override;
     void continueTracking(CGPoint) override;
     void draw(Canvas&) const override;
+    Accessible accessible() const override;
 
     /// Where the thumb's centre stands for a value, in the slider's own coordinates.
     CGPoint thumbCentre(double value) const;

@@ -24,6 +24,7 @@ struct SwitchPeer : ControlPeer {
     void continueTracking(CGPoint) override;
     void endTracking(CGPoint, bool inside) override;
     void draw(Canvas&) const override;
+    Accessible accessible() const override;
 
     void flip();
 };

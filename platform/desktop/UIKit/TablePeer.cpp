@@ -231,6 +231,19 @@ void TablePeer::fadePress()
     });
 }
 
+Accessible TablePeer::accessible() const
+{
+    // Headers and footers are no views of their own.
+    std::string texts;
+    for (const auto& section : sections) {
+        for (const auto* text : { &section.header, &section.footer }) {
+            if (!text->empty())
+                texts += (texts.empty() ? "" : "\n") + *text;
+        }
+    }
+    return { .role = AccessibleRole::Table, .description = texts };
+}
+
 void TablePeer::draw(Canvas& canvas) const
 {
     if (style != UITableViewStyle::Grouped)
@@ -239,9 +252,11 @@ void TablePeer::draw(Canvas& canvas) const
     for (std::size_t i = 0; i < sections.size(); ++i) {
         const auto& section = sections[i];
         if (canvas.showsAnythingIn(section.headerRect))
-            canvas.drawParagraph(section.header, section.headerRect, *smallFont(), theme::secondaryText);
+            canvas.drawParagraph(section.header, section.headerRect, *smallFont(), theme::secondaryText,
+                NSTextAlignment::Left);
         if (canvas.showsAnythingIn(section.footerRect))
-            canvas.drawParagraph(section.footer, section.footerRect, *smallFont(), theme::secondaryText);
+            canvas.drawParagraph(section.footer, section.footerRect, *smallFont(), theme::secondaryText,
+                NSTextAlignment::Left);
         const auto& rows = section.rowsRect;
         if (!canvas.showsAnythingIn(insetBy(rows, 0, -1)))
             continue;

@@ -44,6 +44,7 @@ struct TablePeer : ScrollPeer {
     double contentHeight() const override { return height; }
     void willLayOut() override;
     void draw(Canvas&) const override;
+    Accessible accessible() const override;
     bool takesTouches() const override { return true; }
     void touchBegan(const Touch&) override;
     void touchMoved(const Touch&) override;

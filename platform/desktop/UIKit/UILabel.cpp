@@ -18,6 +18,13 @@ struct LabelPeer : desktop::ViewPeer {
         if (!text.empty() && font)
             canvas.drawLine(text, desktop::boundsOf(*this), *font, desktop::colorOf(textColor), alignment);
     }
+
+    desktop::Accessible accessible() const override
+    {
+        if (text.empty() || desktop::namesControl(*view))
+            return {};
+        return { .role = desktop::AccessibleRole::Label, .name = text };
+    }
 };
 
 LabelPeer& peerOf(const UILabel& label)

@@ -5,6 +5,8 @@
 #include "platform/desktop/UIKit/SliderPeer.h"
 #include "platform/desktop/UIKit/Theme.h"
 
+#include "platform/Foundation/NSString.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +18,8 @@ namespace {
 
 constexpr double thumbSize = 28;
 constexpr double trackHeight = 4;
+/// What assistive technology changes a value by: decibels.
+constexpr double accessibleStep = 0.5;
 
 struct ThumbPeer : ImagePeer {
     ThumbPeer() { size = { thumbSize, thumbSize }; }
@@ -28,6 +32,19 @@ const RetainPtr<UIImage>& thumbImage()
 {
     static const auto image = makeImage(new ThumbPeer);
     return image;
+}
+
+/// The sliders in the same superview, the view itself among them.
+std::vector<UISlider*> slidersBeside(const UIView& view)
+{
+    std::vector<UISlider*> sliders;
+    if (const auto* superview = view.superview()) {
+        for (const auto& sibling : superview->subviews()) {
+            if (auto* slider = dynamic_cast<UISlider*>(sibling.get()))
+                sliders.push_back(slider);
+        }
+    }
+    return sliders;
 }
 
 } // namespace
@@ -76,6 +93,8 @@ void SliderPeer::takeValueAt(double x)
 
 void SliderPeer::beginTracking(CGPoint point, Pointer pointer)
 {
+    for (auto* slider : slidersBeside(*view))
+        peerOf(*slider).heldCaption = captionOf(*slider);
     grip = point.x - thumbCentre(value).x;
     if (pointer == Pointer::Mouse && std::abs(grip) > thumbSize / 2) {
         grip = 0;
@@ -86,6 +105,20 @@ void SliderPeer::beginTracking(CGPoint point, Pointer pointer)
 void SliderPeer::continueTracking(CGPoint point)
 {
     takeValueAt(point.x - grip);
+}
+
+Accessible SliderPeer::accessible() const
+{
+    const auto& slider = static_cast<const UISlider&>(*view);
+    const auto sliders = slidersBeside(*view);
+    const bool held = std::ranges::any_of(sliders, [](auto* other) { return peerOf(*other).isTracking; });
+    // Rounded first, as a small negative value would read "-0.0".
+    const double shown = std::round(static_cast<double>(value) * 10) / 10;
+    return { .role = AccessibleRole::Slider,
+        .name = held ? heldCaption : captionOf(slider),
+        .value = stringWithFormat("%.1f", shown + 0.0) + " dB",
+        .range = AccessibleRange { value, minimum, maximum, accessibleStep },
+        .focusable = true };
 }
 
 void SliderPeer::draw(Canvas& canvas) const
@@ -136,6 +169,7 @@ void UISlider::setValue(float value)
         return;
     peer.value = value;
     desktop::setNeedsDisplay(*this);
+    desktop::accessibleChanged(*this, desktop::AccessibleChange::ValueChanged);
 }
 
 float UISlider::minimumValue() const

@@ -47,7 +47,9 @@ bool UISwitch::isOn() const
 void UISwitch::setOn(bool on, Animated animated)
 {
     auto& peer = peerOf(*this);
-    peer.isOn = on;
+    const bool wasOn = std::exchange(peer.isOn, on);
+    if (wasOn != on)
+        desktop::accessibleChanged(*this, desktop::AccessibleChange::StateChanged);
     const double end = on ? 1 : 0;
     const auto movement = ++peer.movement;
     if (peer.knob == end)
@@ -98,6 +100,11 @@ void SwitchPeer::flip()
 {
     static_cast<UISwitch*>(view)->setOn(!isOn, Animated::Yes);
     send(UIControlEventValueChanged);
+}
+
+Accessible SwitchPeer::accessible() const
+{
+    return { .role = AccessibleRole::Switch, .name = rowTextOf(*view), .checked = isOn, .focusable = true };
 }
 
 void SwitchPeer::draw(Canvas& canvas) const

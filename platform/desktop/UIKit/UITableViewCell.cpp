@@ -90,6 +90,13 @@ void UITableViewCell::layoutSubviews()
 
 namespace desktop {
 
+Accessible CellPeer::accessible() const
+{
+    if (selectionStyle == UITableViewCellSelectionStyle::None || !textLabel)
+        return {};
+    return { .role = AccessibleRole::Button, .name = textLabel->text(), .focusable = true };
+}
+
 CellPeer& peerOf(const UITableViewCell& cell)
 {
     return static_cast<CellPeer&>(cell.peer());

@@ -67,12 +67,14 @@ void UIView::addSubview(UIView& view)
     peerOf(view).superview = this;
     setNeedsLayout();
     desktop::setNeedsDisplay(view);
+    desktop::accessibleChanged(view, desktop::AccessibleChange::Shown);
 }
 
 void UIView::removeFromSuperview()
 {
     if (!superview())
         return;
+    desktop::accessibleChanged(*this, desktop::AccessibleChange::WillHide);
     desktop::setNeedsDisplay(*this);
     const auto kept = brimsound::retain(this);
     auto* former = std::exchange(peerOf(*this).superview, nullptr);

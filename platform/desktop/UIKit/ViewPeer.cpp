@@ -34,6 +34,12 @@ void drawContents(const ViewPeer& peer, Canvas& canvas)
 
 } // namespace
 
+ViewPeer::~ViewPeer()
+{
+    if (onDestroyed)
+        onDestroyed();
+}
+
 ViewPeer& peerOf(const UIView& view)
 {
     return static_cast<ViewPeer&>(view.peer());
@@ -139,7 +145,7 @@ void drawTree(const UIView& view, Canvas& canvas)
 UIView* hitTest(UIView& view, CGPoint point)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.alpha < faintest || !contains(boundsOf(peer), point))
+    if (peer.hidden || peer.alpha < faintest || peer.ignoresTouches() || !contains(boundsOf(peer), point))
         return nullptr;
     // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
     for (auto front = peer.subviews.rbegin(); front != peer.subviews.rend(); ++front) {

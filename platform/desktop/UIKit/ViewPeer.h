@@ -3,15 +3,20 @@
 
 #include "platform/UIKit/UIView.h"
 #include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/UIKit/Accessible.h"
 #include "platform/desktop/UIKit/Canvas.h"
 #include "platform/desktop/UIKit/Touch.h"
 
+#include <functional>
 #include <vector>
 
 namespace brimsound::desktop {
 
 /// The state of a view and, in the derived peers, how it draws itself and what it does with touches.
 struct ViewPeer : Peer {
+    ViewPeer() = default;
+    ~ViewPeer() override;
+
     /// The view this is the peer of; set by the view's constructor.
     UIView* view = nullptr;
 
@@ -35,6 +40,8 @@ struct ViewPeer : Peer {
     /// Draws what lies above the subviews.
     virtual void drawAbove(Canvas&) const { }
 
+    /// Whether touches go through the view, and all in it, to what lies below.
+    virtual bool ignoresTouches() const { return false; }
     /// Whether a touch that hits the view, or a subview that does not take touches, is the view's own.
     virtual bool takesTouches() const { return false; }
     /// Whether the view gives its touch up when the finger turns out to scroll.
@@ -46,6 +53,11 @@ struct ViewPeer : Peer {
 
     /// Told when the view is laid out, before its layoutSubviews.
     virtual void willLayOut() { }
+
+    virtual Accessible accessible() const { return {}; }
+
+    /// Set by whoever speaks for the view outside the tree: told when the view is gone.
+    std::function<void()> onDestroyed;
 };
 
 /// The peer of a view.

@@ -4,12 +4,48 @@
 
 namespace brimsound::desktop {
 
-Window::Window(CGSize size)
-    : UIView(CGRectMake(0, 0, size.width, size.height))
+namespace {
+
+Window* lastWindow = nullptr;
+
+} // namespace
+
+Window* keyWindow()
 {
+    return lastWindow;
 }
 
-Window::~Window() = default;
+Window::Window(CGSize size)
+    : UIView(CGRectMake(0, 0, size.width, size.height))
+    , _alerts(*this)
+{
+    lastWindow = this;
+}
+
+Window::~Window()
+{
+    if (lastWindow == this)
+        lastWindow = nullptr;
+}
+
+Overlay* Window::frontOverlay() const
+{
+    // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
+    for (auto front = subviews().rbegin(); front != subviews().rend(); ++front) {
+        auto* overlay = dynamic_cast<Overlay*>(front->get());
+        if (overlay && !peerOf(*overlay).ignoresTouches())
+            return overlay;
+    }
+    return nullptr;
+}
+
+bool Window::keyPressed(Key key)
+{
+    auto* overlay = frontOverlay();
+    if (overlay)
+        overlay->keyPressed(key);
+    return overlay != nullptr;
+}
 
 void Window::touchDown(const Touch& touch)
 {

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "platform/UIKit/UIView.h"
+#include "platform/desktop/UIKit/Accessible.h"
+#include "platform/desktop/UIKit/AlertQueue.h"
+#include "platform/desktop/UIKit/Key.h"
 #include "platform/desktop/UIKit/Touch.h"
 #include "platform/desktop/UIKit/TouchSession.h"
 
@@ -23,6 +26,14 @@ public:
     void touchCancel();
     bool isTouched() const { return _touch.isActive(); }
 
+    /// Hands a key to the frontmost overlay. False when there is none.
+    bool keyPressed(Key);
+
+    /// The overlay that covers everything else; null when there is none.
+    Overlay* frontOverlay() const;
+
+    AlertQueue& alerts() { return _alerts; }
+
     /// Turns a wheel over a point: scrolls what lies there by so many points.
     void scroll(CGPoint at, CGPoint by);
 
@@ -34,11 +45,19 @@ public:
     /// Set by whoever paints the window: told of every part that must be painted again.
     std::function<void(const CGRect&)> onInvalidate;
 
+    /// Set by whoever makes the views accessible, while somebody listens.
+    std::function<void(UIView&, AccessibleChange)> onAccessibleChange;
+
 protected:
     ~Window() override;
 
 private:
+    AlertQueue _alerts;
     TouchSession _touch;
 };
+
+/// The window that was made last and still exists, which alerts and sheets appear in; null when there is
+/// none.
+Window* keyWindow();
 
 } // namespace brimsound::desktop

@@ -32,14 +32,22 @@ void SessionBus::open()
     if (sd_bus_open_user(&opened) < 0)
         return;
     BusConnection bus(opened);
-    // Waits for the bus to answer, so a connection that is kept is known to work.
-    if (sd_bus_match_signal(bus.get(), nullptr, nullptr, notificationsPath, notificationsInterface,
-            postedSignal, notificationPosted, this)
-        < 0)
+    if (!subscribe(bus.get()))
         return;
     _bus = std::move(bus);
     if (onReconnect)
         onReconnect();
+}
+
+bool SessionBus::subscribe(sd_bus* bus)
+{
+    // Waits for the bus to answer, so a connection that is kept is known to work.
+    return sd_bus_match_signal(bus, nullptr, nullptr, notificationsPath, notificationsInterface, postedSignal,
+               notificationPosted, this)
+        >= 0
+        && sd_bus_match_signal(bus, nullptr, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+               "org.freedesktop.DBus", "NameOwnerChanged", ownerChanged, this)
+        >= 0;
 }
 
 void SessionBus::close()
@@ -58,6 +66,25 @@ void SessionBus::subscribeToNotifications(std::function<void(std::string_view)> 
 {
     _handlers.push_back(std::move(handler));
     connection();
+}
+
+void SessionBus::watchForLoss(const std::string& busName, std::function<void()> handler)
+{
+    _lossHandlers[busName] = std::move(handler);
+    connection();
+}
+
+int SessionBus::ownerChanged(sd_bus_message* message, void* self, sd_bus_error*)
+{
+    const char* name = nullptr;
+    const char* before = nullptr;
+    const char* after = nullptr;
+    if (sd_bus_message_read(message, "sss", &name, &before, &after) <= 0 || *after)
+        return 0;
+    const auto& handlers = static_cast<SessionBus*>(self)->_lossHandlers;
+    if (const auto found = handlers.find(name); found != handlers.end())
+        found->second();
+    return 0;
 }
 
 int SessionBus::notificationPosted(sd_bus_message* message, void* self, sd_bus_error*)

@@ -4,6 +4,7 @@
 #include "platform/desktop/bus/BusPointers.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,9 @@ public:
     /// Calls the handler with the name of every Darwin notification posted on the bus.
     void subscribeToNotifications(std::function<void(std::string_view name)> handler);
 
+    /// Calls the handler whenever a name loses its last owner.
+    void watchForLoss(const std::string& busName, std::function<void()> handler);
+
     /// Handles every message that has arrived, without waiting.
     void process();
     /// Handles every message that was posted by this process, or by another one before this call: makes a
@@ -45,10 +49,13 @@ private:
 
     void open();
     void close();
+    bool subscribe(sd_bus*);
+    static int ownerChanged(sd_bus_message*, void* self, sd_bus_error*);
     static int notificationPosted(sd_bus_message*, void* self, sd_bus_error*);
 
     BusConnection _bus;
     std::vector<std::function<void(std::string_view)>> _handlers;
+    std::map<std::string, std::function<void()>> _lossHandlers;
 };
 
 } // namespace brimsound::desktop

@@ -7,13 +7,24 @@ namespace brimsound::desktop {
 namespace {
 
 EffectObserver* _observer = nullptr;
+Reach currentReach = Reach::Everything;
 
-}
+} // namespace
 
 EffectObserver& effects()
 {
     static EffectObserver ignoring;
     return _observer ? *_observer : ignoring;
+}
+
+Reach reach()
+{
+    return currentReach;
+}
+
+void setReach(Reach reach)
+{
+    currentReach = reach;
 }
 
 EffectObserver* setEffectObserver(EffectObserver* observer)

@@ -100,7 +100,10 @@ public:
         const std::string&, const CGRect&, const UIFont&, const desktop::Color&, NSTextAlignment) override
     {
     }
-    void drawParagraph(const std::string&, const CGRect&, const UIFont&, const desktop::Color&) override { }
+    void drawParagraph(
+        const std::string&, const CGRect&, const UIFont&, const desktop::Color&, NSTextAlignment) override
+    {
+    }
     double hairline() const override { return 1; }
 };
 

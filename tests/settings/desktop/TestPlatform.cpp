@@ -1,27 +1,84 @@
 #include "tests/settings/TestPlatform.h"
 
 #include "platform/Foundation/PropertyListSerialization.h"
+#include "platform/desktop/MessageUI/ComposerPeer.h"
+#include "platform/desktop/Preferences/RootController.h"
+#include "platform/desktop/UIKit/AlertPeer.h"
+#include "platform/desktop/UIKit/Window.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
+#include "tests/support/EnvironmentVariable.h"
 #include "tests/support/MediaServer.h"
+#include "tests/support/PrivateDesktop.h"
 #include "tests/support/RecordingEffects.h"
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/TestBus.h"
 
 #include <optional>
+#include <sys/resource.h>
 
 namespace brimsound::tests {
 
+namespace {
+
+/// The controller at the root of the app that a pane under test is in.
+UIViewController& appController()
+{
+    static const auto controller = make<UIViewController>();
+    return *controller;
+}
+
+desktop::ComposerPeer* composer()
+{
+    auto* sheet
+        = dynamic_cast<MFMailComposeViewController*>(desktop::peerOf(appController()).presented.get());
+    return sheet ? &desktop::peerOf(*sheet) : nullptr;
+}
+
+/// The process cannot open a file or pipe while it lives.
+class NoDescriptors {
+public:
+    NoDescriptors()
+    {
+        getrlimit(RLIMIT_NOFILE, &_before);
+        auto none = _before;
+        none.rlim_cur = 0;
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    NoDescriptors(const NoDescriptors&) = delete;
+    NoDescriptors& operator=(const NoDescriptors&) = delete;
+    ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &_before); }
+
+private:
+    rlimit _before {};
+};
+
+} // namespace
+
 struct TestPlatform::Device {
+    ~Device()
+    {
+        window->alerts().dismissAll();
+        appController().dismissViewControllerAnimatedCompletion(Animated::No, {});
+        desktop::setReach(reachBefore);
+    }
+
     TemporaryRoot root;
     TestBus bus;
     std::optional<MediaServer> server;
+    std::optional<PrivateDesktop> programs;
+    std::optional<EnvironmentVariable> locale;
+    std::optional<EnvironmentVariable> languages;
+    std::optional<NoDescriptors> noDescriptors;
+    RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 568 });
+    desktop::Reach reachBefore = desktop::reach();
     RecordingEffects effects;
 };
 
 TestPlatform::TestPlatform()
     : _device(std::make_unique<Device>())
 {
+    desktop::setReach(desktop::Reach::ObserverOnly);
     startMediaServer();
 }
 
@@ -60,6 +117,64 @@ void TestPlatform::startMediaServer()
     _device->server.emplace();
 }
 
+bool TestPlatform::answerAlert(std::size_t button)
+{
+    const auto* alert = _device->window->alerts().current();
+    if (alert)
+        desktop::peerOf(*alert).buttons.at(button)->press();
+    return alert != nullptr;
+}
+
+std::optional<TestPlatform::Mail> TestPlatform::composedMail() const
+{
+    const auto* composing = composer();
+    if (!composing)
+        return std::nullopt;
+    Mail mail { composing->mail.subject, composing->mail.to, {} };
+    for (const auto& [fileName, mimeType, data] : composing->mail.attachments) {
+        mail.attachments.push_back(
+            { fileName, mimeType, std::string(reinterpret_cast<const char*>(data.data()), data.size()) });
+    }
+    return mail;
+}
+
+void TestPlatform::sendMail()
+{
+    composer()->send();
+}
+
+void TestPlatform::cancelMail()
+{
+    composer()->cancel();
+}
+
+void TestPlatform::carryOutCommands()
+{
+    desktop::setReach(desktop::Reach::Everything);
+}
+
+void TestPlatform::failToStartCommands()
+{
+    carryOutCommands();
+    _device->noDescriptors.emplace();
+}
+
+void TestPlatform::haveProgramsFor(const std::vector<std::string>& schemes)
+{
+    _device->programs.emplace();
+    for (const auto& scheme : schemes)
+        _device->programs->addRecordingProgram("x-scheme-handler/" + scheme);
+}
+
+void TestPlatform::setPreferredLanguages(const std::vector<std::string>& languages)
+{
+    std::string list;
+    for (const auto& language : languages)
+        list += (list.empty() ? "" : ":") + language;
+    _device->languages.emplace("LANGUAGE", list.c_str());
+    _device->locale.emplace("LC_ALL", languages.empty() ? "C" : languages.front().c_str());
+}
+
 void TestPlatform::writePreferencesFile(const std::string& bytes)
 {
     _device->root.write(preferencesPath, bytes);
@@ -74,6 +189,11 @@ void TestPlatform::writePreferencesFile(const PropertyList& value)
 std::string TestPlatform::preferencesFile() const
 {
     return _device->root.read(preferencesPath);
+}
+
+void putIntoAnApp(PSListController& controller)
+{
+    desktop::setRootController(controller, appController());
 }
 
 } // namespace brimsound::tests

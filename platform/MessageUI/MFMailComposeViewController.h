@@ -1,0 +1,29 @@
+// Composing a mail.
+#pragma once
+
+#include "platform/Foundation/NSData.h"
+#include "platform/MessageUI/MFMailComposeViewControllerDelegate.h"
+#include "platform/UIKit/UIViewController.h"
+
+#include <string>
+#include <vector>
+
+namespace brimsound {
+
+/// A sheet that shows a mail for the user to send or to cancel.
+class MFMailComposeViewController : public UIViewController {
+public:
+    MFMailComposeViewController();
+
+    /// Not retained; null for none.
+    void setMailComposeDelegate(MFMailComposeViewControllerDelegate*);
+
+    void setSubject(const std::string&);
+    /// Mail addresses.
+    void setToRecipients(const std::vector<std::string>&);
+    /// The bytes are sent as they are, under that type ("text/plain") and file name.
+    void addAttachmentDataMimeTypeFileName(
+        NSData data, const std::string& mimeType, const std::string& fileName);
+};
+
+} // namespace brimsound

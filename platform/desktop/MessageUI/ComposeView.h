@@ -1,0 +1,28 @@
+// The sheet that shows a mail.
+#pragma once
+
+#include "platform/UIKit/UIView.h"
+#include "platform/desktop/UIKit/TextButton.h"
+#include "platform/desktop/effects/Mail.h"
+
+#include <functional>
+
+namespace brimsound::desktop {
+
+/// A bar with Cancel and Send, and below it recipients, subject and attachments of a mail. The mail outlives
+/// the view.
+class ComposeView : public UIView {
+public:
+    ComposeView(const Mail&, std::function<void()> onCancel, std::function<void()> onSend);
+
+    void layoutSubviews() override;
+
+    TextButton& cancelButton() const { return *_cancel; }
+    TextButton& sendButton() const { return *_send; }
+
+private:
+    RetainPtr<TextButton> _cancel;
+    RetainPtr<TextButton> _send;
+};
+
+} // namespace brimsound::desktop

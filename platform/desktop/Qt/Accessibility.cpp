@@ -1,0 +1,164 @@
+#include "platform/desktop/Qt/Accessibility.h"
+
+#include "platform/desktop/Qt/PaneWidget.h"
+#include "platform/desktop/Qt/ViewInterface.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
+
+#include <QAccessibleWidget>
+#include <QGuiApplication>
+
+namespace brimsound::desktop {
+
+namespace {
+
+/// The widget, with the views for its children.
+class RootInterface : public QAccessibleWidget {
+public:
+    RootInterface(QWidget& widget, Accessibility& accessibility)
+        : QAccessibleWidget(&widget, widget.isWindow() ? QAccessible::Window : QAccessible::Pane)
+        , _accessibility(accessibility)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const auto text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? QGuiApplication::applicationDisplayName() : text;
+    }
+
+    QAccessibleInterface* child(int index) const override { return children().value(index); }
+    int childCount() const override { return static_cast<int>(children().size()); }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return static_cast<int>(children().indexOf(const_cast<QAccessibleInterface*>(child)));
+    }
+    QAccessibleInterface* childAt(int x, int y) const override { return interfaceAt(children(), { x, y }); }
+    QAccessibleInterface* focusChild() const override
+    {
+        return widget()->hasFocus() ? focusedAmong(children()) : QAccessibleWidget::focusChild();
+    }
+
+private:
+    /// The views, and after them the widgets that lie over them.
+    QList<QAccessibleInterface*> children() const
+    {
+        auto found = interfacesIn(_accessibility, _accessibility.window());
+        for (int i = 0; i < QAccessibleWidget::childCount(); ++i)
+            found.append(QAccessibleWidget::child(i));
+        return found;
+    }
+
+    Accessibility& _accessibility;
+};
+
+QAccessibleInterface* makeRoot(const QString&, QObject* object)
+{
+    auto* widget = dynamic_cast<PaneWidget*>(object);
+    return widget ? new RootInterface(*widget, widget->accessibility()) : nullptr;
+}
+
+void remove(QAccessibleInterface* interface)
+{
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+}
+
+} // namespace
+
+Accessibility::Accessibility(QWidget& widget, Window& window)
+    : _widget(widget)
+    , _window(window)
+{
+    QAccessible::installFactory(makeRoot);
+    QAccessible::installActivationObserver(this);
+    setListening(QAccessible::isActive());
+}
+
+Accessibility::~Accessibility()
+{
+    QAccessible::removeActivationObserver(this);
+    setListening(false);
+    for (const auto& [view, interface] : _interfaces) {
+        peerOf(*view).onDestroyed = nullptr;
+        remove(interface);
+    }
+    // The widget lives on for a moment, without its views.
+    if (auto* root = QAccessible::queryAccessibleInterface(&_widget))
+        remove(root);
+}
+
+QAccessibleInterface* Accessibility::interfaceOf(UIView& view)
+{
+    if (const auto known = _interfaces.find(&view); known != _interfaces.end())
+        return known->second;
+    auto& onDestroyed = peerOf(view).onDestroyed;
+    // Another widget may have shown the window before.
+    if (const auto other = std::exchange(onDestroyed, nullptr))
+        other();
+    auto* interface = new ViewInterface(*this, view);
+    QAccessible::registerAccessibleInterface(interface);
+    _interfaces.emplace(&view, interface);
+    onDestroyed = [this, gone = &view] { forget(*gone); };
+    return interface;
+}
+
+void Accessibility::forget(const UIView& view)
+{
+    if (auto entry = _interfaces.extract(&view))
+        remove(entry.mapped());
+}
+
+QAccessibleInterface* Accessibility::parentOf(const UIView& view)
+{
+    auto* parent = accessibleParent(view);
+    return parent ? interfaceOf(*parent) : QAccessible::queryAccessibleInterface(&_widget);
+}
+
+void Accessibility::setListening(bool listening)
+{
+    if (listening)
+        _window.onAccessibleChange = [this](UIView& view, AccessibleChange what) { changed(view, what); };
+    else
+        _window.onAccessibleChange = nullptr;
+}
+
+void Accessibility::changed(UIView& view, AccessibleChange what)
+{
+    const auto send = [this](QAccessibleEvent&& event) { deliver(&event); };
+    const auto sendForEach = [&](QAccessible::Event type) {
+        if (!isReachable(view))
+            return;
+        if (peerOf(view).accessible().role != AccessibleRole::None) {
+            send({ interfaceOf(view), type });
+            return;
+        }
+        for (auto* interface : interfacesIn(*this, view))
+            send({ interface, type });
+    };
+
+    switch (what) {
+    case AccessibleChange::ValueChanged:
+        send(QAccessibleValueChangeEvent(
+            interfaceOf(view), interfaceOf(view)->valueInterface()->currentValue()));
+        break;
+    case AccessibleChange::StateChanged: {
+        QAccessible::State changedState;
+        changedState.checked = true;
+        send(QAccessibleStateChangeEvent(interfaceOf(view), changedState));
+        break;
+    }
+    case AccessibleChange::Shown:
+        sendForEach(QAccessible::ObjectShow);
+        break;
+    case AccessibleChange::WillHide:
+        sendForEach(QAccessible::ObjectHide);
+        break;
+    case AccessibleChange::AlertShown:
+        send({ interfaceOf(view), QAccessible::Alert });
+        break;
+    case AccessibleChange::FocusMoved:
+        send({ interfaceOf(view), QAccessible::Focus });
+        break;
+    }
+}
+
+} // namespace brimsound::desktop

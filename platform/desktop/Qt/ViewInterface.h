@@ -1,0 +1,62 @@
+// A view as a screen reader sees it.
+#pragma once
+
+#include "platform/desktop/UIKit/Accessible.h"
+
+#include <QAccessibleInterface>
+
+namespace brimsound::desktop {
+
+class Accessibility;
+
+/// Whoever asks may hold an interface of a view that is out of the window for now, like a table row that is
+/// kept for reuse: then it is not valid and knows nothing.
+class ViewInterface : public QAccessibleInterface,
+                      public QAccessibleValueInterface,
+                      public QAccessibleActionInterface {
+public:
+    ViewInterface(Accessibility&, UIView&);
+
+    bool isValid() const override;
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override;
+
+    QAccessibleInterface* parent() const override;
+    QAccessibleInterface* child(int index) const override;
+    int childCount() const override;
+    int indexOfChild(const QAccessibleInterface*) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+    QString text(QAccessible::Text) const override;
+    void setText(QAccessible::Text, const QString&) override { }
+    QRect rect() const override;
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType) override;
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant&) override;
+    QVariant minimumValue() const override;
+    QVariant maximumValue() const override;
+    QVariant minimumStepSize() const override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+private:
+    Accessible accessible() const;
+
+    Accessibility& _accessibility;
+    UIView& _view;
+};
+
+/// The children of a view as interfaces, in reading order.
+QList<QAccessibleInterface*> interfacesIn(Accessibility&, const UIView&);
+/// The one at a point of the screen; null when there is none.
+QAccessibleInterface* interfaceAt(const QList<QAccessibleInterface*>&, QPoint);
+/// The one that has the keyboard, or in which something has it; null when none has.
+QAccessibleInterface* focusedAmong(const QList<QAccessibleInterface*>&);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,15 @@
+// What the distribution tells of itself.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace brimsound::desktop {
+
+/// The distribution's version ("12"), or the kernel's release where the distribution has no versions.
+std::string systemVersion();
+
+/// The value of a variable in the text of an os-release file; empty when it is not there.
+std::string valueInOsRelease(std::string_view text, std::string_view name);
+
+} // namespace brimsound::desktop

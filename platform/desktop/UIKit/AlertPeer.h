@@ -1,0 +1,45 @@
+// What stands behind a UIAlertView.
+#pragma once
+
+#include "platform/UIKit/UIAlertView.h"
+#include "platform/desktop/UIKit/Key.h"
+#include "platform/desktop/UIKit/TextButton.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
+
+#include <string>
+#include <vector>
+
+namespace brimsound::desktop {
+
+/// A white card with the message and, below it, the buttons: side by side when there are two, else one below
+/// the other.
+struct AlertPeer : ViewPeer {
+    std::string title;
+    std::string message;
+    UIAlertViewDelegate* delegate = nullptr;
+    std::vector<RetainPtr<TextButton>> buttons;
+
+    AlertPeer();
+
+    void draw(Canvas&) const override;
+    Accessible accessible() const override;
+    /// Return and Space press the button that has the keyboard: the cancel button until Tab or an arrow
+    /// handed it on. Escape presses the cancel button.
+    void keyPressed(Key);
+
+    UIAlertView& alert() const { return static_cast<UIAlertView&>(*view); }
+    /// Takes the alert away, then tells the delegate.
+    void answer(std::size_t buttonIndex);
+    CGRect titleRect() const;
+    CGRect messageRect() const;
+    bool hasButtonsSideBySide() const { return buttons.size() == 2; }
+};
+
+AlertPeer& peerOf(const UIAlertView&);
+
+/// The size in points that the alert's texts and buttons take.
+CGSize sizeOf(const UIAlertView&);
+
+std::vector<std::string> buttonTitlesOf(const UIAlertView&);
+
+} // namespace brimsound::desktop

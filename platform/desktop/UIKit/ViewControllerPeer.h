@@ -1,0 +1,31 @@
+// What stands behind a UIViewController.
+#pragma once
+
+#include "platform/UIKit/UIViewController.h"
+#include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/UIKit/Overlay.h"
+
+namespace brimsound::desktop {
+
+struct ViewControllerPeer : Peer {
+    ViewControllerPeer() = default;
+    explicit ViewControllerPeer(RetainPtr<UIView> shown)
+        : view(std::move(shown))
+    {
+    }
+
+    RetainPtr<UIView> view = make<UIView>();
+    RetainPtr<UIViewController> presented;
+    /// Holds the presented controller's view.
+    RetainPtr<Overlay> overlay;
+
+    /// A key was pressed while the controller's view is over everything.
+    virtual void keyPressed(Key) { }
+};
+
+ViewControllerPeer& peerOf(const UIViewController&);
+
+/// Makes a controller whose view is that one.
+RetainPtr<UIViewController> makeViewController(RetainPtr<UIView>);
+
+} // namespace brimsound::desktop

@@ -1,0 +1,385 @@
+#include "platform/UIKit/UIAlertView.h"
+#include "platform/UIKit/UILabel.h"
+#include "platform/UIKit/UISlider.h"
+#include "platform/UIKit/UISwitch.h"
+#include "platform/desktop/Qt/PaneWidget.h"
+#include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/TextButton.h"
+
+#include "tests/platform/UIKit/Controls.h"
+#include "tests/platform/UIKit/Geometry.h"
+#include "tests/platform/UIKit/Lists.h"
+
+#include <QAccessible>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+namespace brimsound::tests {
+
+namespace {
+
+using desktop::PaneWidget;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+/// What was sent since the last call, by type and name of the interface.
+std::vector<std::pair<QAccessible::Event, QString>> sent;
+
+void writeDown(QAccessibleEvent* event)
+{
+    auto* interface = event->accessibleInterface();
+    sent.emplace_back(event->type(), interface ? interface->text(QAccessible::Name) : QString());
+}
+
+std::vector<std::pair<QAccessible::Event, QString>> takeSent()
+{
+    return std::exchange(sent, {});
+}
+
+QStringList namesIn(const QAccessibleInterface& parent)
+{
+    QStringList names;
+    for (int i = 0; i < parent.childCount(); ++i)
+        names.append(parent.child(i)->text(QAccessible::Name));
+    return names;
+}
+
+/// The one with that name, wherever it is; null when there is none.
+QAccessibleInterface* find(const QAccessibleInterface& root, const QString& name)
+{
+    for (int i = 0; i < root.childCount(); ++i) {
+        auto* child = root.child(i);
+        if (child->text(QAccessible::Name) == name)
+            return child;
+        if (auto* inner = find(*child, name))
+            return inner;
+    }
+    return nullptr;
+}
+
+class Answers : public UIAlertViewDelegate {
+public:
+    void alertViewClickedButtonAtIndex(UIAlertView&, long index) override { pressed.push_back(index); }
+
+    std::vector<long> pressed;
+};
+
+/// Two sliders with captions at their left, in a window that a widget shows to a screen reader.
+class AnAccessiblePane : public testing::Test {
+protected:
+    AnAccessiblePane()
+    {
+        addStrip("Pre", 0);
+        addStrip("170", 44);
+        window->layOut();
+        widget->setWindowTitle("Pane");
+        widget->show();
+        widget->accessibility().deliver = writeDown;
+        QAccessible::setActive(true);
+        takeSent();
+    }
+
+    ~AnAccessiblePane() override
+    {
+        QAccessible::setActive(false);
+        window->alerts().dismissAll();
+    }
+
+    void addStrip(const std::string& caption, double y)
+    {
+        const auto slider = make<UISlider>();
+        slider->setMinimumValue(-12);
+        slider->setMaximumValue(12);
+        slider->setValue(0);
+        slider->setFrame(CGRectMake(35, y, 200, 44));
+        const auto label = make<UILabel>(CGRectMake(5, y, 25, 44));
+        label->setText(caption);
+        window->addSubview(*slider);
+        window->addSubview(*label);
+        sliders.push_back(slider);
+        labels.push_back(label);
+        log->listenTo(*slider);
+    }
+
+    QAccessibleInterface& root() const { return *QAccessible::queryAccessibleInterface(widget.get()); }
+    QAccessibleInterface* find(const QString& name) const { return tests::find(root(), name); }
+
+    RetainPtr<UIAlertView> showAlert()
+    {
+        auto alert = make<UIAlertView>("", "Really?", &answers, "No", std::vector<std::string> { "Yes" });
+        alert->show();
+        window->layOut();
+        return alert;
+    }
+
+    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
+    std::unique_ptr<PaneWidget> widget = std::make_unique<PaneWidget>(*window);
+    std::vector<RetainPtr<UISlider>> sliders;
+    std::vector<RetainPtr<UILabel>> labels;
+    const RetainPtr<EventLog> log = make<EventLog>();
+    Answers answers;
+};
+
+TEST_F(AnAccessiblePane, IsAWindowWithTheViewsInReadingOrder)
+{
+    EXPECT_EQ(root().role(), QAccessible::Window);
+    EXPECT_EQ(root().text(QAccessible::Name), "Pane");
+    EXPECT_EQ(root().object(), widget.get());
+    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "170" }));
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(root().child(i)->parent(), &root());
+        EXPECT_EQ(root().indexOfChild(root().child(i)), i);
+        EXPECT_EQ(root().child(i)->role(), QAccessible::Slider);
+        EXPECT_TRUE(root().child(i)->state().focusable);
+    }
+    EXPECT_EQ(root().child(2), nullptr);
+}
+
+TEST_F(AnAccessiblePane, AnnouncesASlidersValueInDecibels)
+{
+    sliders[1]->setValue(4.5f);
+    EXPECT_EQ(find("170")->text(QAccessible::Value), "4.5 dB");
+    auto& value = *find("170")->valueInterface();
+    EXPECT_EQ(value.currentValue(), 4.5);
+    EXPECT_EQ(value.minimumValue(), -12.0);
+    EXPECT_EQ(value.maximumValue(), 12.0);
+    EXPECT_GT(value.minimumStepSize().toDouble(), 0);
+    sliders[1]->setValue(-0.01f);
+    EXPECT_EQ(find("170")->text(QAccessible::Value), "0.0 dB");
+}
+
+TEST_F(AnAccessiblePane, KeepsTheNamesWhileTheLabelsShowValues)
+{
+    window->touchDown({ { 135, 66 }, desktop::Pointer::Mouse });
+    for (const auto& label : labels)
+        label->setText("1.5");
+    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "170" }));
+    labels[0]->setText("Pre");
+    labels[1]->setText("171");
+    window->touchUp({ 135, 66 });
+    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "171" }));
+}
+
+TEST_F(AnAccessiblePane, MovesASliderAsATouchDoes)
+{
+    find("170")->valueInterface()->setCurrentValue(4.5);
+    EXPECT_EQ(sliders[1]->value(), 4.5f);
+    EXPECT_THAT(log->take(), ElementsAre("down", "value", "drag inside", "up inside"));
+    find("170")->valueInterface()->setCurrentValue(99);
+    EXPECT_EQ(sliders[1]->value(), 12.0f);
+    find("170")->valueInterface()->setCurrentValue("loud");
+    EXPECT_EQ(sliders[1]->value(), 12.0f);
+    EXPECT_EQ(sliders[0]->value(), 0.0f);
+}
+
+TEST_F(AnAccessiblePane, MovesASliderByAStep)
+{
+    auto& slider = *find("170");
+    const double step = slider.valueInterface()->minimumStepSize().toDouble();
+    slider.actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    EXPECT_EQ(sliders[1]->value(), step);
+    slider.actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+    EXPECT_EQ(sliders[1]->value(), 0);
+}
+
+TEST_F(AnAccessiblePane, LeavesASliderAloneThatIsHeld)
+{
+    window->touchDown({ { 135, 66 }, desktop::Pointer::Mouse });
+    find("170")->valueInterface()->setCurrentValue(4.5);
+    EXPECT_EQ(sliders[1]->value(), 0);
+    EXPECT_THAT(log->take(), ElementsAre("down"));
+}
+
+TEST_F(AnAccessiblePane, TellsOfEveryValue)
+{
+    sliders[1]->setValue(3);
+    sliders[1]->setValue(3);
+    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::ValueChanged, QString("170"))));
+}
+
+TEST_F(AnAccessiblePane, SaysNothingWhenNobodyListens)
+{
+    QAccessible::setActive(false);
+    EXPECT_FALSE(window->onAccessibleChange);
+    sliders[1]->setValue(3);
+    window->addSubview(*make<UILabel>());
+    EXPECT_THAT(takeSent(), IsEmpty());
+}
+
+TEST_F(AnAccessiblePane, TellsWhereTheViewsAreOnTheScreen)
+{
+    const auto rect = find("170")->rect();
+    EXPECT_EQ(rect, QRect(widget->mapToGlobal(QPoint(35, 44)), QSize(200, 44)));
+    EXPECT_EQ(root().childAt(rect.center().x(), rect.center().y()), find("170"));
+    EXPECT_EQ(root().childAt(rect.right() + 50, rect.bottom() + 100), nullptr);
+}
+
+TEST_F(AnAccessiblePane, LeavesHiddenViewsOut)
+{
+    auto* slider = find("170");
+    sliders[1]->setHidden(true);
+    EXPECT_EQ(find("170"), nullptr);
+    EXPECT_TRUE(slider->state().invisible);
+    sliders[1]->setHidden(false);
+    sliders[1]->setAlpha(0);
+    EXPECT_EQ(find("170"), nullptr);
+    sliders[1]->setAlpha(1);
+    EXPECT_EQ(find("170"), slider);
+}
+
+TEST_F(AnAccessiblePane, AnnouncesAnAlertAndCoversTheRestWithIt)
+{
+    auto* slider = find("170");
+    showAlert();
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::Alert, QString("Really?"))));
+    ASSERT_EQ(namesIn(root()), QStringList({ "Really?" }));
+    auto& alert = *root().child(0);
+    EXPECT_EQ(alert.role(), QAccessible::AlertMessage);
+    EXPECT_EQ(namesIn(alert), QStringList({ "No", "Yes" }));
+    EXPECT_EQ(alert.child(1)->role(), QAccessible::Button);
+    EXPECT_EQ(alert.child(1)->parent(), &alert);
+    EXPECT_TRUE(alert.child(1)->state().focusable);
+    EXPECT_TRUE(slider->state().invisible);
+    EXPECT_FALSE(slider->state().focusable);
+    slider->valueInterface()->setCurrentValue(3);
+    EXPECT_EQ(sliders[1]->value(), 0);
+}
+
+TEST_F(AnAccessiblePane, PressesTheButtonsOfAnAlert)
+{
+    showAlert();
+    takeSent();
+    find("Yes")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(answers.pressed, ElementsAre(1));
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectHide, QString("Really?"))));
+    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "170" }));
+}
+
+TEST_F(AnAccessiblePane, TellsWhichButtonOfAnAlertHasTheKeyboard)
+{
+    showAlert();
+    takeSent();
+    window->keyPressed(desktop::Key::Tab);
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::Focus, QString("Yes"))));
+    EXPECT_TRUE(find("Yes")->state().focused);
+    EXPECT_FALSE(find("No")->state().focused);
+}
+
+TEST_F(AnAccessiblePane, ForgetsAViewThatIsGone)
+{
+    const auto id = QAccessible::uniqueId(find("170"));
+    EXPECT_EQ(QAccessible::accessibleInterface(id), find("170"));
+    sliders[1]->removeFromSuperview();
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectHide, QString("170"))));
+    // It may come back.
+    ASSERT_NE(QAccessible::accessibleInterface(id), nullptr);
+    EXPECT_FALSE(QAccessible::accessibleInterface(id)->isValid());
+    EXPECT_EQ(QAccessible::accessibleInterface(id)->parent(), nullptr);
+    EXPECT_EQ(QAccessible::accessibleInterface(id)->valueInterface(), nullptr);
+    sliders.pop_back();
+    EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
+}
+
+TEST_F(AnAccessiblePane, ForgetsItsViewsWhenItGoes)
+{
+    const auto id = QAccessible::uniqueId(find("170"));
+    widget.reset();
+    EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
+    EXPECT_FALSE(window->onAccessibleChange);
+    sliders[1]->setValue(3);
+    EXPECT_THAT(takeSent(), Not(Contains(std::pair(QAccessible::ValueChanged, QString("170")))));
+}
+
+TEST_F(AnAccessiblePane, HandsItsViewsToTheNextWidgetThatShowsThem)
+{
+    const auto id = QAccessible::uniqueId(find("170"));
+    {
+        PaneWidget next(*window);
+        EXPECT_NE(tests::find(*QAccessible::queryAccessibleInterface(&next), "170"), nullptr);
+        EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
+    }
+    EXPECT_NE(find("170"), nullptr);
+}
+
+TEST_F(AnAccessiblePane, IsQuietAboutAControlThatIsTakenAwayByItsOwnAction)
+{
+    RetainPtr<desktop::TextButton> button;
+    button = make<desktop::TextButton>(
+        "Go", UIFont::systemFontOfSize(12), [&] { std::exchange(button, nullptr)->removeFromSuperview(); });
+    button->setFrame(CGRectMake(50, 200, 80, 40));
+    window->addSubview(*button);
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectShow, QString("Go"))));
+    find("Go")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_FALSE(button);
+    EXPECT_EQ(find("Go"), nullptr);
+}
+
+TEST(AnAccessibleTable, NamesItsSwitchesAndButtonsByTheirRows)
+{
+    Rows rows { { 3, 30 } };
+    rows.footers = { "About the first" };
+    std::vector<RetainPtr<UISwitch>> switches;
+    rows.identifier
+        = [](const NSIndexPath& row) { return std::to_string(row.section) + "." + std::to_string(row.row); };
+    rows.onCellMade = [&](UITableViewCell& cell, const NSIndexPath& row) {
+        cell.textLabel().setText("Row " + rows.identifier(row));
+        if (row == NSIndexPath { 0, 0 }) {
+            switches.push_back(make<UISwitch>());
+            cell.setAccessoryView(switches.back());
+            cell.setSelectionStyle(UITableViewCellSelectionStyle::None);
+        } else if (row == NSIndexPath { 0, 1 }) {
+            cell.setSelectionStyle(UITableViewCellSelectionStyle::None);
+        }
+    };
+    const TableInWindow list(rows, { 320, 400 }, UITableViewStyle::Grouped);
+    PaneWidget widget(*list.window);
+    auto& table = *QAccessible::queryAccessibleInterface(&widget)->child(0);
+    EXPECT_EQ(table.text(QAccessible::Description), "About the first");
+    EXPECT_EQ(namesIn(table).first(3), QStringList({ "Row 0.0", "Row 0.1", "Row 0.2" }));
+
+    auto& toggle = *table.child(0);
+    EXPECT_EQ(toggle.role(), QAccessible::CheckBox);
+    EXPECT_TRUE(toggle.state().checkable);
+    EXPECT_FALSE(toggle.state().checked);
+    toggle.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(switches[0]->isOn());
+    EXPECT_TRUE(toggle.state().checked);
+
+    EXPECT_EQ(table.child(1)->role(), QAccessible::StaticText);
+    EXPECT_EQ(table.child(1)->actionInterface(), nullptr);
+    EXPECT_EQ(table.child(2)->role(), QAccessible::Button);
+    table.child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 2 }));
+
+    const auto id = QAccessible::uniqueId(&toggle);
+    table.actionInterface()->doAction(QAccessibleActionInterface::nextPageAction());
+    EXPECT_EQ(list.offset(), 400);
+    EXPECT_FALSE(namesIn(table).contains("Row 0.0"));
+    EXPECT_FALSE(QAccessible::accessibleInterface(id)->isValid());
+    table.actionInterface()->doAction(QAccessibleActionInterface::previousPageAction());
+    EXPECT_EQ(namesIn(table).first(3), QStringList({ "Row 0.0", "Row 0.1", "Row 0.2" }));
+    EXPECT_EQ(QAccessible::uniqueId(table.child(0)), id);
+}
+
+TEST(AnAccessibleSwitch, TellsWhenItIsFlipped)
+{
+    const auto window = make<desktop::Window>(CGSize { 320, 400 });
+    const auto toggle = make<UISwitch>();
+    window->addSubview(*toggle);
+    PaneWidget widget(*window);
+    widget.accessibility().deliver = writeDown;
+    QAccessible::setActive(true);
+    takeSent();
+    toggle->setOn(true, Animated::No);
+    toggle->setOn(true, Animated::No);
+    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::StateChanged, QString())));
+    QAccessible::setActive(false);
+}
+
+} // namespace
+
+} // namespace brimsound::tests

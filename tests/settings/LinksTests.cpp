@@ -1,0 +1,187 @@
+#include "include/Configuration.h"
+#include "include/twitter.h"
+#include "platform/UIKit/UIDevice.h"
+#include "settings/get_model.h"
+#include "settings/run_cmd.h"
+#include "settings/tweak.h"
+#include "tests/settings/Pane.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace brimsound::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class Link : public testing::Test {
+protected:
+    Link() { platform.takeTrace(); }
+
+    /// Taps the row whose action has that name.
+    void press(const char* selector)
+    {
+        const auto row = make<PSSpecifier>("Row", *controller, PropertyList::Dictionary());
+        const Argument argument = static_cast<NSObject*>(row.get());
+        controller->methodForSelector(selector)->invoke(*controller, { &argument, 1 });
+    }
+
+    static std::string output(const char* command)
+    {
+        const auto bytes = run_cmd(command);
+        return bytes ? std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size()) : "(null)";
+    }
+
+    TestPlatform platform;
+    RetainPtr<BrimsoundSettingsListController> controller = openController();
+};
+
+using TheIssueReport = Link;
+using ACommand = Link;
+using TheWebsite = Link;
+using TheProfile = Link;
+
+TEST_F(TheIssueReport, IsAMailToTheSupportAddressWithBothAttachments)
+{
+    platform.writePreferencesFile(std::string("bplist00 or whatever lies there"));
+    press("reportIssue:");
+    const auto mail = platform.composedMail();
+    ASSERT_TRUE(mail);
+    EXPECT_EQ(mail->subject, "Brimsound 1.5.5");
+    EXPECT_THAT(mail->to, ElementsAre(supportAddress));
+    ASSERT_THAT(mail->attachments, SizeIs(2));
+    EXPECT_EQ(mail->attachments[0].fileName, "Cydia_data.txt");
+    EXPECT_EQ(mail->attachments[0].mimeType, "text/plain");
+    EXPECT_EQ(mail->attachments[1].fileName, "prefs.plist");
+    EXPECT_EQ(mail->attachments[1].mimeType, "text/plain");
+    EXPECT_EQ(mail->attachments[1].bytes, "bplist00 or whatever lies there");
+    EXPECT_THAT(platform.takeTrace(), ElementsAre("shell /usr/bin/env dpkg-query --show"));
+}
+
+TEST_F(TheIssueReport, TellsDeviceVersionLanguageAndPackages)
+{
+    platform.carryOutCommands();
+    platform.setPreferredLanguages({ "fr_CA", "en" });
+    press("reportIssue:");
+    EXPECT_EQ(platform.composedMail()->attachments[0].bytes,
+        get_model() + " (BRS 1.5.5) fr-CA\n" + output("/usr/bin/env dpkg-query --show"));
+}
+
+TEST_F(TheIssueReport, LeavesTheLanguageOutWhenThereIsNone)
+{
+    platform.setPreferredLanguages({});
+    press("reportIssue:");
+    EXPECT_EQ(platform.composedMail()->attachments[0].bytes, get_model() + " (BRS 1.5.5) \n");
+}
+
+TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
+{
+    platform.setPreferredLanguages({ "en" });
+    platform.failToStartCommands();
+    press("reportIssue:");
+    EXPECT_EQ(platform.composedMail()->attachments[0].bytes, get_model() + " (BRS 1.5.5) en\n");
+    EXPECT_THAT(platform.takeTrace(),
+        ElementsAre("shell /usr/bin/env dpkg-query --show", "log Brimsound: Failed to run command\n"));
+}
+
+TEST_F(TheIssueReport, GoesWithoutPreferencesThatAreNotThere)
+{
+    press("reportIssue:");
+    EXPECT_THAT(platform.composedMail()->attachments, SizeIs(1));
+    EXPECT_EQ(platform.preferencesFile(), "");
+}
+
+TEST_F(TheIssueReport, IsDismissedAlikeWhetherSentOrCancelled)
+{
+    press("reportIssue:");
+    platform.takeTrace();
+    platform.cancelMail();
+    EXPECT_FALSE(platform.composedMail());
+    EXPECT_THAT(platform.takeTrace(), IsEmpty());
+
+    press("reportIssue:");
+    platform.takeTrace();
+    platform.sendMail();
+    EXPECT_FALSE(platform.composedMail());
+    EXPECT_THAT(platform.takeTrace(), ElementsAre("mail Brimsound 1.5.5"));
+}
+
+TEST_F(ACommand, GivesAllItsOutputWhateverItsStatus)
+{
+    platform.carryOutCommands();
+    EXPECT_EQ(output("printf 'one\\ntwo'; exit 3"), "one\ntwo");
+    EXPECT_EQ(output("true"), "");
+    EXPECT_EQ(output("no-such-command-anywhere 2>/dev/null"), "");
+}
+
+TEST_F(ACommand, GivesLinesLongerThanItsBufferWhole)
+{
+    platform.carryOutCommands();
+    for (const std::size_t length : { 1022u, 1023u, 1024u, 2046u, 5000u }) {
+        const auto command = "printf '%0" + std::to_string(length) + "d\\nend' 0";
+        EXPECT_EQ(output(command.c_str()), std::string(length, '0') + "\nend") << length;
+    }
+}
+
+TEST_F(ACommand, GivesMegabytes)
+{
+    platform.carryOutCommands();
+    EXPECT_EQ(output("yes brimsound | head -c 4000000").size(), 4000000u);
+}
+
+TEST_F(ACommand, DropsTheRestOfAReadAfterANul)
+{
+    platform.carryOutCommands();
+    EXPECT_EQ(output("printf 'ab\\000cd\\nef\\n'"), "abef\n");
+}
+
+TEST_F(ACommand, ThatCannotBeStartedGivesNothingAndALogLine)
+{
+    platform.failToStartCommands();
+    EXPECT_FALSE(run_cmd("true"));
+    EXPECT_THAT(platform.takeTrace(), ElementsAre("shell true", "log Brimsound: Failed to run command\n"));
+}
+
+TEST_F(TheIssueReport, DescribesTheDeviceByMachineAndSystem)
+{
+    const auto model = get_model();
+    const auto end = " on iOS " + UIDevice::currentDevice().systemVersion();
+    ASSERT_GT(model.size(), end.size());
+    EXPECT_EQ(model.substr(model.size() - end.size()), end);
+    EXPECT_EQ(model.find('\0'), std::string::npos);
+}
+
+TEST_F(TheWebsite, IsOpenedWithoutAskingFirst)
+{
+    platform.haveProgramsFor({ "http" });
+    press("visitWebsite:");
+    EXPECT_THAT(platform.takeTrace(), ElementsAre(std::string("url ") + websiteURL));
+}
+
+TEST_F(TheProfile, HasItsPlacesInTheirOrder)
+{
+    const std::string web = BRIMSOUND_PROFILE_HOST "/BrimsoundHQ";
+    EXPECT_THAT(TWITTER_URL_SCHEMES,
+        ElementsAre(std::string("twitterrific:///profile?screen_name=BrimsoundHQ"),
+            std::string("tweetbot:///user_profile/BrimsoundHQ"),
+            std::string("twitter://user?screen_name=BrimsoundHQ"), "https://" + web, "http://" + web));
+}
+
+TEST_F(TheProfile, IsOpenedInTheFirstPlaceThatCanBe)
+{
+    std::vector<std::string> schemes { "twitterrific", "tweetbot", "twitter", "https", "http" };
+    for (const auto* url : TWITTER_URL_SCHEMES) {
+        platform.haveProgramsFor(schemes);
+        press("visitTwitter:");
+        EXPECT_THAT(platform.takeTrace(), ElementsAre(std::string("url ") + url));
+        schemes.erase(schemes.begin());
+    }
+    platform.haveProgramsFor({});
+    press("visitTwitter:");
+    EXPECT_THAT(platform.takeTrace(), IsEmpty());
+}
+
+} // namespace
+} // namespace brimsound::tests
