@@ -150,7 +150,7 @@ TEST_F(ASwitch, OfTheEngineWritesTheFileAndTellsItOnceWithoutAnAlert)
 TEST_F(ASwitch, StoresTheValueThatItWasGiven)
 {
     const std::array<PropertyList, 2> values { "KEY", "any value" };
-    const std::array<Argument, 2> arguments { &values[0], &values[1] };
+    const std::array<Argument, 2> arguments { values.data(), &values[1] };
     controller->methodForSelector("setVar:value:")->invoke(*controller, arguments);
     EXPECT_EQ(*storedPreferences().find("KEY"), PropertyList("any value"));
     EXPECT_THAT(platform.takeTrace(), ElementsAre(writesFile, postsChanged));
