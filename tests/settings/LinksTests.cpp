@@ -13,6 +13,7 @@ namespace brimsound::tests {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -79,9 +80,14 @@ TEST_F(TheIssueReport, LeavesTheLanguageOutWhenThereIsNone)
 TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
 {
     platform.setPreferredLanguages({ "en" });
+    // Once with all well: checked builds need descriptors of their own for what they see for the first time.
+    press("reportIssue:");
+    platform.cancelMail();
+    platform.takeTrace();
     platform.failToStartCommands();
     press("reportIssue:");
-    EXPECT_EQ(platform.composedMail()->attachments[0].bytes, get_model() + " (BRS 1.5.5) en\n");
+    platform.startCommandsAgain();
+    EXPECT_THAT(platform.composedMail()->attachments[0].bytes, EndsWith(" (BRS 1.5.5) en\n"));
     EXPECT_THAT(platform.takeTrace(),
         ElementsAre("shell /usr/bin/env dpkg-query --show", "log Brimsound: Failed to run command\n"));
 }
@@ -139,8 +145,13 @@ TEST_F(ACommand, DropsTheRestOfAReadAfterANul)
 
 TEST_F(ACommand, ThatCannotBeStartedGivesNothingAndALogLine)
 {
+    // Once with all well: checked builds need descriptors of their own for what they see for the first time.
+    run_cmd("true");
+    platform.takeTrace();
     platform.failToStartCommands();
-    EXPECT_FALSE(run_cmd("true"));
+    const auto bytes = run_cmd("true");
+    platform.startCommandsAgain();
+    EXPECT_FALSE(bytes);
     EXPECT_THAT(platform.takeTrace(), ElementsAre("shell true", "log Brimsound: Failed to run command\n"));
 }
 

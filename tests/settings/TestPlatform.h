@@ -56,8 +56,9 @@ public:
 
     /// Commands are carried out from now on; before, they are only traced.
     void carryOutCommands();
-    /// No command can be started from now on.
+    /// No command can be started from now on, until they can again.
     void failToStartCommands();
+    void startCommandsAgain();
     /// What programs there are for URLs of those schemes, in place of whatever the machine has.
     void haveProgramsFor(const std::vector<std::string>& schemes);
     void setPreferredLanguages(const std::vector<std::string>& languages);

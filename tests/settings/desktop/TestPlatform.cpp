@@ -159,6 +159,11 @@ void TestPlatform::failToStartCommands()
     _device->noDescriptors.emplace();
 }
 
+void TestPlatform::startCommandsAgain()
+{
+    _device->noDescriptors.reset();
+}
+
 void TestPlatform::haveProgramsFor(const std::vector<std::string>& schemes)
 {
     _device->programs.emplace();
