@@ -18,9 +18,9 @@ function(check_layer rooms allowed)
   endforeach()
 endfunction()
 
-set(frameworks "Foundation|CoreFoundation|CoreGraphics|UIKit|Preferences|AppSupport|MessageUI|System")
+set(frameworks "Foundation|CoreFoundation|CoreGraphics|CommonCrypto|UIKit|Preferences|AppSupport|MessageUI|QuartzCore|System")
 check_layer("settings;include" "\"(settings|include|platform/(${frameworks}))/")
 check_layer(
-  "platform/Foundation;platform/CoreFoundation;platform/CoreGraphics;platform/UIKit;platform/Preferences;platform/AppSupport;platform/MessageUI;platform/System"
+  "platform/Foundation;platform/CoreFoundation;platform/CoreGraphics;platform/CommonCrypto;platform/UIKit;platform/Preferences;platform/AppSupport;platform/MessageUI;platform/QuartzCore;platform/System"
   "\"platform/(${frameworks})/")
-check_layer("platform/desktop/UIKit;platform/desktop/Preferences" "\"platform/")
+check_layer("platform/desktop/UIKit;platform/desktop/Preferences;platform/desktop/QuartzCore" "\"platform/")

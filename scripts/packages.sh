@@ -3,7 +3,8 @@
 # What it takes to build and run the pane.
 run_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-wayland libplist-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev nlohmann-json3-dev
+    qt6-base-dev qt6-wayland libplist-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
+    libpixman-1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
 # What the tests take besides.

@@ -7,7 +7,6 @@ namespace brimsound {
 
 namespace {
 
-constexpr NSIndexPath sliderRow { 2, 0 };
 /// The run-time name under which the table keeps the slider cell.
 constexpr auto sliderCellIdentifier = "slidershit";
 

@@ -73,19 +73,4 @@ void BrimsoundSettingsListController::sliderStopped(UISlider& sender)
     CFNotificationCenterPostNotification(center, settingsFinishedNotification, nullptr, nullptr, true);
 }
 
-void BrimsoundSettingsListController::playlistSaverSelectedPreset(NSObject&, const PropertyList& gains)
-{
-    if (!_sliders || _sliders->size() == 1)
-        return;
-    static const PropertyList::Array none;
-    const auto& values = gains.asArray() ? *gains.asArray() : none;
-    for (std::size_t i = 0; i + 1 < _sliders->size(); ++i) {
-        auto& slider = *(*_sliders)[i + 1];
-        slider.setValue(values.at(i).floatValue());
-        slider.sendActionsForControlEvents(UIControlEventValueChanged);
-        slider.sendActionsForControlEvents(UIControlEventTouchDragInside);
-        slider.sendActionsForControlEvents(UIControlEventTouchUpInside);
-    }
-}
-
 } // namespace brimsound

@@ -1,7 +1,7 @@
 #include "settings/BrimsoundSettings.h"
 
 #include "platform/AppSupport/rocketbootstrap.h"
-#include "platform/Foundation/NSBundle.h"
+#include "settings/Localized.h"
 #include "settings/Log.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
@@ -76,6 +76,7 @@ std::span<const Method> BrimsoundSettingsListController::methods() const
         method<&Self::setPreferenceValueSpecifier>("setPreferenceValue:specifier:"),
         method<&Self::readPreferenceValue>("readPreferenceValue:"),
         method<&Self::visitWebsite>("visitWebsite:"),
+        method<&Self::showPresets>("showPresets:"),
         method<&Self::playlistSaverSelectedPreset>("playlistSaver:selectedPreset:"),
         method<&Self::visitTwitter>("visitTwitter:"),
         method<&Self::respring>("respring:"),
@@ -104,8 +105,7 @@ std::span<const Method> BrimsoundSettingsListController::methods() const
 BrimsoundSettingsListController* BrimsoundSettingsListController::initForContentSize(CGSize size)
 {
     if (!FREQUENCY_STRS[0]) {
-        FREQUENCY_STRS[0]
-            = NSBundle::bundleForClass(className).localizedStringForKey("PRE", "Pre", resourceName);
+        FREQUENCY_STRS[0] = localized("PRE", "Pre");
     }
     if (!PSListController::initForContentSize(size))
         return nullptr;
@@ -128,6 +128,7 @@ BrimsoundSettingsListController::~BrimsoundSettingsListController()
     _sliders = nullptr;
     _labels = nullptr;
     _blackBar = nullptr;
+    _saver = nullptr;
     _center = nullptr;
     if (_activeController == this)
         _activeController = nullptr;

@@ -7,6 +7,7 @@
 #include "platform/Preferences/PSListController.h"
 #include "platform/UIKit/UIAlertViewDelegate.h"
 #include "settings/BRSliderCell.h"
+#include "settings/PlaylistSaver.h"
 
 #include <array>
 #include <cstdint>
@@ -34,6 +35,9 @@ extern bool _autoPreamp;
 extern std::uint32_t _notificationsToSkip;
 /// The controller initialised last, not retained; null when it is gone.
 extern BrimsoundSettingsListController* _activeController;
+
+/// Where the sliders are.
+inline constexpr NSIndexPath sliderRow { 2, 0 };
 
 /// The observer: ignores a delivery that the pane caused itself, else has the active controller reload its
 /// sliders.
@@ -91,9 +95,12 @@ public:
 
     void visitWebsite(PSSpecifier&);
 
+    /// Lays the preset panel over the pane. The sender does not matter.
+    void showPresets(NSObject* sender = nullptr);
+
     /// Plays a preset's ten gains (dB) onto the band sliders as if each had been dragged and let go. Throws
     /// std::out_of_range at the first gain that is missing.
-    void playlistSaverSelectedPreset(NSObject& saver, const PropertyList& gains);
+    void playlistSaverSelectedPreset(PlaylistSaver&, const PropertyList& gains);
 
     /// Opens the product's profile in the first app that can.
     void visitTwitter(PSSpecifier&);
@@ -134,6 +141,8 @@ public:
     const SliderList* sliders() const { return _sliders.get(); }
     const LabelList* labels() const { return _labels.get(); }
     UIView* blackBar() const { return _blackBar.get(); }
+    /// Null until the presets were first shown.
+    PlaylistSaver* saver() const { return _saver.get(); }
     CPDistributedMessagingCenter* center() const { return _center.get(); }
 
 protected:
@@ -149,6 +158,7 @@ private:
     std::shared_ptr<SliderList> _sliders;
     std::shared_ptr<LabelList> _labels;
     RetainPtr<UIView> _blackBar;
+    RetainPtr<PlaylistSaver> _saver;
     RetainPtr<CPDistributedMessagingCenter> _center;
 };
 

@@ -1,5 +1,7 @@
 #include "desktop/brimsound/LineSource.h"
 
+#include "desktop/brimsound/Script.h"
+
 #include <QEventLoop>
 #include <QSocketNotifier>
 
@@ -7,6 +9,13 @@
 #include <unistd.h>
 
 namespace brimsound::desktop {
+
+namespace {
+
+// In bytes without the line feed. A file without line feeds may have no end either.
+constexpr qint64 longestLine = 64 * 1024;
+
+} // namespace
 
 LineSource::LineSource(const QString& path)
     : _file(path)
@@ -26,11 +35,14 @@ std::optional<std::string> LineSource::next()
         QObject::connect(&readable, &QSocketNotifier::activated, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    auto line = _file.readLine();
+    // With one byte more to tell, and one that Qt may keep for a closing NUL.
+    auto line = _file.readLine(longestLine + 2);
     if (line.isEmpty())
         return std::nullopt;
     if (line.endsWith('\n'))
         line.chop(1);
+    if (line.size() > longestLine)
+        throw ScriptError("the line is too long");
     return line.toStdString();
 }
 

@@ -16,7 +16,8 @@ public:
     /// Throws std::runtime_error when the file cannot be read.
     explicit LineSource(const QString& path);
 
-    /// The next line without its line feed; nothing at the end.
+    /// The next line without its line feed; nothing at the end. Throws ScriptError for a line
+    /// that no command is as long as.
     std::optional<std::string> next();
 
 private:

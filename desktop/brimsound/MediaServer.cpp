@@ -1,8 +1,10 @@
 #include "desktop/brimsound/MediaServer.h"
 
+#include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 #include <thread>
@@ -11,13 +13,21 @@ namespace brimsound::desktop {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using namespace std::chrono_literals;
 
-constexpr std::chrono::seconds patience { 5 };
-constexpr std::chrono::milliseconds pause { 5 };
-/// A server that ends sooner than this after its start, so many times in a row, is not started again.
-constexpr std::chrono::seconds quickEnd { 1 };
+/// How long the app waits for a server to answer: at its own start, and while the pane is in use.
+constexpr auto firstPatience = 5s;
+constexpr auto laterPatience = 500ms;
+/// How long for one to end whose name is gone, which happens a moment before.
+constexpr auto endPatience = 100ms;
+constexpr auto pollInterval = 5ms;
+/// When servers end sooner than this after their start, more often than this in a row, there is a pause
+/// before the next start, so that they do not keep the machine busy.
+constexpr auto quickEnd = 1s;
 constexpr int mostQuickEnds = 5;
+/// The pause before a server that is missing is looked for again, in seconds; each doubles the next one.
+constexpr double firstPause = 1;
+constexpr double longestPause = 8;
 
 bool isServed()
 {
@@ -30,41 +40,72 @@ MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::p
     : _programFolder(std::move(programFolder))
     , _root(std::move(root))
 {
-    if (isServed())
-        return;
-    start();
-    SessionBus::shared().watchForLoss(messagingCenterName, [this] { startAgain(); });
+    if (!isServed())
+        start(firstPatience);
+    SessionBus::shared().watchForLoss(messagingCenterName, [this] { serverLost(); });
 }
 
-void MediaServer::start()
+MediaServer::~MediaServer()
+{
+    SessionBus::shared().watchForLoss(messagingCenterName, [] {});
+    if (_nextLook)
+        Clock::shared().cancel(*_nextLook);
+}
+
+void MediaServer::start(std::chrono::milliseconds patience)
 {
     _process = std::make_unique<ChildProcess>(
         std::vector<std::string> { _programFolder / "mediaserverd", "--root", _root });
-    _started = Clock::now();
+    _started = std::chrono::steady_clock::now();
     for (;;) {
         // Asked first: a server that ends because another pane's was faster leaves the name served.
         const bool running = _process->running();
         if (isServed())
             return;
-        if (!running || Clock::now() > _started + patience)
+        if (!running || std::chrono::steady_clock::now() > _started + patience)
             throw std::runtime_error("the media server did not start");
-        std::this_thread::sleep_for(pause);
+        std::this_thread::sleep_for(pollInterval);
     }
 }
 
-void MediaServer::startAgain()
+void MediaServer::serverLost()
 {
-    // Its name is gone a moment before the process is.
-    if (!_process->exitStatus(patience))
+    const bool endedQuickly = std::chrono::steady_clock::now() < _started + quickEnd;
+    _quickEnds = endedQuickly ? _quickEnds + 1 : 0;
+    if (!endedQuickly)
+        _pause = firstPause;
+    if (_quickEnds > mostQuickEnds)
+        lookAgain();
+    else
+        startIfMissing();
+}
+
+void MediaServer::startIfMissing()
+{
+    // Without a bus none can serve; the loss is told once there is one.
+    if (!SessionBus::shared().connection() || isServed())
         return;
-    _quickEnds = Clock::now() < _started + quickEnd ? _quickEnds + 1 : 0;
+    if (_process && !_process->exitStatus(endPatience)) {
+        lookAgain();
+        return;
+    }
     try {
-        if (_quickEnds > mostQuickEnds)
-            throw std::runtime_error("the media server keeps ending");
-        start();
+        start(laterPatience);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "brimsound: %s\n", error.what());
+        lookAgain();
     }
+}
+
+void MediaServer::lookAgain()
+{
+    if (_nextLook)
+        Clock::shared().cancel(*_nextLook);
+    _nextLook = Clock::shared().after(_pause, [this] {
+        _nextLook.reset();
+        startIfMissing();
+    });
+    _pause = std::min(2 * _pause, longestPause);
 }
 
 } // namespace brimsound::desktop

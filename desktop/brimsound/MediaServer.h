@@ -6,22 +6,26 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace brimsound::desktop {
 
-/// Starts mediaserverd from the program's own folder with the device root when no media server is on the bus,
-/// and starts it again whenever it has ended, as the system's launcher would. One that somebody else runs is
-/// left alone.
+/// Starts mediaserverd from the program's own folder with the device root whenever no media server is on the
+/// bus, as the system's launcher would. One that somebody else runs is left alone; when it leaves, this one's
+/// takes its place.
 class MediaServer {
 public:
     /// Comes back when a media server answers to the center's name. Throws std::runtime_error when none does.
     MediaServer(std::filesystem::path programFolder, std::filesystem::path root);
     MediaServer(const MediaServer&) = delete;
     MediaServer& operator=(const MediaServer&) = delete;
+    ~MediaServer();
 
 private:
-    void start();
-    void startAgain();
+    void start(std::chrono::milliseconds patience);
+    void serverLost();
+    void startIfMissing();
+    void lookAgain();
 
     const std::filesystem::path _programFolder;
     const std::filesystem::path _root;
@@ -29,6 +33,10 @@ private:
     std::unique_ptr<ChildProcess> _process;
     std::chrono::steady_clock::time_point _started;
     int _quickEnds = 0;
+    /// Seconds before the next look at whether one is missing.
+    double _pause = 1;
+    /// The number of that look; nothing while none is due.
+    std::optional<std::uint64_t> _nextLook;
 };
 
 } // namespace brimsound::desktop

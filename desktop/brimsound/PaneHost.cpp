@@ -20,8 +20,11 @@ public:
 
     void setContent(RetainPtr<UIView> content)
     {
-        if (_content)
-            _content->removeFromSuperview();
+        // A preset panel may be here too, and has no business over another content.
+        for (const auto& view : std::vector(subviews())) {
+            if (view != _bar.get())
+                view->removeFromSuperview();
+        }
         _content = std::move(content);
         if (_content)
             addSubview(*_content);

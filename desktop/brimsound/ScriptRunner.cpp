@@ -13,6 +13,8 @@
 #include "platform/desktop/UIKit/ViewControllerPeer.h"
 #include "platform/desktop/bus/Stranger.h"
 
+#include <algorithm>
+
 namespace brimsound::desktop {
 
 namespace {
@@ -20,6 +22,10 @@ namespace {
 /// How far below a slider a finger counts as outside, in points: beyond the margin that controls grant.
 constexpr double outsideDistance = 200;
 constexpr std::size_t lastSlider = 10;
+/// How far a swipe draws a row to the left, in points: beyond its button's width.
+constexpr double swipeDistance = 120;
+/// Where the dimmed area is touched beside the panel, in points from the window's corner.
+constexpr double dimmedMargin = 22;
 constexpr double largestWindow = 10000;
 /// A day.
 constexpr double longestWait = 86400;
@@ -30,16 +36,6 @@ double lengthFrom(const std::string& word)
     if (length < 1 || length > largestWindow)
         throw ScriptError("\"" + word + "\" is not a length in points");
     return length;
-}
-
-void scrollIntoView(UIView& view)
-{
-    auto* scrollView = enclosingScrollView(view);
-    if (!scrollView)
-        return;
-    auto rect = view.bounds();
-    rect.origin = convertFromWindow(convertToWindow(rect.origin, view), *scrollView);
-    scrollPeerOf(*scrollView).scrollIntoView(rect);
 }
 
 } // namespace
@@ -64,6 +60,12 @@ const std::vector<ScriptRunner::Command>& ScriptRunner::commands()
         { "cancel", 1, 1, "cancel N", &ScriptRunner::cancel },
         { "switch", 2, 2, "switch KEY on or switch KEY off", &ScriptRunner::flipSwitch },
         { "press", 1, 1, "press \"LABEL\" or press SELECTOR", &ScriptRunner::press },
+        { "row", 1, 1, "row \"NAME\"", &ScriptRunner::row },
+        { "saverow", 0, 0, "saverow", &ScriptRunner::saveRow },
+        { "type", 1, 1, "type \"TEXT\"", &ScriptRunner::type },
+        { "return", 0, 0, "return", &ScriptRunner::pressReturn },
+        { "swipe", 1, 1, "swipe \"NAME\"", &ScriptRunner::swipe },
+        { "dim", 0, 0, "dim", &ScriptRunner::dim },
         { "alert", 1, 1, "alert \"BUTTON\"", &ScriptRunner::alert },
         { "mail", 1, 1, "mail send or mail cancel", &ScriptRunner::mail },
         { "post", 1, 1, "post NAME", &ScriptRunner::post },
@@ -167,7 +169,6 @@ void ScriptRunner::touch(const Words& words)
 {
     auto& touched = slider(words[0]);
     scrollIntoView(touched);
-    _host.window().layOut();
     const auto place = convertToWindow(peerOf(touched).thumbCentre(touched.value()), touched);
     if (hitTest(_host.window(), place) != &touched)
         throw ScriptError("slider " + words[0] + " is covered");
@@ -208,9 +209,12 @@ void ScriptRunner::cancel(const Words& words)
 
 UITableViewCell& ScriptRunner::rowOf(const PSSpecifier& specifier) const
 {
+    return cellAt(pane().table(), indexPathOf(pane(), specifier));
+}
+
+UITableViewCell& ScriptRunner::cellAt(UITableView& table, const NSIndexPath& path) const
+{
     _host.window().layOut();
-    auto& table = pane().table();
-    const auto path = indexPathOf(pane(), specifier);
     scrollPeerOf(table).scrollIntoView(peerOf(table).rowRect(path));
     _host.window().layOut();
     return *table.cellForRowAtIndexPath(path);
@@ -241,6 +245,11 @@ void ScriptRunner::flipSwitch(const Words& words)
 
 void ScriptRunner::press(const Words& words)
 {
+    const auto* panel = pane().saver();
+    if (panel && panelStateOf(panel) != PanelState::Hidden && panel->cancelText() == words[0]) {
+        tap(*panel->cancelView(), words[0]);
+        return;
+    }
     for (const auto& specifier : pane().specifiers()) {
         const bool isButton = isOfType(*specifier, buttonCellType) || isOfType(*specifier, linkCellType);
         if (!isButton || (specifier->name() != words[0] && stringProperty(*specifier, "action") != words[0]))
@@ -249,6 +258,78 @@ void ScriptRunner::press(const Words& words)
         return;
     }
     throw ScriptError("there is no button \"" + words[0] + "\"");
+}
+
+PlaylistSaver& ScriptRunner::presetList() const
+{
+    auto* panel = pane().saver();
+    if (panelStateOf(panel) != PanelState::List)
+        throw ScriptError("the presets are not shown");
+    return *panel;
+}
+
+NSIndexPath ScriptRunner::presetRow(const std::string& name) const
+{
+    const auto& presets = presetList().presetDict();
+    const auto* found = std::ranges::find(presets, name, &PropertyListDictionary::Entry::key);
+    if (found == presets.end())
+        throw ScriptError("there is no preset \"" + name + "\"");
+    return { 1, static_cast<std::size_t>(found - presets.begin()) };
+}
+
+UITableViewCell& ScriptRunner::rowInPresetList(const NSIndexPath& path) const
+{
+    return cellAt(*presetList().tableView(), path);
+}
+
+void ScriptRunner::row(const Words& words)
+{
+    tap(rowInPresetList(presetRow(words[0])), words[0]);
+}
+
+void ScriptRunner::saveRow(const Words&)
+{
+    tap(rowInPresetList({ 0, 0 }), "saverow");
+}
+
+void ScriptRunner::type(const Words& words)
+{
+    if (!_host.window().typeText(words[0]))
+        throw ScriptError("nothing takes text");
+}
+
+void ScriptRunner::pressReturn(const Words&)
+{
+    if (!_host.window().keyPressed(Key::Return))
+        throw ScriptError("nothing takes Return");
+}
+
+void ScriptRunner::swipe(const Words& words)
+{
+    const auto& cell = rowInPresetList(presetRow(words[0]));
+    const auto [width, height] = cell.bounds().size;
+    auto& window = _host.window();
+    pressAt(convertToWindow({ width - swipeDistance / 8, height / 2 }, cell));
+    window.touchDown({ _finger, Pointer::Mouse });
+    for (const double part : { 0.25, 0.75 }) {
+        _finger.x -= part * swipeDistance;
+        window.touchMove(_finger);
+    }
+    window.touchUp(_finger);
+    const auto& swiped = peerOf(*presetList().tableView()).swipedRow;
+    if (!swiped)
+        throw ScriptError("the row of \"" + words[0] + "\" cannot be swiped");
+    tap(*swiped->button, "Delete");
+}
+
+void ScriptRunner::dim(const Words&)
+{
+    const auto* panel = pane().saver();
+    if (panelStateOf(panel) == PanelState::Hidden)
+        throw ScriptError("the presets are not shown");
+    pressAt(convertToWindow({ dimmedMargin, dimmedMargin }, panel->view()));
+    _host.window().touchDown({ _finger, Pointer::Mouse });
+    _host.window().touchUp(_finger);
 }
 
 void ScriptRunner::alert(const Words& words)

@@ -38,6 +38,12 @@ private:
     void cancel(const Words&);
     void flipSwitch(const Words&);
     void press(const Words&);
+    void row(const Words&);
+    void saveRow(const Words&);
+    void type(const Words&);
+    void pressReturn(const Words&);
+    void swipe(const Words&);
+    void dim(const Words&);
     void alert(const Words&);
     void mail(const Words&);
     void post(const Words&);
@@ -53,7 +59,15 @@ private:
     void tap(UIView&, const std::string& name) const;
     /// The row of that specifier, scrolled into view.
     UITableViewCell& rowOf(const PSSpecifier&) const;
+    /// A row's cell, scrolled into view.
+    UITableViewCell& cellAt(UITableView&, const NSIndexPath&) const;
     BrimsoundSettingsListController& pane() const;
+    /// The preset panel with its list shown.
+    PlaylistSaver& presetList() const;
+    /// Where that preset's row stands.
+    NSIndexPath presetRow(const std::string& name) const;
+    /// A row of the preset list, scrolled into view.
+    UITableViewCell& rowInPresetList(const NSIndexPath&) const;
     UISlider& slider(const std::string& word) const;
     /// The held slider, which must be the one that the word names.
     UISlider& heldSlider(const std::string& word) const;

@@ -17,6 +17,19 @@ Json switchesOf(BrimsoundSettingsListController& controller)
     return switches;
 }
 
+const char* nameOf(PanelState state)
+{
+    switch (state) {
+    case PanelState::List:
+        return "list";
+    case PanelState::Naming:
+        return "naming";
+    case PanelState::Hidden:
+        break;
+    }
+    return "hidden";
+}
+
 Json arrayOf(const CGRect& rect)
 {
     return { rect.origin.x, rect.origin.y, rect.size.width, rect.size.height };
@@ -24,8 +37,17 @@ Json arrayOf(const CGRect& rect)
 
 } // namespace
 
+PanelState panelStateOf(const PlaylistSaver* panel)
+{
+    if (!panel || panel->view().alpha() <= 0)
+        return PanelState::Hidden;
+    return panel->nameField().superview()->isHidden() ? PanelState::List : PanelState::Naming;
+}
+
 Json stateOf(const PaneHost& host)
 {
+    auto rows = Json::array();
+    Json selected;
     auto sliders = Json::array();
     auto labels = Json::array();
     auto colors = Json::array();
@@ -46,6 +68,12 @@ Json stateOf(const PaneHost& host)
         }
         if (const auto* bar = controller->blackBar())
             blackBar = arrayOf(bar->frame());
+        if (const auto* panel = controller->saver()) {
+            for (const auto& preset : panel->presetDict())
+                rows.push_back(preset.key);
+            if (panel->selectedPreset())
+                selected = *panel->selectedPreset();
+        }
         switches = switchesOf(*controller);
     }
 
@@ -54,9 +82,9 @@ Json stateOf(const PaneHost& host)
         { "labels", labels },
         { "colors", colors },
         { "blackBar", blackBar },
-        { "panel", "hidden" },
-        { "rows", Json::array() },
-        { "selected", nullptr },
+        { "panel", nameOf(panelStateOf(host.controller() ? host.controller()->saver() : nullptr)) },
+        { "rows", rows },
+        { "selected", selected },
         { "switches", switches },
         { "autoPreamp", _autoPreamp },
         { "notificationsToSkip", _notificationsToSkip },

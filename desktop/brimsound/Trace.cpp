@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <cerrno>
+
 namespace brimsound::desktop {
 
 Json toJson(const PropertyList& value)
@@ -109,8 +111,9 @@ void Trace::print(const Json& line)
 {
     // Names may come from anywhere; a broken character must not end the trace.
     const auto text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
-    std::fwrite(text.data(), 1, text.size(), _stream);
-    std::fflush(_stream);
+    const auto written = std::fwrite(text.data(), 1, text.size(), _stream);
+    if ((written != text.size() || std::fflush(_stream) != 0) && _failure == 0)
+        _failure = errno;
 }
 
 } // namespace brimsound::desktop

@@ -19,6 +19,9 @@ public:
     {
     }
 
+    /// Why the first line that is missing could not be printed, as errno tells; 0 while none is.
+    int failure() const { return _failure; }
+
     void messageSent(
         const std::string& name, const PropertyList::Dictionary& userInfo, const NSError* error) override;
     void notificationPosted(const std::string& name) override;
@@ -35,6 +38,7 @@ private:
     void print(const Json&);
 
     std::FILE* _stream;
+    int _failure = 0;
 };
 
 /// The value as JSON: data as base64 does not occur and becomes null, as does null itself.

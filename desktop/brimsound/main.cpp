@@ -2,20 +2,21 @@
 #include "desktop/brimsound/LineSource.h"
 #include "desktop/brimsound/MediaServer.h"
 #include "desktop/brimsound/Options.h"
+#include "desktop/brimsound/OwnBus.h"
 #include "desktop/brimsound/PaneHost.h"
 #include "desktop/brimsound/ScriptRunner.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/Qt/MainLoop.h"
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/Qt/Snapshot.h"
-#include "platform/desktop/bus/PrivateBus.h"
-#include "platform/desktop/bus/SessionBus.h"
+#include "platform/desktop/UIKit/Screen.h"
 #include "platform/desktop/process/StandardStreams.h"
 
 #include <QApplication>
 #include <QIcon>
 
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 
@@ -40,27 +41,31 @@ void choosePlatform(const Options& options)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(*options.scale));
 }
 
-std::unique_ptr<PrivateBus> startBusIfMissing()
+void throwIfIncomplete(const Trace& trace)
 {
-    return SessionBus::shared().connection() ? nullptr : std::make_unique<PrivateBus>();
+    if (trace.failure() != 0)
+        throw std::runtime_error(
+            std::string("the trace cannot be written: ") + std::strerror(trace.failure()));
 }
 
 /// The exit status.
-int runScript(const QString& path, ScriptRunner& runner, MainLoop& loop)
+int runScript(const QString& path, ScriptRunner& runner, const Trace& trace, MainLoop& loop)
 {
     LineSource lines(path);
-    int number = 0;
-    while (const auto line = lines.next()) {
-        ++number;
-        try {
+    int number = 1;
+    try {
+        for (auto line = lines.next(); line; line = lines.next()) {
             runner.run(*line);
-        } catch (const ScriptError& error) {
-            std::fprintf(stderr, "brimsound: line %d: %s\n", number, error.what());
-            return 2;
+            throwIfIncomplete(trace);
+            ++number;
         }
+    } catch (const ScriptError& error) {
+        std::fprintf(stderr, "brimsound: line %d: %s\n", number, error.what());
+        return 2;
     }
     // What the last line set off is part of the trace.
     loop.wait(0);
+    throwIfIncomplete(trace);
     return 0;
 }
 
@@ -81,8 +86,8 @@ int run(int argc, char** argv, const Options& options)
     if (headless && options.script.isEmpty() && options.snapshot.isEmpty())
         throw UsageError("without a display there is nothing to do but --script or --snapshot");
 
-    const auto bus = startBusIfMissing();
-    const MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
+    const OwnBus bus;
+    MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
 
     Trace trace(stdout);
     if (!options.script.isEmpty())
@@ -100,6 +105,7 @@ int run(int argc, char** argv, const Options& options)
         widget->show();
     }
     const double scale = headless ? options.scale.value_or(scaleWithoutScreen) : widget->devicePixelRatioF();
+    setScreenScale(scale);
     const auto resize = [&](CGSize size) {
         if (widget)
             widget->resize(QSizeF(size.width, size.height).toSize());
@@ -110,7 +116,7 @@ int run(int argc, char** argv, const Options& options)
     int status = 0;
     if (!options.script.isEmpty()) {
         ScriptRunner runner(host, loop, trace, scale, resize);
-        status = runScript(options.script, runner, loop);
+        status = runScript(options.script, runner, trace, loop);
     } else if (!headless) {
         status = QApplication::exec();
     }

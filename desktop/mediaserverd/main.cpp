@@ -133,7 +133,8 @@ int main(int argumentCount, char** arguments)
     if (options.print)
         equalizer.onChange = print;
 
-    auto* bus = desktop::SessionBus::shared().connection();
+    // Messages and notifications arrive on the same connection, and so in the order in which they were sent.
+    auto* bus = desktop::SessionBus::shared().listener();
     if (!bus)
         return fail("there is no session bus");
     CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &equalizer,

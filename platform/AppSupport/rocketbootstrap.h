@@ -6,7 +6,7 @@ namespace brimsound {
 class CPDistributedMessagingCenter;
 
 /// Lets messages through this center reach servers outside the sandbox. On the desktop, where there is none,
-/// it opens the connection to the session bus, anew when the old one was lost.
+/// it has nothing to do.
 void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&);
 
 } // namespace brimsound

@@ -29,8 +29,12 @@ struct Method {
 
 namespace detail {
 
+/// A parameter that is a pointer may be left out.
+template <typename Parameter> constexpr bool isOptional = std::is_pointer_v<Parameter>;
+
 template <typename Parameter>
-std::remove_reference_t<Parameter>* argumentAs(std::span<const Argument> arguments, std::size_t index)
+std::remove_pointer_t<std::remove_reference_t<Parameter>>* argumentAs(
+    std::span<const Argument> arguments, std::size_t index)
 {
     if (index >= arguments.size())
         return nullptr;
@@ -39,22 +43,32 @@ std::remove_reference_t<Parameter>* argumentAs(std::span<const Argument> argumen
         return value ? *value : nullptr;
     } else {
         auto* object = std::get_if<NSObject*>(&arguments[index]);
-        return object ? static_cast<std::remove_reference_t<Parameter>*>(*object) : nullptr;
+        return object ? static_cast<std::remove_pointer_t<std::remove_reference_t<Parameter>>*>(*object)
+                      : nullptr;
     }
+}
+
+template <typename Parameter> Parameter passed(std::span<const Argument> arguments, std::size_t index)
+{
+    auto* argument = argumentAs<Parameter>(arguments, index);
+    if constexpr (isOptional<Parameter>)
+        return argument;
+    else
+        return *argument;
 }
 
 template <auto member, typename Class, typename Result, typename... Parameters, std::size_t... indices>
 PropertyList invokeMember(
     NSObject& self, std::span<const Argument> arguments, std::index_sequence<indices...>)
 {
-    if (!(... && argumentAs<Parameters>(arguments, indices)))
+    if (!(... && (isOptional<Parameters> || argumentAs<Parameters>(arguments, indices))))
         return {};
     auto& object = static_cast<Class&>(self);
     if constexpr (std::is_void_v<Result>) {
-        (object.*member)(*argumentAs<Parameters>(arguments, indices)...);
+        (object.*member)(passed<Parameters>(arguments, indices)...);
         return {};
     } else {
-        return (object.*member)(*argumentAs<Parameters>(arguments, indices)...);
+        return (object.*member)(passed<Parameters>(arguments, indices)...);
     }
 }
 
@@ -69,8 +83,8 @@ Method methodOf(std::string_view selector, Result (Class::*)(Parameters...))
 
 } // namespace detail
 
-/// The table row that binds a selector to a member function, whose parameters are references to objects or
-/// `const PropertyList&`.
+/// The table row that binds a selector to a member function, whose parameters are references to objects, or
+/// pointers for those that may be left out, or `const PropertyList&`.
 template <auto member> Method method(std::string_view selector)
 {
     return detail::methodOf<member>(selector, member);

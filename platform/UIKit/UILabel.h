@@ -27,6 +27,12 @@ public:
     /// At first black.
     RetainPtr<UIColor> textColor() const;
     void setTextColor(RetainPtr<UIColor>);
+    /// Null (as at first) for a label that looks the same when it is highlighted.
+    RetainPtr<UIColor> highlightedTextColor() const;
+    void setHighlightedTextColor(RetainPtr<UIColor>);
+    /// A table row highlights the labels in it while it is pressed or selected.
+    bool isHighlighted() const;
+    void setHighlighted(bool);
     NSTextAlignment textAlignment() const;
     void setTextAlignment(NSTextAlignment);
 };

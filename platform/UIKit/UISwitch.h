@@ -1,12 +1,10 @@
 // Switches.
 #pragma once
 
+#include "platform/UIKit/Animated.h"
 #include "platform/UIKit/UIControl.h"
 
 namespace brimsound {
-
-/// Whether a change is shown as a movement.
-enum class Animated { No, Yes };
 
 /// An on/off switch, at first off; a touch flips it and sends UIControlEventValueChanged.
 class UISwitch : public UIControl {

@@ -19,7 +19,15 @@ public:
     virtual std::size_t numberOfSectionsInTableView(UITableView&) { return 1; }
     virtual std::size_t tableViewNumberOfRowsInSection(UITableView&, std::size_t section) = 0;
     virtual RetainPtr<UITableViewCell> tableViewCellForRowAtIndexPath(UITableView&, const NSIndexPath&) = 0;
-    /// Empty for a section without one.
+    /// Whether the user may delete the row.
+    virtual bool tableViewCanEditRowAtIndexPath(UITableView&, const NSIndexPath&) { return false; }
+    /// The user wants the row deleted. It is still there: the data source drops it and has the table delete
+    /// the row.
+    virtual void tableViewCommitEditingStyleForRowAtIndexPath(
+        UITableView&, UITableViewCellEditingStyle, const NSIndexPath&)
+    {
+    }
+    /// Empty for a section without one. A plain table shows neither headers nor footers.
     virtual std::string tableViewTitleForHeaderInSection(UITableView&, std::size_t /*section*/) { return {}; }
     virtual std::string tableViewTitleForFooterInSection(UITableView&, std::size_t /*section*/) { return {}; }
 };

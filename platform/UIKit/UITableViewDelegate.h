@@ -7,6 +7,7 @@
 namespace brimsound {
 
 class UITableView;
+class UITableViewCell;
 
 /// Asked and told by a table. Not retained by it.
 class UITableViewDelegate {
@@ -15,6 +16,10 @@ public:
 
     /// In points.
     virtual CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) { return 44; }
+    /// Called just before the row's cell appears, when it has its frame.
+    virtual void tableViewWillDisplayCellForRowAtIndexPath(UITableView&, UITableViewCell&, const NSIndexPath&)
+    {
+    }
     virtual void tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath&) { }
 };
 

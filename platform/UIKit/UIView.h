@@ -3,8 +3,10 @@
 
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSObject.h"
+#include "platform/QuartzCore/CALayer.h"
 #include "platform/UIKit/UIColor.h"
 
+#include <functional>
 #include <vector>
 
 namespace brimsound {
@@ -29,6 +31,8 @@ public:
 
     /// Asks for layoutSubviews before the next drawing.
     void setNeedsLayout();
+    /// Has it called at once, if it was asked for, here and in all subviews.
+    void layoutIfNeeded();
     /// Places the subviews; called when the size changed or a layout was asked for. The base class does
     /// nothing.
     virtual void layoutSubviews();
@@ -41,6 +45,31 @@ public:
     void setAlpha(CGFloat);
     bool isHidden() const;
     void setHidden(bool);
+    /// Whether subviews are cut off at the view's edges; at first they are not.
+    bool clipsToBounds() const;
+    void setClipsToBounds(bool);
+    /// Whether the view and all in it can be touched, as at first; else touches go to what lies below.
+    bool isUserInteractionEnabled() const;
+    void setUserInteractionEnabled(bool);
+    CALayer layer() { return CALayer(*this); }
+
+    /// A number to find the view by, at first 0.
+    long tag() const;
+    void setTag(long);
+    /// The view itself or the first one in it, depth first, that has the tag; null when there is none.
+    UIView* viewWithTag(long);
+
+    /// Whether the view can be what the keyboard types into; here it cannot.
+    virtual bool canBecomeFirstResponder() const { return false; }
+    /// Takes the keyboard, from whoever has it. False for a view that cannot or is in no window.
+    bool becomeFirstResponder();
+    /// Gives the keyboard up. So does a view that leaves its window.
+    void resignFirstResponder();
+    bool isFirstResponder() const;
+
+    /// Makes changes that show as movements of that many seconds, starting now: of frames, alphas and
+    /// background colours. The views have their new values at once.
+    static void animateWithDurationAnimations(double seconds, const std::function<void()>& animations);
 
 protected:
     explicit UIView(Peer*);

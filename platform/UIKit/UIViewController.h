@@ -1,7 +1,7 @@
 // View controllers: what fills the screen, or a sheet over it.
 #pragma once
 
-#include "platform/UIKit/UISwitch.h"
+#include "platform/UIKit/Animated.h"
 #include "platform/UIKit/UIView.h"
 
 #include <functional>
@@ -13,7 +13,12 @@ class UIViewController : public NSObject {
 public:
     UIViewController();
 
+    /// Made when it is first asked for.
     UIView& view() const;
+    /// Null lets go of the view; the next one that asks for it has a new one made.
+    void setView(RetainPtr<UIView>);
+    /// Told by a platform that lets go of the view to save memory; here it does nothing.
+    virtual void viewDidUnload() { }
 
     /// Shows another controller's view over everything, and retains the controller until it is dismissed.
     /// Nothing when one is presented already. `completion`, which may be empty, is called when it stands.

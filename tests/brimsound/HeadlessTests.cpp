@@ -330,6 +330,34 @@ TEST_F(AScript, IsCarriedOutWithoutStandardOutput)
     EXPECT_THAT(root.read(preferences), StartsWith("bplist00"));
 }
 
+TEST_F(AScript, EndsAtALineWithoutEnd)
+{
+    const auto run = runProgram({ "--headless", "--root", root.path(), "--script", "/dev/zero" });
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.errors, HasSubstr("brimsound: line 1: the line is too long\n"));
+    EXPECT_EQ(playScript(root, "state\n\n#" + std::string(70'000, 'x') + "\n").status, 2);
+    EXPECT_EQ(playScript(root, "state\n\n#" + std::string(60'000, 'x') + "\n").status, 0);
+}
+
+TEST_F(AScript, StopsWhenItsTraceCannotBeWritten)
+{
+    root.write("/script", "touch 3\nlift 3\ntouch 4\nlift 4\n");
+    const auto folder = root.path().string();
+    desktop::ChildProcess shell(
+        { "/bin/sh", "-c",
+            BRIMSOUND " --headless --root " + folder + " --script " + folder + "/script 2>&1 >/dev/full" },
+        desktop::ChildProcess::Output::Piped);
+    std::vector<std::string> told;
+    while (const auto line = shell.readLine(std::chrono::seconds(20))) {
+        if (line->starts_with("brimsound: "))
+            told.push_back(*line);
+    }
+    EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 1);
+    EXPECT_THAT(told, ElementsAre("brimsound: the trace cannot be written: No space left on device"));
+    // Not even the line after the one that could not be told was carried out.
+    EXPECT_EQ(root.read(preferences), "");
+}
+
 TEST_F(AScript, CannotBeReadWhenThereIsNone)
 {
     const auto run = runProgram({ "--headless", "--root", root.path(), "--script", "/no/such/script" });

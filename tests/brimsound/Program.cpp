@@ -73,13 +73,16 @@ Run playScript(const TemporaryRoot& root, const std::string& script)
     return run;
 }
 
-RunningProgram::RunningProgram(const std::filesystem::path& root, const std::vector<std::string>& more)
+RunningProgram::RunningProgram(
+    const std::filesystem::path& root, const std::vector<std::string>& more, Errors errors)
     : _script(newFolder() / "script")
 {
     if (mkfifo(_script.c_str(), 0600) != 0)
         throw std::runtime_error("no FIFO for the script");
     std::vector<std::string> command { BRIMSOUND, "--root", root, "--script", _script };
     command.insert(command.end(), more.begin(), more.end());
+    if (errors == Errors::Dropped)
+        command.insert(command.begin(), { "/bin/sh", "-c", "exec \"$@\" 2>/dev/null", "sh" });
     _process.emplace(command, desktop::ChildProcess::Output::Piped);
     // Waits for the program to open the other end.
     _input = open(_script.c_str(), O_WRONLY | O_CLOEXEC);

@@ -37,8 +37,12 @@ Run playScript(const TemporaryRoot&, const std::string& script);
 /// A program that is told its script line by line while it runs.
 class RunningProgram {
 public:
+    /// What becomes of the lines that it prints on standard error.
+    enum class Errors { Shown, Dropped };
+
     /// Starts it on the root with the script still to come; `more` are further arguments.
-    explicit RunningProgram(const std::filesystem::path& root, const std::vector<std::string>& more);
+    explicit RunningProgram(
+        const std::filesystem::path& root, const std::vector<std::string>& more, Errors = Errors::Shown);
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
     ~RunningProgram();

@@ -1,5 +1,6 @@
 #include "tests/brimsound/Program.h"
 #include "tests/support/EnvironmentVariable.h"
+#include "tests/support/Screen.h"
 #include "tests/support/TestBus.h"
 
 #include <gmock/gmock.h>
@@ -10,32 +11,10 @@
 namespace brimsound::tests {
 namespace {
 
-/// An X server with a screen that nobody sees.
-class Screen {
-public:
-    Screen()
-        : _server({ "Xvfb", "-displayfd", "1", "-screen", "0", "900x1200x24", "-nolisten", "tcp" },
-            desktop::ChildProcess::Output::Piped)
-    {
-        const auto number = _server.readLine(std::chrono::seconds(20));
-        if (!number)
-            throw std::runtime_error("Xvfb did not start");
-        name = ":" + *number;
-    }
-
-    std::string name;
-
-private:
-    desktop::ChildProcess _server;
-};
-
 class ARealWindow : public testing::Test {
 protected:
     ARealWindow()
-        : _display("DISPLAY", _screen.name.c_str())
-        , _wayland("WAYLAND_DISPLAY", nullptr)
-        , _platform("QT_QPA_PLATFORM", nullptr)
-        , pane(root.path(), {})
+        : pane(root.path(), {})
     {
         // Answers once the window is up.
         pane.say("wait 0.2");
@@ -55,9 +34,6 @@ protected:
 
 private:
     Screen _screen;
-    EnvironmentVariable _display;
-    EnvironmentVariable _wayland;
-    EnvironmentVariable _platform;
     TestBus _bus;
 
 protected:

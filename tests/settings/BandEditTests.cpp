@@ -34,6 +34,13 @@ using DraggingABand = BandEdit;
 using DraggingThePreamp = BandEdit;
 using LettingGoOfASlider = BandEdit;
 using SendingToTheMediaServer = BandEdit;
+/// As the preset panel does when the preset is chosen.
+void applyPreset(BrimsoundSettingsListController& controller, const PropertyList& gains)
+{
+    const auto panel = make<PlaylistSaver>(controller);
+    controller.playlistSaverSelectedPreset(*panel, gains);
+}
+
 using ApplyingAPreset = BandEdit;
 
 TEST_F(TouchingASlider, SendsAllElevenValuesAtOnce)
@@ -332,7 +339,7 @@ TEST_F(ApplyingAPreset, ReplaysTenDragsAndReleases)
     store({ { "AUTO_PREAMP", false }, { "PEAKING_EQ_VALUES", PropertyList::Array(10, 0) },
         { "SELECTED_PRESET", "Rock" }, { "PREAMP", 2.0f } });
     const Pane pane(platform);
-    pane.controller().playlistSaverSelectedPreset(pane.controller(), rising());
+    applyPreset(pane.controller(), rising());
 
     std::vector<std::string> expected;
     for (int i = 0; i < 10; ++i)
@@ -388,8 +395,7 @@ TEST_F(ApplyingAPreset, SendsEachBandsEventsInTheOrderOfAGesture)
         slider.addTargetActionForControlEvents(*listener, "dragged:", UIControlEventTouchDragInside);
         slider.addTargetActionForControlEvents(*listener, "lifted:", UIControlEventTouchUpInside);
     }
-    pane.controller().playlistSaverSelectedPreset(
-        pane.controller(), PropertyList::Array { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 });
+    applyPreset(pane.controller(), PropertyList::Array { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 });
     EXPECT_THAT(listener->heard,
         ElementsAre("value changed to 1", "dragged to 1", "lifted at 1", "value changed to 10",
             "dragged to 10", "lifted at 10"));
@@ -398,7 +404,7 @@ TEST_F(ApplyingAPreset, SendsEachBandsEventsInTheOrderOfAGesture)
 TEST_F(ApplyingAPreset, RecomputesThePreampBandByBandWhenItIsAutomatic)
 {
     const Pane pane(platform);
-    pane.controller().playlistSaverSelectedPreset(pane.controller(), rising());
+    applyPreset(pane.controller(), rising());
     std::vector<float> preamps;
     for (const auto& values : pane.sent())
         preamps.push_back(values[0]);
@@ -409,7 +415,7 @@ TEST_F(ApplyingAPreset, RecomputesThePreampBandByBandWhenItIsAutomatic)
 TEST_F(ApplyingAPreset, IsNotTakenForTenChangesFromElsewhere)
 {
     const Pane pane(platform);
-    pane.controller().playlistSaverSelectedPreset(pane.controller(), rising());
+    applyPreset(pane.controller(), rising());
     pane.trace();
     EXPECT_EQ(_notificationsToSkip, 10u);
     platform.deliverNotifications();
@@ -426,7 +432,7 @@ TEST_F(ApplyingAPreset, FailsWithARangeErrorAtTheFirstGainThatIsMissing)
     storeAutoPreamp(false);
     const Pane pane(platform);
     const PropertyList two(PropertyList::Array { 1, 2 });
-    EXPECT_THROW(pane.controller().playlistSaverSelectedPreset(pane.controller(), two), std::out_of_range);
+    EXPECT_THROW(applyPreset(pane.controller(), two), std::out_of_range);
     EXPECT_THAT(pane.values(), ElementsAre(0, 1, 2, 0, 0, 0, 0, 0, 0, 0, 0));
     EXPECT_EQ(pane.sent().size(), 2u);
 }
@@ -435,7 +441,7 @@ TEST_F(ApplyingAPreset, BeforeTheSlidersExistDoesNothing)
 {
     const auto controller = openController();
     platform.takeTrace();
-    controller->playlistSaverSelectedPreset(*controller, rising());
+    applyPreset(*controller, rising());
     EXPECT_THAT(platform.takeTrace(), ElementsAre());
 }
 

@@ -30,6 +30,17 @@ public:
     void deliverNotifications();
     void postFromAnotherProcess(const std::string& name);
 
+    /// Lets time pass for whatever moves.
+    void passTime(double seconds);
+
+    /// Puts a view, which then fills it, into the window that the app has, with that size in points.
+    void showInWindow(UIView&, CGSize);
+    void resizeWindow(CGSize);
+    /// What fills the window: the view right below it.
+    UIView& topmostView() const;
+    /// Lays out all that is in the window, as happens before it is drawn.
+    void layOut();
+
     /// The media server goes away, or comes back.
     void stopMediaServer();
     void startMediaServer();
@@ -66,6 +77,8 @@ public:
     /// Puts bytes, or a property list in the XML format, into the preferences file's place.
     void writePreferencesFile(const std::string& bytes);
     void writePreferencesFile(const PropertyList&);
+    /// Whatever is written to the file from now on fails.
+    void makePreferencesFileUnwritable();
     /// The file's bytes; empty when there is no file.
     std::string preferencesFile() const;
 
@@ -73,6 +86,11 @@ private:
     struct Device;
     std::unique_ptr<Device> _device;
 };
+
+/// Where a view is seen, and in what color (red, green, blue, alpha): on its way there while it is animated.
+CGRect shownFrame(const UIView&);
+std::vector<CGFloat> shownBackground(const UIView&);
+CGFloat shownAlpha(const UIView&);
 
 /// Lets a controller present its sheets, as the app does that shows it.
 void putIntoAnApp(PSListController&);

@@ -8,12 +8,13 @@
 #include "platform/desktop/effects/Effects.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace brimsound {
 
 namespace {
 
-constexpr std::uint64_t longestWaitInMicroseconds = 1'000'000;
+constexpr std::chrono::microseconds longestWait = std::chrono::seconds(1);
 
 struct MessagingCenterPeer : Peer {
     explicit MessagingCenterPeer(const std::string& centerName)
@@ -30,8 +31,12 @@ struct MessagingCenterPeer : Peer {
 int call(const MessagingCenterPeer& center, const std::string& name, const PropertyList::Dictionary& userInfo,
     PropertyList::Dictionary& reply, sd_bus_error& error)
 {
+    using Clock = std::chrono::steady_clock;
+    const auto deadline = Clock::now() + longestWait;
     auto* bus = desktop::SessionBus::shared().connection();
-    if (!bus)
+    // The bus may have been reached only now, which takes of the same time.
+    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(deadline - Clock::now()).count();
+    if (!bus || left <= 0)
         return sd_bus_error_set(&error, SD_BUS_ERROR_NO_SERVER, "There is no session bus.");
 
     sd_bus_message* created = nullptr;
@@ -48,7 +53,7 @@ int call(const MessagingCenterPeer& center, const std::string& name, const Prope
         return sd_bus_error_set_errno(&error, result);
 
     sd_bus_message* received = nullptr;
-    result = sd_bus_call(bus, message.get(), longestWaitInMicroseconds, &error, &received);
+    result = sd_bus_call(bus, message.get(), static_cast<std::uint64_t>(left), &error, &received);
     const desktop::BusMessage answer(received);
     if (result < 0)
         return result;
@@ -87,14 +92,9 @@ PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveRepl
     } else {
         desktop::effects().messageSent(name, userInfo, nullptr);
     }
-    if (const auto& onPending = desktop::SessionBus::shared().onPending)
-        onPending();
     return reply;
 }
 
-void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&)
-{
-    desktop::SessionBus::shared().connection();
-}
+void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&) { }
 
 } // namespace brimsound

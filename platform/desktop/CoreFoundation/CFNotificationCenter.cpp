@@ -41,6 +41,18 @@ private:
     std::vector<Observer> _observers;
 };
 
+namespace {
+
+bool post(sd_bus* bus, const std::string& name)
+{
+    return bus
+        && sd_bus_emit_signal(bus, desktop::notificationsPath, desktop::notificationsInterface,
+               desktop::postedSignal, "s", name.c_str())
+        >= 0;
+}
+
+} // namespace
+
 CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter()
 {
     static CFNotificationCenter center;
@@ -56,14 +68,10 @@ void CFNotificationCenterAddObserver(CFNotificationCenterRef center, void* obser
 void CFNotificationCenterPostNotification(
     CFNotificationCenterRef, const std::string& name, const void*, const PropertyList::Dictionary*, bool)
 {
-    auto* bus = desktop::SessionBus::shared().connection();
-    if (!bus)
-        return;
-    if (sd_bus_emit_signal(bus, desktop::notificationsPath, desktop::notificationsInterface,
-            desktop::postedSignal, "s", name.c_str())
-        < 0)
-        return;
-    if (sd_bus_flush(bus) >= 0)
+    auto& bus = desktop::SessionBus::shared();
+    auto* connection = bus.connection();
+    // The first attempt may be what shows that the connection was lost.
+    if (post(connection, name) || (connection && post(bus.connection(), name)))
         desktop::effects().notificationPosted(name);
 }
 

@@ -24,11 +24,15 @@ public:
 
     int number() const { return _number; }
 
-    bool isRegularFile() const
+    /// The length of a regular file; nothing when it is none.
+    std::optional<std::size_t> length() const
     {
         struct stat status { };
-        return fstat(_number, &status) == 0 && S_ISREG(status.st_mode);
+        if (fstat(_number, &status) != 0 || !S_ISREG(status.st_mode))
+            return std::nullopt;
+        return static_cast<std::size_t>(status.st_size);
     }
+    bool isRegularFile() const { return length().has_value(); }
 
     /// Some file systems report a failed write only now.
     bool close()
@@ -58,10 +62,12 @@ bool writeAll(int file, std::span<const std::byte> bytes)
 std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::path& path, std::size_t limit)
 {
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!file.isRegularFile())
+    const auto length = file.length();
+    if (!length || *length > limit)
         return std::nullopt;
 
     std::vector<std::byte> bytes;
+    bytes.reserve(*length);
     std::byte block[16 * 1024];
     for (;;) {
         const auto count = read(file.number(), block, sizeof block);

@@ -10,12 +10,35 @@ namespace brimsound::desktop {
 
 namespace {
 
+// What values take from the heap in bytes, as measured, while they are read and the parser's nodes still
+// stand beside them, or while they are written.
+/// Any value by itself.
+constexpr std::size_t valueSize = 144;
+/// An array or dictionary besides.
+constexpr std::size_t containerSize = 128;
+/// A string or data, besides its bytes.
+constexpr std::size_t bytesSize = 64;
+/// A key in a dictionary, besides its bytes: two such, as the dictionary keeps an index.
+constexpr std::size_t keySize = 2 * (valueSize + bytesSize);
+
+/// How much the values of a file of that length may take, `times` being how often its length. What is left of
+/// twenty times is for its own bytes and, in markup, for those of its texts. Writing more values than the
+/// second number lets in would be slow.
+std::size_t largestSize(std::size_t length, std::size_t times)
+{
+    constexpr std::size_t mebibyte = std::size_t { 1 } << 20;
+    return std::min(16 * mebibyte + times * length, 32 * mebibyte);
+}
+constexpr std::size_t timesOfObjects = 16;
+constexpr std::size_t timesOfMarkup = 8;
+
 /// The objects of a binary property list. An object may be referred to many times; parsed, each reference
 /// becomes a copy.
 class ObjectGraph {
 public:
     explicit ObjectGraph(std::span<const std::byte> contents)
         : _contents(contents)
+        , _largestSize(largestSize(contents.size(), timesOfObjects))
     {
     }
 
@@ -30,7 +53,8 @@ public:
         const auto count = number(trailer + 8, 8);
         const auto root = number(trailer + 16, 8);
         _offsetTable = number(trailer + 24, 8).value_or(0);
-        if (!count || !root || *count > _contents.size())
+        // An object takes a byte at least, and so does its place in the table.
+        if (!count || !root || *count > _contents.size() / 2)
             return false;
         _measures.resize(*count);
         return measure(*root, 0).has_value();
@@ -92,30 +116,61 @@ private:
 
     std::optional<Measure> measureContents(std::size_t index, std::size_t depth)
     {
-        // About what one parsed object takes in memory.
-        constexpr std::size_t objectSize = 64;
         const auto object = head(index);
         if (!object || object->count > _contents.size())
             return std::nullopt;
 
+        const bool isDictionary = object->kind == 0xd;
         const bool isContainer = object->kind >= 0xa;
-        Measure all { 0, objectSize + (isContainer ? 0 : object->count) };
+        Measure all { 0, valueSize + (isContainer ? containerSize : sizeOfBytes(*object)) };
         // A dictionary's keys are followed by as many values.
-        const auto references = isContainer ? object->count * (object->kind == 0xd ? 2 : 1) : 0;
+        const auto references = isContainer ? object->count * (isDictionary ? 2 : 1) : 0;
         for (std::size_t i = 0; i < references; ++i) {
             const auto reference = number(object->contents + i * _referenceSize, _referenceSize);
             const auto member = reference ? measure(*reference, depth + 1) : std::nullopt;
             if (!member)
                 return std::nullopt;
             all.height = std::max(all.height, member->height + 1);
-            all.size += member->size;
-            if (all.size > largestPropertyList)
+            const bool isKey = isDictionary && i < object->count;
+            if (isKey && holdsNul(*reference))
+                return std::nullopt;
+            all.size += (isKey ? 2 : 1) * member->size;
+            if (all.size > _largestSize)
                 return std::nullopt;
         }
         return all;
     }
 
+    /// Whether the object is a string with a NUL in it, which as a key would end the process.
+    bool holdsNul(std::size_t index) const
+    {
+        const auto object = head(index);
+        const std::size_t unitSize = object && object->kind == 0x6 ? 2 : 1;
+        for (std::size_t i = 0; object && i < object->count; ++i) {
+            if (number(object->contents + i * unitSize, unitSize) == 0)
+                return true;
+        }
+        return false;
+    }
+
+    /// Counted twice, in the parser and in the value: data as it is, text in UTF-8, in which a unit takes
+    /// three bytes at most, and so does the character in place of a byte that is no text.
+    static std::size_t sizeOfBytes(const Head& object)
+    {
+        switch (object.kind) {
+        case 0x4:
+            return bytesSize + 2 * object.count;
+        case 0x5:
+            return bytesSize + 4 * object.count;
+        case 0x6:
+            return bytesSize + 6 * object.count;
+        default:
+            return 0;
+        }
+    }
+
     std::span<const std::byte> _contents;
+    std::size_t _largestSize;
     std::size_t _offsetSize = 0;
     std::size_t _referenceSize = 0;
     std::size_t _offsetTable = 0;
@@ -131,17 +186,40 @@ bool isSelfClosing(std::string_view afterName)
     return afterName.starts_with("/>");
 }
 
+/// The parser moves the rest of a text for each entity in it. This many bytes are moved in less than a
+/// second.
+constexpr std::size_t mostBytesMoved = std::size_t { 1 } << 34;
+
+/// What the value takes that the tag starts. In doubt, a string.
+std::size_t sizeOfTag(std::string_view tag)
+{
+    if (tag.starts_with('/'))
+        return 0;
+    if (tag.starts_with("key"))
+        return keySize;
+    const bool isContainer = tag.starts_with("array") || tag.starts_with("dict");
+    return valueSize + (isContainer ? containerSize : bytesSize);
+}
+
 bool isMarkupWithinBounds(std::string_view text)
 {
+    const auto largest = largestSize(text.size(), timesOfMarkup);
     std::size_t depth = 0;
-    for (auto tag = text.find('<'); tag != std::string_view::npos; tag = text.find('<', tag + 1)) {
-        const auto rest = text.substr(tag + 1);
+    std::size_t size = 0;
+    std::size_t bytesMoved = 0;
+    for (auto tag = text.find('<'); tag != std::string_view::npos;) {
+        const auto next = text.find('<', tag + 1);
+        const auto rest = text.substr(tag + 1, next - tag - 1);
+        tag = next;
+
         const std::size_t nameLength = rest.starts_with("array") ? 5 : rest.starts_with("dict") ? 4 : 0;
         if (nameLength > 0)
             depth += isSelfClosing(rest.substr(nameLength)) ? 0 : 1;
         else if (depth > 0 && (rest.starts_with("/array") || rest.starts_with("/dict")))
             --depth;
-        if (depth > deepestPropertyList)
+        size += sizeOfTag(rest);
+        bytesMoved += rest.size() * static_cast<std::size_t>(std::ranges::count(rest, '&'));
+        if (depth > deepestPropertyList || size > largest || bytesMoved > mostBytesMoved)
             return false;
     }
     return true;
@@ -151,6 +229,8 @@ bool isMarkupWithinBounds(std::string_view text)
 
 bool isWithinBounds(std::span<const std::byte> contents)
 {
+    if (contents.size() > longestPropertyListFile)
+        return false;
     const std::string_view text(reinterpret_cast<const char*>(contents.data()), contents.size());
     return text.starts_with("bplist") ? ObjectGraph(contents).isWithinBounds() : isMarkupWithinBounds(text);
 }

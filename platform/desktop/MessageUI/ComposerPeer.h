@@ -17,8 +17,8 @@ struct ComposerPeer : ViewControllerPeer {
 
     void send();
     void cancel();
-    /// Escape cancels. Nothing sends but the button, so that no stray key does.
-    void keyPressed(Key) override;
+    /// Nothing sends but the button, so that no stray key does.
+    void escape() override { cancel(); }
 
 private:
     void finish(MFMailComposeResult, const NSError*);

@@ -41,12 +41,6 @@ void ComposerPeer::cancel()
     finish(MFMailComposeResult::Cancelled, nullptr);
 }
 
-void ComposerPeer::keyPressed(Key key)
-{
-    if (key == Key::Escape)
-        cancel();
-}
-
 void ComposerPeer::finish(MFMailComposeResult result, const NSError* error)
 {
     // The sheet can still be pressed while it fades.

@@ -192,8 +192,10 @@ std::string PSListController::tableViewTitleForFooterInSection(UITableView&, std
     return group ? stringProperty(*group, "footerText") : std::string();
 }
 
-void PSListController::tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath& indexPath)
+void PSListController::tableViewDidSelectRowAtIndexPath(UITableView& table, const NSIndexPath& indexPath)
 {
+    if (auto* cell = table.cellForRowAtIndexPath(indexPath))
+        cell->setSelected(false, Animated::Yes);
     auto& specifier = *sectionsOf(specifiers())[indexPath.section].rows[indexPath.row];
     const auto* action = specifier.target().methodForSelector(stringProperty(specifier, "action"));
     const Argument argument = static_cast<NSObject*>(&specifier);

@@ -35,7 +35,9 @@ public:
     QAccessibleInterface* childAt(int x, int y) const override { return interfaceAt(children(), { x, y }); }
     QAccessibleInterface* focusChild() const override
     {
-        return widget()->hasFocus() ? focusedAmong(children()) : QAccessibleWidget::focusChild();
+        if (auto* focused = focusedAmong(children()); focused && widget()->hasFocus())
+            return focused;
+        return QAccessibleWidget::focusChild();
     }
 
 private:
@@ -140,9 +142,14 @@ void Accessibility::changed(UIView& view, AccessibleChange what)
         send(QAccessibleValueChangeEvent(
             interfaceOf(view), interfaceOf(view)->valueInterface()->currentValue()));
         break;
+    case AccessibleChange::TextChanged:
+        send(QAccessibleValueChangeEvent(interfaceOf(view), interfaceOf(view)->text(QAccessible::Value)));
+        break;
     case AccessibleChange::StateChanged: {
         QAccessible::State changedState;
-        changedState.checked = true;
+        const bool isSwitch = peerOf(view).accessible().role == AccessibleRole::Switch;
+        changedState.checked = isSwitch;
+        changedState.selected = !isSwitch;
         send(QAccessibleStateChangeEvent(interfaceOf(view), changedState));
         break;
     }
@@ -156,7 +163,9 @@ void Accessibility::changed(UIView& view, AccessibleChange what)
         send({ interfaceOf(view), QAccessible::Alert });
         break;
     case AccessibleChange::FocusMoved:
-        send({ interfaceOf(view), QAccessible::Focus });
+        // An editor that lies over the view tells for itself.
+        if (peerOf(view).accessible().role != AccessibleRole::None)
+            send({ interfaceOf(view), QAccessible::Focus });
         break;
     }
 }

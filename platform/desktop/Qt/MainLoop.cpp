@@ -5,6 +5,7 @@
 
 #include <QEventLoop>
 
+#include <algorithm>
 #include <chrono>
 
 namespace brimsound::desktop {
@@ -12,6 +13,8 @@ namespace brimsound::desktop {
 namespace {
 
 constexpr std::chrono::milliseconds frame { 16 };
+constexpr std::chrono::milliseconds firstLook { 250 };
+constexpr std::chrono::milliseconds longestPause { 8000 };
 
 std::chrono::milliseconds milliseconds(double seconds)
 {
@@ -33,6 +36,8 @@ MainLoop::MainLoop(Time time)
     Clock::shared().realTime = [this] { return static_cast<double>(_elapsed.nsecsElapsed()) * 1e-9; };
     Clock::shared().onChange = [this] { scheduleTick(); };
 
+    _busTimer.setSingleShot(true);
+    QObject::connect(&_busTimer, &QTimer::timeout, &_busTimer, [this] { lookForBus(); });
     auto& bus = SessionBus::shared();
     bus.onPending = [this] { QTimer::singleShot(0, &_timer, [] { SessionBus::shared().process(); }); };
     bus.onReconnect = [this] { watchBus(); };
@@ -64,13 +69,25 @@ void MainLoop::wait(double seconds)
 
 void MainLoop::watchBus()
 {
-    _busNotifier.reset();
-    const int descriptor = SessionBus::shared().fd();
-    if (descriptor < 0)
-        return;
-    _busNotifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    QObject::connect(
-        _busNotifier.get(), &QSocketNotifier::activated, &_timer, [] { SessionBus::shared().process(); });
+    _busNotifiers.clear();
+    for (const int descriptor : SessionBus::shared().descriptors()) {
+        if (descriptor < 0) {
+            _busTimer.start(firstLook);
+            return;
+        }
+        auto* notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read);
+        _busNotifiers.emplace_back(notifier);
+        QObject::connect(
+            notifier, &QSocketNotifier::activated, &_timer, [] { SessionBus::shared().process(); });
+    }
+    _busTimer.stop();
+}
+
+void MainLoop::lookForBus()
+{
+    // Watched from then on when it is there.
+    if (!SessionBus::shared().connection())
+        _busTimer.start(std::min(2 * _busTimer.intervalAsDuration(), longestPause));
 }
 
 void MainLoop::tick()

@@ -1,12 +1,14 @@
 #include "platform/desktop/Qt/PaneWidget.h"
 
 #include "platform/desktop/Qt/QtCanvas.h"
+#include "platform/desktop/UIKit/Screen.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
@@ -50,9 +52,28 @@ std::optional<Key> keyOf(const QKeyEvent& event)
         return Key::Left;
     case Qt::Key_Right:
         return Key::Right;
+    case Qt::Key_Up:
+        return Key::Up;
+    case Qt::Key_Down:
+        return Key::Down;
+    case Qt::Key_PageUp:
+        return Key::PageUp;
+    case Qt::Key_PageDown:
+        return Key::PageDown;
+    case Qt::Key_Home:
+        return Key::Home;
+    case Qt::Key_End:
+        return Key::End;
+    case Qt::Key_Delete:
+        return Key::Delete;
     default:
         return std::nullopt;
     }
+}
+
+bool isText(const QString& text)
+{
+    return !text.isEmpty() && text.front().isPrint();
 }
 
 } // namespace
@@ -66,11 +87,14 @@ PaneWidget::PaneWidget(Window& window)
     const auto size = window.bounds().size;
     resize(QSizeF(size.width, size.height).toSize());
     _window.onInvalidate = [this](const CGRect& part) { repaintPart(part); };
+    // Later, as it may be told from within the painting or from within the editor.
+    _window.onFocusMoved = [this] { QTimer::singleShot(0, this, [this] { lendEditor(); }); };
 }
 
 PaneWidget::~PaneWidget()
 {
     _window.onInvalidate = nullptr;
+    _window.onFocusMoved = nullptr;
 }
 
 void PaneWidget::repaintPart(const CGRect& part)
@@ -80,11 +104,20 @@ void PaneWidget::repaintPart(const CGRect& part)
 
 void PaneWidget::paintEvent(QPaintEvent* event)
 {
+    // Everything is painted again whenever the window comes to a screen of another scale.
+    setScreenScale(devicePixelRatioF());
     _window.layOut();
+    if (_editor) {
+        _editor->follow();
+        _editor->setFieldDraws(!_editor->isDrawing());
+    }
     QPainter painter(this);
     painter.setClipRect(event->rect());
     QtCanvas canvas(painter, devicePixelRatioF());
     drawTree(_window, canvas);
+    // A picture of the window shows no editor.
+    if (_editor)
+        _editor->setFieldDraws(true);
 }
 
 void PaneWidget::resizeEvent(QResizeEvent* event)
@@ -161,9 +194,47 @@ void PaneWidget::wheelEvent(QWheelEvent* event)
 
 void PaneWidget::keyPressEvent(QKeyEvent* event)
 {
+    // What comes before the editor is there.
+    if (!_editor && isText(event->text()) && _window.typeText(event->text().toStdString()))
+        return;
     const auto key = keyOf(*event);
-    if (!key || !_window.keyPressed(*key))
+    const auto stroke = event->isAutoRepeat() ? KeyStroke::Repeated : KeyStroke::First;
+    if (!key || !_window.keyPressed(*key, stroke))
         QWidget::keyPressEvent(event);
+}
+
+void PaneWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    // A key that is held is said to be released before each repetition.
+    const auto key = keyOf(*event);
+    if (key && !event->isAutoRepeat())
+        _window.keyReleased(*key);
+}
+
+void PaneWidget::focusOutEvent(QFocusEvent* event)
+{
+    _window.releaseKeys();
+    QWidget::focusOutEvent(event);
+}
+
+void PaneWidget::lendEditor()
+{
+    auto* field = dynamic_cast<UITextField*>(_window.focus().view());
+    if (_editor && &_editor->field() == field)
+        return;
+    if (_editor) {
+        const bool hadFocus = _editor->hasFocus();
+        setFocusProxy(nullptr);
+        _editor.reset();
+        if (hadFocus)
+            setFocus();
+    }
+    if (field) {
+        _editor = std::make_unique<FieldEditor>(*this, *field);
+        _editor->show();
+        setFocusProxy(_editor.get());
+        _editor->setFocus();
+    }
 }
 
 bool PaneWidget::focusNextPrevChild(bool)

@@ -2,14 +2,18 @@
 #pragma once
 
 #include "platform/desktop/Qt/Accessibility.h"
+#include "platform/desktop/Qt/FieldEditor.h"
 #include "platform/desktop/UIKit/Window.h"
 
 #include <QTouchEvent>
 #include <QWidget>
 
+#include <memory>
+
 namespace brimsound::desktop {
 
-/// Paints a window's views and hands it what mouse, finger and wheel do. The window outlives the widget.
+/// Paints a window's views and hands it what mouse, finger, wheel and keys do. The window outlives the
+/// widget.
 class PaneWidget : public QWidget {
 public:
     explicit PaneWidget(Window&);
@@ -26,14 +30,19 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void keyReleaseEvent(QKeyEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
     void touchEvent(const QTouchEvent&);
     void repaintPart(const CGRect&);
+    /// Lays an editor over the text field that has the keyboard, and takes it away from another.
+    void lendEditor();
 
     Window& _window;
     Accessibility _accessibility { *this, _window };
+    std::unique_ptr<FieldEditor> _editor;
     /// The finger or the mouse that holds the touch; the others are ignored.
     int _finger = -1;
     bool _mouse = false;

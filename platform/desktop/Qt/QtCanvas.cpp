@@ -1,6 +1,7 @@
 #include "platform/desktop/Qt/QtCanvas.h"
 
 #include "platform/desktop/Qt/Fonts.h"
+#include "platform/desktop/Qt/Raster.h"
 
 #include <QFontMetricsF>
 #include <QPainterPath>
@@ -17,10 +18,10 @@ QRectF qRect(const CGRect& rect)
     return { rect.origin.x, rect.origin.y, rect.size.width, rect.size.height };
 }
 
-QColor qColor(const Color& color)
+/// Between 0 and 1; 0 for what is no number.
+float shownComponent(double component)
 {
-    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-        static_cast<float>(color.blue), static_cast<float>(color.alpha));
+    return component > 0 ? static_cast<float>(std::min(component, 1.0)) : 0.0f;
 }
 
 Qt::Alignment qAlignment(NSTextAlignment alignment)
@@ -36,7 +37,18 @@ Qt::Alignment qAlignment(NSTextAlignment alignment)
     return Qt::AlignLeft;
 }
 
+double fittingRadius(double radius, const CGRect& rect)
+{
+    return std::min({ radius, rect.size.width / 2, rect.size.height / 2 });
+}
+
 } // namespace
+
+QColor qColor(const Color& color)
+{
+    return QColor::fromRgbF(shownComponent(color.red), shownComponent(color.green),
+        shownComponent(color.blue), shownComponent(color.alpha));
+}
 
 QtCanvas::QtCanvas(QPainter& painter, double scale)
     : _base(painter)
@@ -118,15 +130,30 @@ void QtCanvas::fillRect(const CGRect& rect, const Color& color)
     painter().fillRect(qRect(rect), qColor(color));
 }
 
+void QtCanvas::fillPixels(const CGRect& rect, const Color& color)
+{
+    painter().setRenderHint(QPainter::Antialiasing, false);
+    fillRect(rect, color);
+    painter().setRenderHint(QPainter::Antialiasing);
+}
+
 void QtCanvas::fillRoundedRect(const CGRect& rect, double radius, const Color& color)
 {
     if (radius <= 0) {
         fillRect(rect, color);
         return;
     }
-    const double fitting = std::min({ radius, rect.size.width / 2, rect.size.height / 2 });
+    const double fitting = fittingRadius(radius, rect);
     painter().setPen(Qt::NoPen);
     painter().setBrush(qColor(color));
+    painter().drawRoundedRect(qRect(rect), fitting, fitting);
+}
+
+void QtCanvas::strokeRoundedRect(const CGRect& rect, double radius, double width, const Color& color)
+{
+    const double fitting = fittingRadius(radius, rect);
+    painter().setPen(QPen(qColor(color), width));
+    painter().setBrush(Qt::NoBrush);
     painter().drawRoundedRect(qRect(rect), fitting, fitting);
 }
 
@@ -144,6 +171,11 @@ void QtCanvas::strokeLine(const std::vector<CGPoint>& points, double width, cons
         line << QPointF(point.x, point.y);
     painter().setPen(QPen(qColor(color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter().drawPolyline(line);
+}
+
+void QtCanvas::drawBitmap(const Bitmap& bitmap, const CGRect& rect)
+{
+    painter().drawImage(qRect(rect), qImage(bitmap));
 }
 
 void QtCanvas::drawLine(const std::string& text, const CGRect& rect, const UIFont& font, const Color& color,

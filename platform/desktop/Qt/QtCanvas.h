@@ -3,6 +3,7 @@
 
 #include "platform/desktop/UIKit/Canvas.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 
@@ -10,6 +11,9 @@
 #include <vector>
 
 namespace brimsound::desktop {
+
+/// The same colour; components outside of their range are brought into it.
+QColor qColor(const Color&);
 
 class QtCanvas : public Canvas {
 public:
@@ -25,9 +29,12 @@ public:
     void beginGroup(const CGRect&, double alpha, double cornerRadius) override;
     void endGroup() override;
     void fillRect(const CGRect&, const Color&) override;
+    void fillPixels(const CGRect&, const Color&) override;
     void fillRoundedRect(const CGRect&, double radius, const Color&) override;
+    void strokeRoundedRect(const CGRect&, double radius, double width, const Color&) override;
     void fillEllipse(const CGRect&, const Color&) override;
     void strokeLine(const std::vector<CGPoint>&, double width, const Color&) override;
+    void drawBitmap(const Bitmap&, const CGRect&) override;
     void drawLine(
         const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment) override;
     void drawParagraph(

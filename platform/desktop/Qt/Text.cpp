@@ -10,6 +10,11 @@
 
 namespace brimsound::desktop {
 
+double widthOfLine(const std::string& text, const UIFont& font)
+{
+    return QFontMetricsF(qFont(font)).horizontalAdvance(QString::fromStdString(text));
+}
+
 double heightOfParagraph(const std::string& text, const UIFont& font, double width)
 {
     const QFontMetricsF metrics(qFont(font));

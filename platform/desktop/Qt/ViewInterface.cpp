@@ -11,6 +11,9 @@ namespace brimsound::desktop {
 
 namespace {
 
+/// Qt has no name of its own for it.
+const auto deleteAction = QStringLiteral("Delete");
+
 QAccessible::Role qtRole(AccessibleRole role)
 {
     switch (role) {
@@ -19,6 +22,10 @@ QAccessible::Role qtRole(AccessibleRole role)
     case AccessibleRole::Table:
         // A list of unlike things; a table to Qt is a grid of cells.
         return QAccessible::Grouping;
+    case AccessibleRole::List:
+        return QAccessible::List;
+    case AccessibleRole::Row:
+        return QAccessible::ListItem;
     case AccessibleRole::Label:
         return QAccessible::StaticText;
     case AccessibleRole::Slider:
@@ -27,12 +34,35 @@ QAccessible::Role qtRole(AccessibleRole role)
         return QAccessible::CheckBox;
     case AccessibleRole::Button:
         return QAccessible::Button;
+    case AccessibleRole::TextField:
+        return QAccessible::EditableText;
     case AccessibleRole::Alert:
         return QAccessible::AlertMessage;
     case AccessibleRole::Dialog:
         return QAccessible::Dialog;
     }
     return QAccessible::NoRole;
+}
+
+/// What can be done with a view besides giving it the keyboard.
+QStringList actionsOf(const Accessible& self)
+{
+    switch (self.role) {
+    case AccessibleRole::Button:
+    case AccessibleRole::Row:
+        return self.deletable ? QStringList { QAccessibleActionInterface::pressAction(), deleteAction }
+                              : QStringList { QAccessibleActionInterface::pressAction() };
+    case AccessibleRole::Switch:
+        return { QAccessibleActionInterface::toggleAction() };
+    case AccessibleRole::Slider:
+        return { QAccessibleActionInterface::increaseAction(), QAccessibleActionInterface::decreaseAction() };
+    case AccessibleRole::Table:
+    case AccessibleRole::List:
+        return { QAccessibleActionInterface::nextPageAction(),
+            QAccessibleActionInterface::previousPageAction() };
+    default:
+        return {};
+    }
 }
 
 } // namespace
@@ -161,10 +191,13 @@ QAccessible::State ViewInterface::state() const
     const auto self = accessible();
     state.checkable = self.role == AccessibleRole::Switch;
     state.checked = self.checked;
+    state.editable = self.role == AccessibleRole::TextField;
+    state.selectable = self.role == AccessibleRole::Row;
+    state.selected = self.selected;
     const bool reachable = isReachable(_view);
     state.invisible = !reachable;
     state.focusable = reachable && self.focusable;
-    state.focused = reachable && self.focused;
+    state.focused = _accessibility.window().focus().part() == &_view;
     state.modal = self.role == AccessibleRole::Alert || self.role == AccessibleRole::Dialog;
     const auto bounds = _view.bounds();
     const CGRect place { convertToWindow(bounds.origin, _view), bounds.size };
@@ -215,18 +248,9 @@ QVariant ViewInterface::minimumStepSize() const
 
 QStringList ViewInterface::actionNames() const
 {
-    switch (accessible().role) {
-    case AccessibleRole::Button:
-        return { pressAction() };
-    case AccessibleRole::Switch:
-        return { toggleAction() };
-    case AccessibleRole::Slider:
-        return { increaseAction(), decreaseAction() };
-    case AccessibleRole::Table:
-        return { nextPageAction(), previousPageAction() };
-    default:
-        return {};
-    }
+    const auto self = accessible();
+    const auto names = actionsOf(self);
+    return self.focusable ? names + QStringList { setFocusAction() } : names;
 }
 
 void ViewInterface::doAction(const QString& name)
@@ -235,10 +259,14 @@ void ViewInterface::doAction(const QString& name)
     if (!actionNames().contains(name))
         return;
     const auto self = accessible();
-    if (self.range)
+    if (name == setFocusAction())
+        _accessibility.window().focus().moveTo(_view);
+    else if (self.range)
         setCurrentValue(
             self.range->value + (name == increaseAction() ? self.range->step : -self.range->step));
-    else if (self.role == AccessibleRole::Table)
+    else if (name == deleteAction)
+        deleteRow(static_cast<UITableViewCell&>(_view));
+    else if (self.role == AccessibleRole::Table || self.role == AccessibleRole::List)
         scrollPages(_view, name == nextPageAction() ? 1 : -1);
     else
         press(_view);

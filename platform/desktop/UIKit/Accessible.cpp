@@ -1,5 +1,6 @@
 #include "platform/desktop/UIKit/Accessible.h"
 
+#include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UISlider.h"
 #include "platform/UIKit/UISwitch.h"
@@ -22,9 +23,12 @@ bool isLeaf(AccessibleRole role)
     case AccessibleRole::Slider:
     case AccessibleRole::Switch:
     case AccessibleRole::Button:
+    case AccessibleRole::Row:
+    case AccessibleRole::TextField:
         return true;
     case AccessibleRole::None:
     case AccessibleRole::Table:
+    case AccessibleRole::List:
     case AccessibleRole::Alert:
     case AccessibleRole::Dialog:
         return false;
@@ -32,18 +36,15 @@ bool isLeaf(AccessibleRole role)
     return false;
 }
 
-/// Whether the view shows among its siblings.
+/// Whether the view shows among its siblings and none of them covers it.
 bool isShown(const UIView& view)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.ignoresTouches())
+    if (peer.hidden || peer.alpha < faintest || peer.ignoresTouches())
         return false;
-    // An overlay is there from the start of its fading in.
-    if (const auto* window = dynamic_cast<const Window*>(peer.superview)) {
-        if (const auto* overlay = window->frontOverlay())
-            return overlay == &view;
-    }
-    return peer.alpha >= faintest;
+    const auto& siblings = view.superview()->subviews();
+    const auto self = std::ranges::find(siblings, &view, &RetainPtr<UIView>::get);
+    return std::none_of(self + 1, siblings.end(), [](const auto& front) { return coversSuperview(*front); });
 }
 
 void addAccessible(UIView& view, std::vector<UIView*>& found)
@@ -79,10 +80,7 @@ const UITableViewCell* rowOf(const UIView& view)
 
 void accessibleChanged(UIView& view, AccessibleChange change)
 {
-    auto* ancestor = &view;
-    while (auto* superview = ancestor->superview())
-        ancestor = superview;
-    const auto* window = dynamic_cast<const Window*>(ancestor);
+    const auto* window = windowOf(view);
     if (window && window->onAccessibleChange)
         window->onAccessibleChange(view, change);
 }
@@ -134,6 +132,21 @@ std::string captionOf(const UISlider& slider)
         }
     }
     return {};
+}
+
+std::string captionOf(const UIButton& button)
+{
+    std::string caption;
+    if (const auto* superview = button.superview()) {
+        for (const auto& sibling : superview->subviews()) {
+            if (sibling == &button)
+                break;
+            const auto* label = dynamic_cast<const UILabel*>(sibling.get());
+            if (label && !label->isHidden() && intersects(label->frame(), button.frame()))
+                caption = label->text();
+        }
+    }
+    return caption;
 }
 
 std::string rowTextOf(const UIView& view)

@@ -7,6 +7,7 @@
 #include <vector>
 
 namespace brimsound {
+class UIButton;
 class UISlider;
 class UIView;
 }
@@ -16,11 +17,16 @@ namespace brimsound::desktop {
 enum class AccessibleRole : std::uint8_t {
     /// The view means nothing by itself: what is in it counts.
     None,
+    /// Rows of various kinds in groups.
     Table,
+    /// Rows of one kind.
+    List,
+    Row,
     Label,
     Slider,
     Switch,
     Button,
+    TextField,
     Alert,
     Dialog,
 };
@@ -42,12 +48,15 @@ struct Accessible {
     std::string value {};
     std::optional<AccessibleRange> range {};
     bool checked = false;
+    bool selected = false;
+    /// Whether the user may delete it: a row.
+    bool deletable = false;
     bool focusable = false;
-    bool focused = false;
 };
 
 enum class AccessibleChange : std::uint8_t {
     ValueChanged,
+    TextChanged,
     StateChanged,
     /// The view was put into the window.
     Shown,
@@ -61,17 +70,20 @@ enum class AccessibleChange : std::uint8_t {
 void accessibleChanged(UIView&, AccessibleChange);
 
 /// The outermost views in the view that mean something, as they are read: from top to bottom, from left to
-/// right. What is hidden is left out, and so is all that an overlay covers.
+/// right. What is hidden is left out, and so is all that lies below a view that covers its superview.
 std::vector<UIView*> accessibleChildren(const UIView&);
 
 /// The nearest view around the view that means something; null when there is none.
 UIView* accessibleParent(const UIView&);
 
-/// Whether the user can get at the view: it is in the window, not hidden and not covered by an overlay.
+/// Whether the user can get at the view: it is in the window, not hidden and not covered.
 bool isReachable(const UIView&);
 
 /// The label at the left of a slider names it: one in the same strip of the same superview.
 std::string captionOf(const UISlider&);
+
+/// What a button lies over names it: the frontmost label below it in the same superview.
+std::string captionOf(const UIButton&);
 
 /// The text of the table row that the view is in; empty outside of rows.
 std::string rowTextOf(const UIView&);

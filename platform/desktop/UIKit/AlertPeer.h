@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/UIKit/UIAlertView.h"
-#include "platform/desktop/UIKit/Key.h"
 #include "platform/desktop/UIKit/TextButton.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
 
@@ -23,9 +22,8 @@ struct AlertPeer : ViewPeer {
 
     void draw(Canvas&) const override;
     Accessible accessible() const override;
-    /// Return and Space press the button that has the keyboard: the cancel button until Tab or an arrow
-    /// handed it on. Escape presses the cancel button.
-    void keyPressed(Key);
+    /// It has the keyboard at first, and is what Escape presses.
+    TextButton& cancelButton() const { return *buttons.front(); }
 
     UIAlertView& alert() const { return static_cast<UIAlertView&>(*view); }
     /// Takes the alert away, then tells the delegate.

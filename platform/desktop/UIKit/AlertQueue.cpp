@@ -1,6 +1,7 @@
 #include "platform/desktop/UIKit/AlertQueue.h"
 
 #include "platform/desktop/UIKit/AlertPeer.h"
+#include "platform/desktop/UIKit/Window.h"
 #include "platform/desktop/effects/Effects.h"
 
 #include <cmath>
@@ -29,7 +30,7 @@ public:
             std::round((height - size.height) / 2), size.width, size.height));
     }
 
-    void keyPressed(Key key) override { peerOf(_alert).keyPressed(key); }
+    void escape() override { peerOf(_alert).cancelButton().press(); }
 
 private:
     UIAlertView& _alert;
@@ -82,6 +83,8 @@ void AlertQueue::showNext()
     _overlay = make<AlertOverlay>(*_current);
     _overlay->appearIn(_window, Animated::Yes);
     accessibleChanged(*_current, AccessibleChange::AlertShown);
+    if (auto* window = windowOf(_window))
+        window->focus().giveTo(peerOf(*_current).cancelButton());
     effects().alertShown(peerOf(*_current).message, buttonTitlesOf(*_current));
 }
 

@@ -4,6 +4,7 @@
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UILabel.h"
+#include "platform/desktop/CoreGraphics/Bitmap.h"
 #include "platform/desktop/UIKit/Color.h"
 
 #include <string>
@@ -31,10 +32,18 @@ public:
     virtual void endGroup() = 0;
 
     virtual void fillRect(const CGRect&, const Color&) = 0;
+    /// Fills the device pixels whose centres are in the rectangle: rectangles that touch leave no seam
+    /// between them.
+    virtual void fillPixels(const CGRect&, const Color&) = 0;
     virtual void fillRoundedRect(const CGRect&, double radius, const Color&) = 0;
+    /// A line around the rectangle, half of it outside.
+    virtual void strokeRoundedRect(const CGRect&, double radius, double width, const Color&) = 0;
     virtual void fillEllipse(const CGRect&, const Color&) = 0;
     /// A line through the points, with round ends and joins.
     virtual void strokeLine(const std::vector<CGPoint>&, double width, const Color&) = 0;
+
+    /// Stretches the bitmap over the rectangle, smoothly.
+    virtual void drawBitmap(const Bitmap&, const CGRect&) = 0;
 
     /// One line of text, centred vertically, cut off with an ellipsis where it is too long.
     virtual void drawLine(

@@ -12,6 +12,19 @@ enum class Key {
     Escape,
     Left,
     Right,
+    Up,
+    Down,
+    PageUp,
+    PageDown,
+    Home,
+    End,
+    Delete,
 };
+
+/// A key that is held down strikes again and again.
+enum class KeyStroke { First, Repeated };
+
+/// Where the keyboard moves on to, in the order in which the views are read.
+enum class Direction { Previous, Next };
 
 } // namespace brimsound::desktop

@@ -1,9 +1,8 @@
 // What lies over a whole window for a while.
 #pragma once
 
-#include "platform/UIKit/UISwitch.h"
+#include "platform/UIKit/Animated.h"
 #include "platform/UIKit/UIView.h"
-#include "platform/desktop/UIKit/Key.h"
 
 namespace brimsound::desktop {
 
@@ -18,8 +17,8 @@ public:
     /// Takes no touches from now on, and leaves the window when it has faded.
     void disappear(Animated);
 
-    /// A key was pressed while this is the frontmost overlay.
-    virtual void keyPressed(Key) { }
+    /// Escape was pressed while this is in front.
+    virtual void escape() { }
 
 private:
     void fade(double from, double to);

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/UIKit/ScrollPeer.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/TablePeer.h"
 #include "platform/desktop/UIKit/Window.h"
 
 #include <algorithm>
@@ -10,30 +11,12 @@ namespace brimsound::desktop {
 
 namespace {
 
-Window* windowOf(UIView& view)
-{
-    auto* ancestor = &view;
-    while (auto* superview = ancestor->superview())
-        ancestor = superview;
-    return dynamic_cast<Window*>(ancestor);
-}
-
-CGRect rectIn(const UIView& ancestor, const UIView& view)
-{
-    const auto bounds = view.bounds();
-    return { convertFromWindow(convertToWindow(bounds.origin, view), ancestor), bounds.size };
-}
+/// How far from the edges of a view it is touched beside what lies over it, in points.
+constexpr double edge = 1;
 
 CGPoint middleOf(const CGRect& rect)
 {
     return { rect.origin.x + rect.size.width / 2, rect.origin.y + rect.size.height / 2 };
-}
-
-bool isWithin(const UIView* view, const UIView& ancestor)
-{
-    while (view && view != &ancestor)
-        view = view->superview();
-    return view != nullptr;
 }
 
 /// The window of the view, when a touch at the point, given in the view's own coordinates, reaches it.
@@ -43,10 +26,25 @@ RetainPtr<Window> windowToTouch(UIView& view, CGPoint point)
     if (!window || window->isTouched())
         return nullptr;
     window->layOut();
-    if (auto* scrollView = enclosingScrollView(view))
-        scrollPeerOf(*scrollView).scrollIntoView(rectIn(*scrollView, view));
-    window->layOut();
+    scrollIntoView(view);
     return isWithin(hitTest(*window, convertToWindow(point, view)), view) ? retain(window) : nullptr;
+}
+
+CGPoint thumbOf(const UISlider& slider, double value)
+{
+    return peerOf(slider).thumbCentre(value);
+}
+
+/// Down and up.
+bool touch(UIView& view, CGPoint point)
+{
+    const auto window = windowToTouch(view, point);
+    if (!window)
+        return false;
+    const auto at = convertToWindow(point, view);
+    window->touchDown({ at, Pointer::Keyboard });
+    window->touchUp(at);
+    return true;
 }
 
 } // namespace
@@ -55,30 +53,66 @@ bool press(UIView& view)
 {
     // What is pressed may take the view and the window away.
     const auto kept = retain(&view);
-    const auto window = windowToTouch(view, middleOf(view.bounds()));
+    scrollIntoView(view);
+    return touch(view, middleOf(partWithin(view, nullptr)));
+}
+
+bool pressBeside(UIView& view)
+{
+    const auto kept = retain(&view);
+    const auto [width, height] = view.bounds().size;
+    for (const double x : { edge, width / 2, width - edge }) {
+        for (const double y : { edge, height / 2, height - edge }) {
+            auto* window = windowOf(view);
+            if (window && hitTest(*window, convertToWindow({ x, y }, view)) == &view)
+                return touch(view, { x, y });
+        }
+    }
+    return false;
+}
+
+bool takeThumb(UISlider& slider)
+{
+    scrollIntoView(slider);
+    const auto window = windowToTouch(slider, thumbOf(slider, slider.value()));
+    if (window)
+        window->touchDown({ convertToWindow(thumbOf(slider, slider.value()), slider), Pointer::Keyboard });
+    return window != nullptr;
+}
+
+void dragThumb(UISlider& slider, double value)
+{
+    const auto window = retain(windowOf(slider));
     if (!window)
-        return false;
-    const auto at = convertToWindow(middleOf(view.bounds()), view);
-    window->touchDown({ at, Pointer::Mouse });
-    window->touchUp(at);
-    return true;
+        return;
+    const double wanted = std::clamp<double>(value, slider.minimumValue(), slider.maximumValue());
+    window->touchMove(convertToWindow(thumbOf(slider, wanted), slider));
+}
+
+void releaseThumb(UISlider& slider)
+{
+    const auto window = retain(windowOf(slider));
+    if (window)
+        window->touchUp(convertToWindow(thumbOf(slider, slider.value()), slider));
 }
 
 bool slideTo(UISlider& slider, double value)
 {
     const auto kept = retain(&slider);
-    const auto window = windowToTouch(slider, peerOf(slider).thumbCentre(slider.value()));
-    if (!window)
+    if (!takeThumb(slider))
         return false;
-    const auto place
-        = [&](double shown) { return convertToWindow(peerOf(slider).thumbCentre(shown), slider); };
-    const double lowest = slider.minimumValue();
-    const double highest = slider.maximumValue();
-    const auto target = place(std::clamp(value, lowest, highest));
-    window->touchDown({ place(slider.value()), Pointer::Mouse });
-    window->touchMove(target);
-    window->touchUp(target);
+    dragThumb(slider, value);
+    releaseThumb(slider);
     return true;
+}
+
+bool deleteRow(UITableViewCell& cell)
+{
+    const auto kept = retain(&cell);
+    const auto window = windowToTouch(cell, middleOf(cell.bounds()));
+    const auto* table = window ? dynamic_cast<UITableView*>(cell.superview()) : nullptr;
+    const auto row = table ? peerOf(*table).rowOf(cell) : std::nullopt;
+    return row && peerOf(*table).deleteRow(*row);
 }
 
 void scrollPages(UIView& scrollView, double pages)

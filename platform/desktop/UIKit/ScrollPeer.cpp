@@ -2,6 +2,7 @@
 
 #include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/Window.h"
 
 #include <algorithm>
 #include <cmath>
@@ -191,6 +192,20 @@ UIView* enclosingScrollView(UIView& view)
             return ancestor;
     }
     return nullptr;
+}
+
+void scrollIntoView(UIView& view)
+{
+    auto* window = windowOf(view);
+    auto* scrollView = enclosingScrollView(view);
+    if (!window || !scrollView)
+        return;
+    window->layOut();
+    const auto bounds = view.bounds();
+    scrollPeerOf(*scrollView)
+        .scrollIntoView(
+            { convertFromWindow(convertToWindow(bounds.origin, view), *scrollView), bounds.size });
+    window->layOut();
 }
 
 } // namespace brimsound::desktop

@@ -54,4 +54,7 @@ ScrollPeer& scrollPeerOf(const UIView&);
 /// The view itself or the nearest view around it that scrolls; null when there is none.
 UIView* enclosingScrollView(UIView&);
 
+/// Scrolls what scrolls around the view as little as it takes to show the view, and lays the window out.
+void scrollIntoView(UIView&);
+
 } // namespace brimsound::desktop

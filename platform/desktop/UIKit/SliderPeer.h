@@ -17,11 +17,18 @@ struct SliderPeer : ControlPeer {
     double grip = 0;
     /// What names the slider while it or one beside it is held: the labels show values then.
     std::string heldCaption;
+    /// Whether the touch that holds the slider is a key.
+    bool isHeldByKey = false;
 
     SliderPeer();
 
     void beginTracking(CGPoint, Pointer) override;
     void continueTracking(CGPoint) override;
+    /// The arrows move the slider by a tenth of a decibel, Page Up and Page Down by one, Home and End to its
+    /// ends: a key takes the thumb, each stroke draws it on, and releasing the key lets it go.
+    bool keyPressed(Key, KeyStroke) override;
+    void keysReleased() override;
+    FocusRing focusRing() const override;
     void draw(Canvas&) const override;
     Accessible accessible() const override;
 

@@ -23,6 +23,7 @@ struct SwitchPeer : ControlPeer {
     void beginTracking(CGPoint, Pointer) override;
     void continueTracking(CGPoint) override;
     void endTracking(CGPoint, bool inside) override;
+    FocusRing focusRing() const override;
     void draw(Canvas&) const override;
     Accessible accessible() const override;
 

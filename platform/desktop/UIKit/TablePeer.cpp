@@ -1,7 +1,5 @@
 #include "platform/desktop/UIKit/TablePeer.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/UIKit/Text.h"
 #include "platform/desktop/UIKit/Theme.h"
 
@@ -20,7 +18,6 @@ constexpr double cardRadius = 10;
 constexpr double gapAboveSection = 22;
 constexpr double gapAroundText = 7;
 constexpr double gapBelowLast = 30;
-constexpr double pressFadeTime = 0.25;
 
 const RetainPtr<UIFont>& smallFont()
 {
@@ -42,6 +39,7 @@ TablePeer::TablePeer(UITableViewStyle tableStyle)
 
 void TablePeer::measure()
 {
+    ++_changes;
     sections.clear();
     height = 0;
     if (!dataSource)
@@ -95,21 +93,33 @@ void TablePeer::measure()
 
 void TablePeer::forgetRows()
 {
-    for (auto& [indexPath, cell] : cells)
+    for (const auto& [row, cell] : cells)
         putAside(cell);
     cells.clear();
+    for (const auto& cell : std::exchange(leaving, {}))
+        putAside(cell);
+    if (swipedRow)
+        swipedRow->button->removeFromSuperview();
+    swipedRow.reset();
+    touchedRow.reset();
+    selectedRow.reset();
+    focusedRow.reset();
     measuredSize.reset();
-    pressedRow.reset();
+    ++_changes;
 }
 
 void TablePeer::putAside(const RetainPtr<UITableViewCell>& cell)
 {
     cell->removeFromSuperview();
+    cell->setAlpha(1);
+    peerOf(*cell).prepareForReuse();
     reusable.emplace(cell->reuseIdentifier(), cell);
 }
 
 void TablePeer::willLayOut()
 {
+    if (swipedRow && swipedRow->offset != origin.y)
+        closeSwipe();
     if (measuredSize == frame.size)
         return;
     if (!measuredSize || measuredSize->width != frame.size.width)
@@ -122,32 +132,88 @@ void TablePeer::willLayOut()
 
 void TablePeer::tile()
 {
+    makeCells(0);
+    placeCells();
+}
+
+void TablePeer::makeCells(double distanceBelow)
+{
     const auto inView = boundsOf(*this);
     std::erase_if(cells, [&](const auto& entry) {
-        if (intersects(rowRect(entry.first), inView))
+        const auto& [row, cell] = entry;
+        if (hasRow(row) && intersects(rowRect(row), inView))
             return false;
-        putAside(entry.second);
+        // Whoever set the row to be not selected did not tell the table.
+        if (selectedRow == row && !cell->isSelected())
+            selectedRow.reset();
+        putAside(cell);
         return true;
     });
 
-    for (std::size_t section = 0; section < sections.size(); ++section) {
-        const auto& tops = sections[section].rowTops;
-        const auto first = std::ranges::upper_bound(tops, inView.origin.y);
-        auto row = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, first - tops.begin() - 1));
-        for (; row + 1 < tops.size() && tops[row] < inView.origin.y + inView.size.height; ++row) {
-            const NSIndexPath indexPath { section, row };
-            const auto rect = rowRect(indexPath);
-            if (!intersects(rect, inView))
-                continue;
-            auto& cell = cells[indexPath];
-            if (!cell) {
-                setSizeOfNewCells(rect.size);
-                cell = dataSource->tableViewCellForRowAtIndexPath(table(), indexPath);
-                table().addSubview(*cell);
-            }
-            cell->setFrame(rect);
-        }
+    // The data source and the delegate may change the rows while they are asked.
+    const auto changes = _changes;
+    for (const auto& row : rowsIn(inView)) {
+        if (cells.contains(row))
+            continue;
+        const auto rect = rowRect(row);
+        setSizeOfNewCells(rect.size);
+        const auto cell = dataSource->tableViewCellForRowAtIndexPath(table(), row);
+        if (changes != _changes)
+            return;
+        if (!cell)
+            continue;
+        cell->setFrame({ { rect.origin.x, rect.origin.y + distanceBelow }, rect.size });
+        cell->setSelected(row == selectedRow, Animated::No);
+        cells.emplace(row, cell);
+        if (delegate)
+            delegate->tableViewWillDisplayCellForRowAtIndexPath(table(), *cell, row);
+        if (changes != _changes)
+            return;
+        table().addSubview(*cell);
     }
+}
+
+void TablePeer::placeCells()
+{
+    for (const auto& [row, cell] : cells) {
+        auto rect = rowRect(row);
+        if (swipedRow && swipedRow->row == row) {
+            const double distance = swipedRow->distance;
+            const double right = rect.origin.x + rect.size.width;
+            swipedRow->button->setFrame(
+                CGRectMake(right - distance, rect.origin.y, distance, rect.size.height));
+            rect.origin.x -= distance;
+        }
+        cell->setFrame(rect);
+        peerOf(*cell).setSetting(settingOf(row));
+    }
+}
+
+RowSetting TablePeer::settingOf(const NSIndexPath& row) const
+{
+    const auto& section = sections[row.section];
+    const bool grouped = style == UITableViewStyle::Grouped;
+    const bool last = row.row + 2 == section.rowTops.size();
+    RowSetting setting;
+    // A group has edges of its own.
+    if (!grouped || !last)
+        setting.separator = shownSeparatorColor();
+    if (grouped) {
+        const auto& rows = section.rowsRect;
+        setting.group = { { 0, rows.origin.y - section.rowTops[row.row] }, rows.size };
+        setting.groupRadius = rows.size.width < frame.size.width ? cardRadius : 0;
+    }
+    return setting;
+}
+
+Color TablePeer::shownSeparatorColor() const
+{
+    return separatorColor ? colorOf(separatorColor) : theme::separator;
+}
+
+bool TablePeer::hasRow(const NSIndexPath& row) const
+{
+    return row.section < sections.size() && row.row + 1 < sections[row.section].rowTops.size();
 }
 
 CGRect TablePeer::rowRect(const NSIndexPath& indexPath) const
@@ -170,65 +236,34 @@ std::optional<NSIndexPath> TablePeer::rowAt(CGPoint point) const
     return std::nullopt;
 }
 
-void TablePeer::touchBegan(const Touch& touch)
+std::vector<NSIndexPath> TablePeer::rowsIn(const CGRect& part) const
 {
-    // The press before may still be fading.
-    if (pressedRow)
-        setPressed(false);
-    pressedRow.reset();
-    const auto row = rowAt(convertFromWindow(touch.location, *view));
-    const auto* cell = row ? table().cellForRowAtIndexPath(*row) : nullptr;
-    if (!cell || cell->selectionStyle() == UITableViewCellSelectionStyle::None)
+    std::vector<NSIndexPath> rows;
+    for (std::size_t section = 0; section < sections.size(); ++section) {
+        const auto& tops = sections[section].rowTops;
+        const auto first = std::ranges::upper_bound(tops, part.origin.y);
+        auto row = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, first - tops.begin() - 1));
+        for (; row + 1 < tops.size() && tops[row] < part.origin.y + part.size.height; ++row) {
+            if (intersects(rowRect({ section, row }), part))
+                rows.push_back({ section, row });
+        }
+    }
+    return rows;
+}
+
+std::optional<NSIndexPath> TablePeer::rowOf(const UITableViewCell& cell) const
+{
+    const auto found = std::ranges::find_if(cells, [&](const auto& entry) { return entry.second == &cell; });
+    return found == cells.end() ? std::nullopt : std::optional(found->first);
+}
+
+void TablePeer::scrollToRow(const NSIndexPath& row)
+{
+    layOutTree(*view);
+    if (!hasRow(row))
         return;
-    pressedRow = row;
-    setPressed(true);
-}
-
-void TablePeer::touchMoved(const Touch& touch)
-{
-    if (pressedRow)
-        setPressed(rowAt(convertFromWindow(touch.location, *view)) == pressedRow);
-}
-
-void TablePeer::touchEnded(const Touch& touch)
-{
-    touchMoved(touch);
-    if (!pressedRow || !isPressed)
-        return;
-    const auto row = *pressedRow;
-    fadePress();
-    select(row);
-}
-
-void TablePeer::touchCancelled()
-{
-    if (pressedRow)
-        setPressed(false);
-}
-
-void TablePeer::select(const NSIndexPath& row)
-{
-    if (delegate)
-        delegate->tableViewDidSelectRowAtIndexPath(table(), row);
-}
-
-void TablePeer::setPressed(bool pressed)
-{
-    isPressed = pressed;
-    pressedAlpha = pressed ? 1 : 0;
-    setNeedsDisplay(*view, rowRect(*pressedRow));
-}
-
-void TablePeer::fadePress()
-{
-    isPressed = false;
-    Clock::shared().onEveryFrame([this, kept = brimsound::retain(view), row = pressedRow](double elapsed) {
-        if (isPressed || pressedRow != row)
-            return false;
-        pressedAlpha = std::max(0.0, 1 - elapsed / pressFadeTime);
-        setNeedsDisplay(*view, rowRect(*row));
-        return pressedAlpha > 0;
-    });
+    scrollIntoView(rowRect(row));
+    layOutTree(*view);
 }
 
 Accessible TablePeer::accessible() const
@@ -241,7 +276,10 @@ Accessible TablePeer::accessible() const
                 texts += (texts.empty() ? "" : "\n") + *text;
         }
     }
-    return { .role = AccessibleRole::Table, .description = texts };
+    const bool grouped = style == UITableViewStyle::Grouped;
+    return { .role = grouped ? AccessibleRole::Table : AccessibleRole::List,
+        .description = texts,
+        .focusable = !grouped && !cells.empty() };
 }
 
 void TablePeer::draw(Canvas& canvas) const
@@ -249,8 +287,7 @@ void TablePeer::draw(Canvas& canvas) const
     if (style != UITableViewStyle::Grouped)
         return;
     const double hairline = canvas.hairline();
-    for (std::size_t i = 0; i < sections.size(); ++i) {
-        const auto& section = sections[i];
+    for (const auto& section : sections) {
         if (canvas.showsAnythingIn(section.headerRect))
             canvas.drawParagraph(section.header, section.headerRect, *smallFont(), theme::secondaryText,
                 NSTextAlignment::Left);
@@ -264,23 +301,10 @@ void TablePeer::draw(Canvas& canvas) const
         const bool card = rows.size.width < frame.size.width;
         const double radius = card ? cardRadius : 0;
         canvas.fillRoundedRect(rows, radius, theme::rowBackground);
-        if (pressedRow && pressedRow->section == i && pressedAlpha > 0) {
-            canvas.save();
-            canvas.clip(rowRect(*pressedRow));
-            auto color = theme::rowPressed;
-            color.alpha = pressedAlpha;
-            canvas.fillRoundedRect(rows, radius, color);
-            canvas.restore();
-        }
-
-        const double left = rows.origin.x + theme::rowMargin;
-        const double right = rows.origin.x + rows.size.width;
-        for (std::size_t row = 1; row + 1 < section.rowTops.size(); ++row)
-            canvas.fillRect(
-                CGRectMake(left, section.rowTops[row] - hairline, right - left, hairline), theme::separator);
         if (!card) {
             const auto edge = [&](double y) {
-                canvas.fillRect(CGRectMake(rows.origin.x, y, rows.size.width, hairline), theme::separator);
+                canvas.fillRect(
+                    CGRectMake(rows.origin.x, y, rows.size.width, hairline), shownSeparatorColor());
             };
             edge(rows.origin.y - hairline);
             edge(rows.origin.y + rows.size.height);

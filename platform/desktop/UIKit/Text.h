@@ -7,6 +7,9 @@
 
 namespace brimsound::desktop {
 
+/// The width in points of one line of text.
+double widthOfLine(const std::string& text, const UIFont&);
+
 /// The height in points of a paragraph that is broken into lines at the width.
 double heightOfParagraph(const std::string& text, const UIFont&, double width);
 

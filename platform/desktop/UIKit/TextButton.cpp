@@ -11,7 +11,6 @@ struct TextButtonPeer : ControlPeer {
     std::string title;
     RetainPtr<UIFont> font;
     std::function<void()> onPress;
-    bool isFocused = false;
 
     void beginTracking(CGPoint, Pointer) override { setNeedsDisplay(*view); }
     void continueTracking(CGPoint) override { setNeedsDisplay(*view); }
@@ -26,7 +25,7 @@ struct TextButtonPeer : ControlPeer {
 
     Accessible accessible() const override
     {
-        return { .role = AccessibleRole::Button, .name = title, .focusable = true, .focused = isFocused };
+        return { .role = AccessibleRole::Button, .name = title, .focusable = true };
     }
 
     void draw(Canvas& canvas) const override
@@ -34,8 +33,6 @@ struct TextButtonPeer : ControlPeer {
         const auto bounds = boundsOf(*this);
         if (isTracking && isTouchInside)
             canvas.fillRect(bounds, theme::rowPressed);
-        if (isFocused)
-            canvas.fillRoundedRect(insetBy(bounds, 4, 4), 8, theme::tint.withAlpha(0.15));
         canvas.drawLine(title, bounds, *font, theme::tint, NSTextAlignment::Center);
     }
 };
@@ -67,21 +64,6 @@ void TextButton::press()
     const auto kept = brimsound::retain(this);
     if (const auto onPress = peerOf(*this).onPress)
         onPress();
-}
-
-void TextButton::setFocused(bool focused)
-{
-    if (peerOf(*this).isFocused == focused)
-        return;
-    peerOf(*this).isFocused = focused;
-    setNeedsDisplay(*this);
-    if (focused)
-        accessibleChanged(*this, AccessibleChange::FocusMoved);
-}
-
-bool TextButton::isFocused() const
-{
-    return peerOf(*this).isFocused;
 }
 
 } // namespace brimsound::desktop

@@ -9,7 +9,7 @@
 
 namespace brimsound::desktop {
 
-/// Shows its title in the tint, and is shaded while it is pressed or has the keyboard.
+/// Shows its title in the tint, and is shaded while it is pressed.
 class TextButton : public UIControl {
 public:
     TextButton(const std::string& title, RetainPtr<UIFont> font, std::function<void()> onPress);
@@ -17,8 +17,6 @@ public:
     const std::string& title() const;
     /// Does what a touch that ends inside does.
     void press();
-    void setFocused(bool);
-    bool isFocused() const;
 };
 
 } // namespace brimsound::desktop

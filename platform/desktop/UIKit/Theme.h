@@ -8,6 +8,8 @@ namespace brimsound::desktop::theme {
 inline constexpr Color background { 0.937, 0.937, 0.957 };
 inline constexpr Color rowBackground { 1, 1, 1 };
 inline constexpr Color rowPressed { 0.851, 0.851, 0.851 };
+inline constexpr Color destructive { 1, 0.231, 0.188 };
+inline constexpr Color destructivePressed { 0.8, 0.185, 0.15 };
 inline constexpr Color separator { 0.784, 0.780, 0.800 };
 inline constexpr Color text { 0, 0, 0 };
 inline constexpr Color secondaryText { 0.427, 0.427, 0.447 };

@@ -5,8 +5,12 @@
 
 namespace brimsound::desktop {
 
-/// A mouse button reaches its view at once; a finger may turn out to scroll first.
-enum class Pointer { Finger, Mouse };
+/// A mouse button reaches its view at once; a finger may turn out to scroll first. A touch by the keyboard
+/// stands for a key, or for what assistive technology asked for: nobody points.
+enum class Pointer { Finger, Mouse, Keyboard };
+
+/// How far a finger moves, in points, before it is taken to be going somewhere.
+inline constexpr double touchSlop = 10;
 
 /// One finger, or the mouse while its button is down.
 struct Touch {

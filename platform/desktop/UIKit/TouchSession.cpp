@@ -11,8 +11,6 @@ namespace {
 
 /// How long a finger within a scroll view is held back, in seconds.
 constexpr double holdBackTime = 0.15;
-/// How far a finger moves, in points, before it is taken to be going somewhere.
-constexpr double slop = 10;
 
 UIView* nearestThatTakesTouches(UIView* view)
 {
@@ -61,7 +59,7 @@ void TouchSession::move(CGPoint location)
             startScrolling();
             return;
         }
-        if (std::abs(location.x - _first.location.x) <= slop)
+        if (std::abs(location.x - _first.location.x) <= touchSlop)
             return;
         handOver();
     }
@@ -132,7 +130,7 @@ bool TouchSession::movesUpOrDown(CGPoint location) const
 {
     const double dx = std::abs(location.x - _first.location.x);
     const double dy = std::abs(location.y - _first.location.y);
-    return dy > slop && dy >= dx;
+    return dy > touchSlop && dy >= dx;
 }
 
 } // namespace brimsound::desktop

@@ -110,34 +110,6 @@ Accessible AlertPeer::accessible() const
     return { .role = AccessibleRole::Alert, .name = message, .description = title };
 }
 
-void AlertPeer::keyPressed(Key key)
-{
-    const auto focused = std::find_if(
-        buttons.begin(), buttons.end(), [](const auto& button) { return button->isFocused(); });
-    const auto index = static_cast<std::size_t>(focused - buttons.begin()) % buttons.size();
-    const auto hand = [&](std::size_t next) {
-        buttons[index]->setFocused(false);
-        buttons[next % buttons.size()]->setFocused(true);
-    };
-    switch (key) {
-    case Key::Return:
-    case Key::Space:
-        buttons[index]->press();
-        break;
-    case Key::Escape:
-        buttons.front()->press();
-        break;
-    case Key::Tab:
-    case Key::Right:
-        hand(index + 1);
-        break;
-    case Key::Backtab:
-    case Key::Left:
-        hand(index + buttons.size() - 1);
-        break;
-    }
-}
-
 void AlertPeer::answer(std::size_t buttonIndex)
 {
     const auto kept = brimsound::retain(&alert());

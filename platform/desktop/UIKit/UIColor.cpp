@@ -1,7 +1,12 @@
 #include "platform/UIKit/UIColor.h"
 
+#include "platform/UIKit/UIGraphics.h"
+#include "platform/desktop/CoreGraphics/CGContextPeer.h"
 #include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/Color.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace brimsound {
 
@@ -34,6 +39,20 @@ RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     return adopt(new UIColor(new ColorPeer({ red, green, blue, alpha })));
 }
 
+// Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
+
+RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
+    CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
+{
+    // Each component stands at the brightness for a third of the circle, and goes down and up beside it.
+    const auto component = [&](double peakOfFall) {
+        const double sixth = std::fmod(peakOfFall + 6 * hue, 6);
+        const double below = std::clamp(std::min(sixth, 4 - sixth), 0.0, 1.0);
+        return brightness * (1 - saturation * below);
+    };
+    return colorWithRedGreenBlueAlpha(component(5), component(3), component(1), alpha);
+}
+
 RetainPtr<UIColor> UIColor::colorWithWhiteAlpha(CGFloat white, CGFloat alpha)
 {
     return colorWithRedGreenBlueAlpha(white, white, white, alpha);
@@ -47,6 +66,11 @@ RetainPtr<UIColor> UIColor::blackColor()
 RetainPtr<UIColor> UIColor::whiteColor()
 {
     return colorWithWhiteAlpha(1, 1);
+}
+
+RetainPtr<UIColor> UIColor::yellowColor()
+{
+    return colorWithRedGreenBlueAlpha(1, 1, 0, 1);
 }
 
 RetainPtr<UIColor> UIColor::lightGrayColor()
@@ -67,6 +91,34 @@ bool UIColor::getRedGreenBlueAlpha(CGFloat& red, CGFloat& green, CGFloat& blue, 
     blue = components.blue;
     alpha = components.alpha;
     return true;
+}
+
+bool UIColor::getHueSaturationBrightnessAlpha(
+    CGFloat& hue, CGFloat& saturation, CGFloat& brightness, CGFloat& alpha) const
+{
+    const auto& [red, green, blue, opacity] = componentsOf(*this);
+    if (!std::isfinite(red) || !std::isfinite(green) || !std::isfinite(blue) || !std::isfinite(opacity))
+        return false;
+    const double highest = std::max({ red, green, blue });
+    const double range = highest - std::min({ red, green, blue });
+    double sixths = 0;
+    if (range > 0 && highest == red)
+        sixths = (green - blue) / range;
+    else if (range > 0 && highest == green)
+        sixths = 2 + (blue - red) / range;
+    else if (range > 0)
+        sixths = 4 + (red - green) / range;
+    hue = (sixths < 0 ? sixths + 6 : sixths) / 6;
+    saturation = highest > 0 ? range / highest : 0;
+    brightness = highest;
+    alpha = opacity;
+    return true;
+}
+
+void UIColor::setFill() const
+{
+    if (const auto* context = UIGraphicsGetCurrentContext())
+        desktop::peerOf(*context).fillColor = componentsOf(*this);
 }
 
 namespace desktop {

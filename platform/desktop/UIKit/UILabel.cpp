@@ -1,7 +1,7 @@
 #include "platform/UIKit/UILabel.h"
 
+#include "platform/desktop/UIKit/CellPeer.h"
 #include "platform/desktop/UIKit/Theme.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
 
 namespace brimsound {
 
@@ -11,12 +11,19 @@ struct LabelPeer : desktop::ViewPeer {
     std::string text;
     RetainPtr<UIFont> font = UIFont::systemFontOfSize(desktop::theme::textSize);
     RetainPtr<UIColor> textColor = UIColor::blackColor();
+    RetainPtr<UIColor> highlightedTextColor;
+    bool highlighted = false;
     NSTextAlignment alignment = NSTextAlignment::Left;
+
+    desktop::Color shownColor() const
+    {
+        return desktop::colorOf(highlighted && highlightedTextColor ? highlightedTextColor : textColor);
+    }
 
     void draw(desktop::Canvas& canvas) const override
     {
         if (!text.empty() && font)
-            canvas.drawLine(text, desktop::boundsOf(*this), *font, desktop::colorOf(textColor), alignment);
+            canvas.drawLine(text, desktop::boundsOf(*this), *font, shownColor(), alignment);
     }
 
     desktop::Accessible accessible() const override
@@ -51,6 +58,7 @@ void UILabel::setText(const std::string& text)
         return;
     peerOf(*this).text = text;
     desktop::setNeedsDisplay(*this);
+    desktop::rowContentsChanged(*this);
 }
 
 RetainPtr<UIFont> UILabel::font() const
@@ -64,6 +72,7 @@ void UILabel::setFont(RetainPtr<UIFont> font)
         return;
     peerOf(*this).font = std::move(font);
     desktop::setNeedsDisplay(*this);
+    desktop::rowContentsChanged(*this);
 }
 
 RetainPtr<UIColor> UILabel::textColor() const
@@ -74,9 +83,37 @@ RetainPtr<UIColor> UILabel::textColor() const
 void UILabel::setTextColor(RetainPtr<UIColor> color)
 {
     auto& peer = peerOf(*this);
-    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.textColor);
+    const auto before = peer.shownColor();
     peer.textColor = std::move(color);
-    if (!looksTheSame)
+    if (peer.shownColor() != before)
+        desktop::setNeedsDisplay(*this);
+}
+
+RetainPtr<UIColor> UILabel::highlightedTextColor() const
+{
+    return peerOf(*this).highlightedTextColor;
+}
+
+void UILabel::setHighlightedTextColor(RetainPtr<UIColor> color)
+{
+    auto& peer = peerOf(*this);
+    const auto before = peer.shownColor();
+    peer.highlightedTextColor = std::move(color);
+    if (peer.shownColor() != before)
+        desktop::setNeedsDisplay(*this);
+}
+
+bool UILabel::isHighlighted() const
+{
+    return peerOf(*this).highlighted;
+}
+
+void UILabel::setHighlighted(bool highlighted)
+{
+    auto& peer = peerOf(*this);
+    const auto before = peer.shownColor();
+    peer.highlighted = highlighted;
+    if (peer.shownColor() != before)
         desktop::setNeedsDisplay(*this);
 }
 

@@ -18,6 +18,8 @@ namespace {
 
 constexpr double thumbSize = 28;
 constexpr double trackHeight = 4;
+/// Between the thumb at its end and the ring around the slider.
+constexpr double focusRingGap = 3;
 /// What assistive technology changes a value by: decibels.
 constexpr double accessibleStep = 0.5;
 
@@ -105,6 +107,11 @@ void SliderPeer::beginTracking(CGPoint point, Pointer pointer)
 void SliderPeer::continueTracking(CGPoint point)
 {
     takeValueAt(point.x - grip);
+}
+
+FocusRing SliderPeer::focusRing() const
+{
+    return { insetBy(boundsOf(*this), -focusRingGap, focusRingInset) };
 }
 
 Accessible SliderPeer::accessible() const

@@ -16,6 +16,8 @@ namespace {
 constexpr CGSize switchSize { 51, 31 };
 constexpr double knobMargin = 2;
 constexpr double slideTime = 0.2;
+/// Between the switch and the ring around it.
+constexpr double focusRingGap = 3;
 /// How far a finger must move sideways, in points, to draw the knob along.
 constexpr double drawDistance = 10;
 
@@ -100,6 +102,12 @@ void SwitchPeer::flip()
 {
     static_cast<UISwitch*>(view)->setOn(!isOn, Animated::Yes);
     send(UIControlEventValueChanged);
+}
+
+FocusRing SwitchPeer::focusRing() const
+{
+    const auto ring = insetBy(boundsOf(*this), -focusRingGap, -focusRingGap);
+    return { ring, ring.size.height / 2 };
 }
 
 Accessible SwitchPeer::accessible() const

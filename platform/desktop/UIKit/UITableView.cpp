@@ -9,7 +9,7 @@ using desktop::peerOf;
 using desktop::TablePeer;
 
 UITableView::UITableView(const CGRect& frame, UITableViewStyle style)
-    : UIView(new TablePeer(style))
+    : UIScrollView(new TablePeer(style))
 {
     auto& peer = peerOf(*this);
     peer.frame = frame;
@@ -37,10 +37,23 @@ void UITableView::reloadData()
     desktop::setNeedsDisplay(*this);
 }
 
+void UITableView::deleteRowsAtIndexPathsWithRowAnimation(
+    const std::vector<NSIndexPath>& rows, UITableViewRowAnimation)
+{
+    peerOf(*this).removeRows({ rows.begin(), rows.end() });
+}
+
 RetainPtr<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const std::string& identifier)
 {
     auto cell = peerOf(*this).reusable.extract(identifier);
     return cell ? cell.mapped() : nullptr;
+}
+
+CGRect UITableView::rectForRowAtIndexPath(const NSIndexPath& indexPath) const
+{
+    auto& peer = peerOf(*this);
+    peer.willLayOut();
+    return peer.hasRow(indexPath) ? peer.rowRect(indexPath) : CGRect();
 }
 
 UITableViewCell* UITableView::cellForRowAtIndexPath(const NSIndexPath& indexPath) const
@@ -48,6 +61,18 @@ UITableViewCell* UITableView::cellForRowAtIndexPath(const NSIndexPath& indexPath
     const auto& cells = peerOf(*this).cells;
     const auto found = cells.find(indexPath);
     return found == cells.end() ? nullptr : found->second.get();
+}
+
+RetainPtr<UIColor> UITableView::separatorColor() const
+{
+    return peerOf(*this).separatorColor;
+}
+
+void UITableView::setSeparatorColor(RetainPtr<UIColor> color)
+{
+    peerOf(*this).separatorColor = std::move(color);
+    setNeedsLayout();
+    desktop::setNeedsDisplay(*this);
 }
 
 void UITableView::layoutSubviews()

@@ -14,9 +14,11 @@ namespace {
 /// The platform's own size of a new cell.
 CGSize sizeOfNewCells { 320, 44 };
 
+constexpr double detailTextSize = 12;
+
 } // namespace
 
-UITableViewCell::UITableViewCell(UITableViewCellStyle, const std::string& reuseIdentifier)
+UITableViewCell::UITableViewCell(UITableViewCellStyle style, const std::string& reuseIdentifier)
     : UITableViewCell(new CellPeer)
 {
     auto& peer = peerOf(*this);
@@ -26,6 +28,13 @@ UITableViewCell::UITableViewCell(UITableViewCellStyle, const std::string& reuseI
     addSubview(*peer.contentView);
     peer.textLabel = make<UILabel>();
     peer.contentView->addSubview(*peer.textLabel);
+    if (style == UITableViewCellStyle::Subtitle) {
+        peer.detailTextLabel = make<UILabel>();
+        peer.detailTextLabel->setFont(UIFont::systemFontOfSize(detailTextSize));
+        peer.contentView->addSubview(*peer.detailTextLabel);
+    }
+    peer.selectedBackgroundView = desktop::makeSelectedBackground();
+    peer.selectedBackgroundView->setFrame(bounds());
 }
 
 UITableViewCell::UITableViewCell(Peer* peer)
@@ -48,6 +57,21 @@ UILabel& UITableViewCell::textLabel() const
     return *peerOf(*this).textLabel;
 }
 
+UILabel* UITableViewCell::detailTextLabel() const
+{
+    return peerOf(*this).detailTextLabel.get();
+}
+
+UIImageView& UITableViewCell::imageView() const
+{
+    auto& peer = peerOf(*this);
+    if (!peer.imageView) {
+        peer.imageView = make<UIImageView>();
+        peer.contentView->addSubview(*peer.imageView);
+    }
+    return *peer.imageView;
+}
+
 UIView* UITableViewCell::accessoryView() const
 {
     return peerOf(*this).accessoryView.get();
@@ -62,6 +86,54 @@ void UITableViewCell::setAccessoryView(RetainPtr<UIView> view)
     if (peer.accessoryView)
         addSubview(*peer.accessoryView);
     setNeedsLayout();
+}
+
+UIView* UITableViewCell::backgroundView() const
+{
+    return peerOf(*this).backgroundView.get();
+}
+
+void UITableViewCell::setBackgroundView(RetainPtr<UIView> view)
+{
+    auto& peer = peerOf(*this);
+    if (peer.backgroundView)
+        peer.backgroundView->removeFromSuperview();
+    peer.backgroundView = std::move(view);
+    if (peer.backgroundView)
+        desktop::insertSubview(*this, *peer.backgroundView, 0);
+    setNeedsLayout();
+}
+
+UIView* UITableViewCell::selectedBackgroundView() const
+{
+    return peerOf(*this).selectedBackgroundView.get();
+}
+
+void UITableViewCell::setSelectedBackgroundView(RetainPtr<UIView> view)
+{
+    auto& peer = peerOf(*this);
+    if (peer.selectedBackgroundView)
+        peer.selectedBackgroundView->removeFromSuperview();
+    peer.selectedBackgroundView = std::move(view);
+    peer.placeSelectedBackground();
+}
+
+bool UITableViewCell::isSelected() const
+{
+    return peerOf(*this).isSelected;
+}
+
+void UITableViewCell::setSelected(bool selected, Animated animated)
+{
+    auto& peer = peerOf(*this);
+    if (std::exchange(peer.isSelected, selected) != selected)
+        desktop::accessibleChanged(*this, desktop::AccessibleChange::StateChanged);
+    peer.showState(animated);
+}
+
+bool UITableViewCell::isHighlighted() const
+{
+    return peerOf(*this).isHighlighted;
 }
 
 UITableViewCellSelectionStyle UITableViewCell::selectionStyle() const
@@ -84,23 +156,15 @@ void UITableViewCell::layoutSubviews()
         free = width - theme::rowMargin - size.width;
         peer.accessoryView->setFrame(CGRectMake(free, (height - size.height) / 2, size.width, size.height));
     }
+    for (const auto& background : { peer.backgroundView, peer.selectedBackgroundView }) {
+        if (background)
+            background->setFrame(bounds());
+    }
     contentView().setFrame(CGRectMake(0, 0, free, height));
-    textLabel().setFrame(CGRectMake(theme::rowMargin, 0, std::max(0.0, free - 2 * theme::rowMargin), height));
+    peer.placeContents();
 }
 
 namespace desktop {
-
-Accessible CellPeer::accessible() const
-{
-    if (selectionStyle == UITableViewCellSelectionStyle::None || !textLabel)
-        return {};
-    return { .role = AccessibleRole::Button, .name = textLabel->text(), .focusable = true };
-}
-
-CellPeer& peerOf(const UITableViewCell& cell)
-{
-    return static_cast<CellPeer&>(cell.peer());
-}
 
 void setSizeOfNewCells(CGSize size)
 {

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIView.h"
 
 #include "platform/desktop/UIKit/ViewPeer.h"
+#include "platform/desktop/UIKit/Window.h"
 
 #include <algorithm>
 
@@ -38,6 +39,7 @@ void UIView::setFrame(const CGRect& frame)
     if (peer.frame == frame)
         return;
     desktop::setNeedsDisplay(*this);
+    desktop::startFrom(peer, peer.shownFrame(), &desktop::Animation::frame);
     if (peer.frame.size != frame.size)
         peer.needsLayout = true;
     peer.frame = frame;
@@ -75,6 +77,8 @@ void UIView::removeFromSuperview()
     if (!superview())
         return;
     desktop::accessibleChanged(*this, desktop::AccessibleChange::WillHide);
+    if (auto* window = desktop::windowOf(*this))
+        window->focus().forgetWithin(*this);
     desktop::setNeedsDisplay(*this);
     const auto kept = brimsound::retain(this);
     auto* former = std::exchange(peerOf(*this).superview, nullptr);
@@ -84,6 +88,11 @@ void UIView::removeFromSuperview()
 void UIView::setNeedsLayout()
 {
     peerOf(*this).needsLayout = true;
+}
+
+void UIView::layoutIfNeeded()
+{
+    desktop::layOutTree(*this);
 }
 
 void UIView::layoutSubviews() { }
@@ -96,10 +105,11 @@ RetainPtr<UIColor> UIView::backgroundColor() const
 void UIView::setBackgroundColor(RetainPtr<UIColor> color)
 {
     auto& peer = peerOf(*this);
-    const bool looksTheSame = desktop::colorOf(color) == desktop::colorOf(peer.backgroundColor);
-    peer.backgroundColor = std::move(color);
-    if (!looksTheSame)
+    if (desktop::colorOf(color) != desktop::colorOf(peer.backgroundColor)) {
+        desktop::startFrom(peer, peer.shownBackground(), &desktop::Animation::background);
         desktop::setNeedsDisplay(*this);
+    }
+    peer.backgroundColor = std::move(color);
 }
 
 CGFloat UIView::alpha() const
@@ -110,9 +120,11 @@ CGFloat UIView::alpha() const
 void UIView::setAlpha(CGFloat alpha)
 {
     alpha = std::clamp(alpha, 0.0, 1.0);
-    if (peerOf(*this).alpha == alpha)
+    auto& peer = peerOf(*this);
+    if (peer.alpha == alpha)
         return;
-    peerOf(*this).alpha = alpha;
+    desktop::startFrom(peer, peer.shownAlpha(), &desktop::Animation::alpha);
+    peer.alpha = alpha;
     desktop::setNeedsDisplay(*this);
 }
 
@@ -129,6 +141,73 @@ void UIView::setHidden(bool hidden)
     desktop::setNeedsDisplay(*this);
     peerOf(*this).hidden = hidden;
     desktop::setNeedsDisplay(*this);
+}
+
+bool UIView::clipsToBounds() const
+{
+    return peerOf(*this).clipsToBounds;
+}
+
+void UIView::setClipsToBounds(bool clips)
+{
+    if (peerOf(*this).clipsToBounds == clips)
+        return;
+    // Before and after, as what is clipped asks for less drawing.
+    desktop::setNeedsDisplay(*this);
+    peerOf(*this).clipsToBounds = clips;
+    desktop::setNeedsDisplay(*this);
+}
+
+bool UIView::isUserInteractionEnabled() const
+{
+    return peerOf(*this).userInteractionEnabled;
+}
+
+void UIView::setUserInteractionEnabled(bool enabled)
+{
+    peerOf(*this).userInteractionEnabled = enabled;
+}
+
+bool UIView::becomeFirstResponder()
+{
+    auto* window = desktop::windowOf(*this);
+    if (!window || !canBecomeFirstResponder())
+        return false;
+    window->focus().giveTo(*this);
+    return true;
+}
+
+void UIView::resignFirstResponder()
+{
+    if (isFirstResponder())
+        desktop::windowOf(*this)->focus().takeFrom(*this);
+}
+
+bool UIView::isFirstResponder() const
+{
+    auto* window = desktop::windowOf(*this);
+    return window && canBecomeFirstResponder() && window->focus().isGivenTo(*this);
+}
+
+long UIView::tag() const
+{
+    return peerOf(*this).tag;
+}
+
+void UIView::setTag(long tag)
+{
+    peerOf(*this).tag = tag;
+}
+
+UIView* UIView::viewWithTag(long tag)
+{
+    if (this->tag() == tag)
+        return this;
+    for (const auto& subview : subviews()) {
+        if (auto* found = subview->viewWithTag(tag))
+            return found;
+    }
+    return nullptr;
 }
 
 } // namespace brimsound

@@ -23,7 +23,7 @@ public:
     }
 
     void layoutSubviews() override { _controller->view().setFrame(bounds()); }
-    void keyPressed(desktop::Key key) override { peerOf(*_controller).keyPressed(key); }
+    void escape() override { peerOf(*_controller).escape(); }
 
 private:
     RetainPtr<UIViewController> _controller;
@@ -43,7 +43,15 @@ UIViewController::UIViewController(Peer* peer)
 
 UIView& UIViewController::view() const
 {
-    return *peerOf(*this).view;
+    auto& view = peerOf(*this).view;
+    if (!view)
+        view = make<UIView>();
+    return *view;
+}
+
+void UIViewController::setView(RetainPtr<UIView> view)
+{
+    peerOf(*this).view = std::move(view);
 }
 
 void UIViewController::presentViewControllerAnimatedCompletion(

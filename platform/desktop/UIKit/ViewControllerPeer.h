@@ -14,13 +14,14 @@ struct ViewControllerPeer : Peer {
     {
     }
 
-    RetainPtr<UIView> view = make<UIView>();
+    /// Null until it is asked for.
+    RetainPtr<UIView> view;
     RetainPtr<UIViewController> presented;
     /// Holds the presented controller's view.
     RetainPtr<Overlay> overlay;
 
-    /// A key was pressed while the controller's view is over everything.
-    virtual void keyPressed(Key) { }
+    /// Escape was pressed while the controller's view is over everything.
+    virtual void escape() { }
 };
 
 ViewControllerPeer& peerOf(const UIViewController&);

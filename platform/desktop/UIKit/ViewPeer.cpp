@@ -1,8 +1,10 @@
 #include "platform/desktop/UIKit/ViewPeer.h"
 
+#include "platform/desktop/UIKit/ScrollPeer.h"
 #include "platform/desktop/UIKit/Window.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace brimsound::desktop {
 
@@ -16,6 +18,19 @@ CGPoint toSuperview(CGPoint point, const ViewPeer& peer)
     return { point.x - peer.origin.x + peer.frame.origin.x, point.y - peer.origin.y + peer.frame.origin.y };
 }
 
+/// The same for what is drawn.
+CGRect shownInSuperview(const CGRect& rect, const ViewPeer& peer)
+{
+    const auto place = peer.shownFrame().origin;
+    return { { rect.origin.x - peer.origin.x + place.x, rect.origin.y - peer.origin.y + place.y },
+        rect.size };
+}
+
+CGRect shownBoundsOf(const ViewPeer& peer)
+{
+    return { peer.origin, peer.shownFrame().size };
+}
+
 CGPoint fromSuperview(CGPoint point, const ViewPeer& peer)
 {
     return { point.x - peer.frame.origin.x + peer.origin.x, point.y - peer.frame.origin.y + peer.origin.y };
@@ -23,13 +38,14 @@ CGPoint fromSuperview(CGPoint point, const ViewPeer& peer)
 
 void drawContents(const ViewPeer& peer, Canvas& canvas)
 {
-    const auto bounds = boundsOf(peer);
-    if (const auto color = colorOf(peer.backgroundColor); color.alpha > 0)
-        canvas.fillRect(bounds, color);
+    if (const auto color = peer.shownBackground(); color.alpha > 0)
+        canvas.fillPixels(shownBoundsOf(peer), color);
     peer.draw(canvas);
     for (const auto& subview : peer.subviews)
         drawTree(*subview, canvas);
     peer.drawAbove(canvas);
+    if (peer.showsFocus)
+        drawFocusRing(peer.focusRing(), canvas);
 }
 
 } // namespace
@@ -38,6 +54,33 @@ ViewPeer::~ViewPeer()
 {
     if (onDestroyed)
         onDestroyed();
+}
+
+CGRect ViewPeer::shownFrame() const
+{
+    return animation && animation->frame ? animation->frame->shown : frame;
+}
+
+double ViewPeer::shownAlpha() const
+{
+    return animation && animation->alpha ? animation->alpha->shown : alpha;
+}
+
+Color ViewPeer::shownBackground() const
+{
+    return animation && animation->background ? animation->background->shown : colorOf(backgroundColor);
+}
+
+FocusRing ViewPeer::focusRing() const
+{
+    // Scrolling must not change its shape.
+    const auto part = partWithin(*view, enclosingScrollView(*view));
+    return { insetBy(part, focusRingInset, focusRingInset) };
+}
+
+void ViewPeer::scrollToFocus()
+{
+    scrollIntoView(*view);
 }
 
 ViewPeer& peerOf(const UIView& view)
@@ -50,16 +93,49 @@ CGRect boundsOf(const ViewPeer& peer)
     return { peer.origin, peer.frame.size };
 }
 
+bool canBeTouched(const ViewPeer& peer)
+{
+    return !peer.hidden && peer.alpha >= faintest && peer.userInteractionEnabled && !peer.ignoresTouches();
+}
+
+bool coversSuperview(const UIView& view)
+{
+    const auto area = view.superview()->bounds();
+    return canBeTouched(peerOf(view)) && area.size.width > 0 && area.size.height > 0
+        && contains(view.frame(), area);
+}
+
+CGRect partWithin(const UIView& view, const UIView* outermost)
+{
+    auto part = view.bounds();
+    // Where the view's own coordinates start in those of the view around it.
+    CGPoint start;
+    const auto* ancestor = &view;
+    while (const auto* superview = ancestor == outermost ? nullptr : ancestor->superview()) {
+        start = toSuperview(start, peerOf(*ancestor));
+        const auto bounds = superview->bounds();
+        part = intersection(part, { { bounds.origin.x - start.x, bounds.origin.y - start.y }, bounds.size });
+        ancestor = superview;
+    }
+    return part;
+}
+
+bool isWithin(const UIView* view, const UIView& ancestor)
+{
+    while (view && view != &ancestor)
+        view = view->superview();
+    return view != nullptr;
+}
+
 CGRect reachOf(const ViewPeer& peer)
 {
     if (peer.clipsToBounds)
-        return boundsOf(peer);
-    auto reach = insetBy(boundsOf(peer), -peer.overhang, -peer.overhang);
+        return shownBoundsOf(peer);
+    auto reach = insetBy(shownBoundsOf(peer), -peer.overhang, -peer.overhang);
     for (const auto& subview : peer.subviews) {
         const auto& inner = peerOf(*subview);
-        const auto innerReach = reachOf(inner);
         if (!inner.hidden)
-            reach = unite(reach, { toSuperview(innerReach.origin, inner), innerReach.size });
+            reach = unite(reach, shownInSuperview(reachOf(inner), inner));
     }
     return reach;
 }
@@ -71,16 +147,16 @@ void setNeedsDisplay(const UIView& view)
 
 void setNeedsDisplay(const UIView& view, const CGRect& rect)
 {
+    const auto* window = windowOf(view);
+    if (!window)
+        return;
     auto part = rect;
-    const auto* ancestor = &view;
-    while (const auto* superview = ancestor->superview()) {
+    for (const auto* ancestor = &view; ancestor != window; ancestor = ancestor->superview()) {
         if (ancestor->isHidden())
             return;
-        part.origin = toSuperview(part.origin, peerOf(*ancestor));
-        ancestor = superview;
+        part = shownInSuperview(part, peerOf(*ancestor));
     }
-    if (auto* window = dynamic_cast<const Window*>(ancestor))
-        window->invalidate(part);
+    window->invalidate(part);
 }
 
 void setOrigin(UIView& view, CGPoint origin)
@@ -122,18 +198,20 @@ void layOutTree(UIView& view)
 void drawTree(const UIView& view, Canvas& canvas)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.alpha <= 0)
+    const auto frame = peer.shownFrame();
+    const double alpha = peer.shownAlpha();
+    if (peer.hidden || alpha <= 0 || !isFinite(frame))
         return;
     const auto reach = reachOf(peer);
-    if (!canvas.showsAnythingIn({ toSuperview(reach.origin, peer), reach.size }))
+    if (!canvas.showsAnythingIn(shownInSuperview(reach, peer)))
         return;
 
     canvas.save();
-    canvas.translate(peer.frame.origin.x - peer.origin.x, peer.frame.origin.y - peer.origin.y);
+    canvas.translate(frame.origin.x - peer.origin.x, frame.origin.y - peer.origin.y);
     const bool rounded = peer.clipsToBounds && peer.cornerRadius > 0;
-    const bool grouped = rounded || peer.alpha < 1;
+    const bool grouped = rounded || alpha < 1;
     if (grouped)
-        canvas.beginGroup(reach, peer.alpha, rounded ? peer.cornerRadius : 0);
+        canvas.beginGroup(reach, alpha, rounded ? peer.cornerRadius : 0);
     else if (peer.clipsToBounds)
         canvas.clip(reach);
     drawContents(peer, canvas);
@@ -145,7 +223,7 @@ void drawTree(const UIView& view, Canvas& canvas)
 UIView* hitTest(UIView& view, CGPoint point)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.alpha < faintest || peer.ignoresTouches() || !contains(boundsOf(peer), point))
+    if (!canBeTouched(peer) || !contains(boundsOf(peer), point))
         return nullptr;
     // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
     for (auto front = peer.subviews.rbegin(); front != peer.subviews.rend(); ++front) {
@@ -155,10 +233,23 @@ UIView* hitTest(UIView& view, CGPoint point)
     return &view;
 }
 
+bool isFinite(const CGRect& rect)
+{
+    return std::isfinite(rect.origin.x) && std::isfinite(rect.origin.y) && std::isfinite(rect.size.width)
+        && std::isfinite(rect.size.height);
+}
+
 bool contains(const CGRect& rect, CGPoint point)
 {
     return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width && point.y >= rect.origin.y
         && point.y < rect.origin.y + rect.size.height;
+}
+
+bool contains(const CGRect& outer, const CGRect& inner)
+{
+    return inner.origin.x >= outer.origin.x && inner.origin.y >= outer.origin.y
+        && inner.origin.x + inner.size.width <= outer.origin.x + outer.size.width
+        && inner.origin.y + inner.size.height <= outer.origin.y + outer.size.height;
 }
 
 bool intersects(const CGRect& a, const CGRect& b)
@@ -171,6 +262,15 @@ CGRect insetBy(const CGRect& rect, double dx, double dy)
 {
     return CGRectMake(
         rect.origin.x + dx, rect.origin.y + dy, rect.size.width - 2 * dx, rect.size.height - 2 * dy);
+}
+
+CGRect intersection(const CGRect& a, const CGRect& b)
+{
+    const double left = std::max(a.origin.x, b.origin.x);
+    const double top = std::max(a.origin.y, b.origin.y);
+    const double right = std::min(a.origin.x + a.size.width, b.origin.x + b.size.width);
+    const double bottom = std::min(a.origin.y + a.size.height, b.origin.y + b.size.height);
+    return CGRectMake(left, top, std::max(0.0, right - left), std::max(0.0, bottom - top));
 }
 
 CGRect unite(const CGRect& a, const CGRect& b)

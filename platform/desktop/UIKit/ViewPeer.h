@@ -4,10 +4,14 @@
 #include "platform/UIKit/UIView.h"
 #include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/Accessible.h"
+#include "platform/desktop/UIKit/Animation.h"
 #include "platform/desktop/UIKit/Canvas.h"
+#include "platform/desktop/UIKit/FocusRing.h"
+#include "platform/desktop/UIKit/Key.h"
 #include "platform/desktop/UIKit/Touch.h"
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace brimsound::desktop {
@@ -32,6 +36,16 @@ struct ViewPeer : Peer {
     bool hidden = false;
     bool clipsToBounds = false;
     bool needsLayout = true;
+    bool userInteractionEnabled = true;
+    long tag = 0;
+    /// Null while the view looks as it is.
+    std::shared_ptr<Animation> animation;
+
+    // What is drawn: on its way to what the view has while that moves.
+    CGRect shownFrame() const;
+    double shownAlpha() const;
+    Color shownBackground() const;
+
     /// How far the view draws beyond its bounds, in points.
     double overhang = 0;
 
@@ -51,6 +65,22 @@ struct ViewPeer : Peer {
     virtual void touchEnded(const Touch&) { }
     virtual void touchCancelled() { }
 
+    // Set by the focus of the view's window.
+    bool hasKeyboard = false;
+    bool showsFocus = false;
+    /// What shows that the view has the keyboard.
+    virtual FocusRing focusRing() const;
+    /// What in the view has the keyboard while the view has it.
+    virtual UIView& focusedPart() const { return *view; }
+    /// The view is about to have the keyboard for the sake of that part of it, which may be itself.
+    virtual void focusOn(UIView&) { }
+    /// Brings what has the keyboard on view.
+    virtual void scrollToFocus();
+    /// A key was pressed while the view has the keyboard. False when the key means nothing to it.
+    virtual bool keyPressed(Key, KeyStroke) { return false; }
+    /// The last key that it took was let go of.
+    virtual void keysReleased() { }
+
     /// Told when the view is laid out, before its layoutSubviews.
     virtual void willLayOut() { }
 
@@ -66,7 +96,20 @@ ViewPeer& peerOf(const UIView&);
 /// The bounds in the view's own coordinates.
 CGRect boundsOf(const ViewPeer&);
 
-/// All that the view and its subviews draw on, in the view's own coordinates.
+/// Whether touches reach the view, or what is in it, where nothing lies over it.
+bool canBeTouched(const ViewPeer&);
+
+/// Whether the view keeps touches from everything that lies below it in its superview.
+bool coversSuperview(const UIView&);
+
+/// The part of the view that lies within the views around it, up to the outermost one, in the view's own
+/// coordinates. Without an outermost one, up to the window.
+CGRect partWithin(const UIView& view, const UIView* outermost);
+
+/// Whether the view is the other one or lies in it; false for null.
+bool isWithin(const UIView*, const UIView& ancestor);
+
+/// All that the view and its subviews draw on as they show now, in the view's own coordinates.
 CGRect reachOf(const ViewPeer&);
 
 /// Marks the view, or a part of it given in its own coordinates, to be drawn again.
@@ -90,9 +133,12 @@ void drawTree(const UIView&, Canvas&);
 /// there can be touched.
 UIView* hitTest(UIView&, CGPoint);
 
+bool isFinite(const CGRect&);
 bool contains(const CGRect&, CGPoint);
+bool contains(const CGRect& outer, const CGRect& inner);
 bool intersects(const CGRect&, const CGRect&);
 CGRect insetBy(const CGRect&, double dx, double dy);
+CGRect intersection(const CGRect&, const CGRect&);
 CGRect unite(const CGRect&, const CGRect&);
 
 } // namespace brimsound::desktop

@@ -1,6 +1,9 @@
 #include "platform/desktop/UIKit/Window.h"
 
 #include "platform/desktop/UIKit/ScrollPeer.h"
+#include "platform/desktop/UIKit/TextFieldPeer.h"
+
+#include <utility>
 
 namespace brimsound::desktop {
 
@@ -9,6 +12,19 @@ namespace {
 Window* lastWindow = nullptr;
 
 } // namespace
+
+const Window* windowOf(const UIView& view)
+{
+    const auto* ancestor = &view;
+    while (const auto* superview = ancestor->superview())
+        ancestor = superview;
+    return dynamic_cast<const Window*>(ancestor);
+}
+
+Window* windowOf(UIView& view)
+{
+    return const_cast<Window*>(windowOf(std::as_const(view)));
+}
 
 Window* keyWindow()
 {
@@ -28,30 +44,43 @@ Window::~Window()
         lastWindow = nullptr;
 }
 
-Overlay* Window::frontOverlay() const
+bool Window::keyPressed(Key key, KeyStroke stroke)
 {
-    // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
-    for (auto front = subviews().rbegin(); front != subviews().rend(); ++front) {
-        auto* overlay = dynamic_cast<Overlay*>(front->get());
-        if (overlay && !peerOf(*overlay).ignoresTouches())
-            return overlay;
-    }
-    return nullptr;
+    layOut();
+    return _focus.keyPressed(key, stroke);
 }
 
-bool Window::keyPressed(Key key)
+void Window::keyReleased(Key key)
 {
-    auto* overlay = frontOverlay();
-    if (overlay)
-        overlay->keyPressed(key);
-    return overlay != nullptr;
+    _focus.keyReleased(key);
+}
+
+void Window::releaseKeys()
+{
+    _focus.releaseKeys();
+}
+
+bool Window::typeText(const std::string& text)
+{
+    layOut();
+    const auto* field = dynamic_cast<const UITextField*>(_focus.view());
+    if (field)
+        peerOf(*field).type(text);
+    return field != nullptr;
 }
 
 void Window::touchDown(const Touch& touch)
 {
     layOut();
-    if (auto* hit = isTouched() ? nullptr : hitTest(*this, touch.location))
-        _touch.begin(*hit, touch);
+    const bool isPointed = touch.pointer != Pointer::Keyboard;
+    if (isPointed)
+        releaseKeys();
+    auto* hit = isTouched() ? nullptr : hitTest(*this, touch.location);
+    if (!hit)
+        return;
+    if (isPointed)
+        _focus.touched(*hit);
+    _touch.begin(*hit, touch);
 }
 
 void Window::touchMove(CGPoint location)
@@ -81,6 +110,7 @@ void Window::scroll(CGPoint at, CGPoint by)
 void Window::layOut()
 {
     layOutTree(*this);
+    _focus.refresh();
 }
 
 void Window::invalidate(const CGRect& part) const

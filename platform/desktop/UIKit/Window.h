@@ -4,6 +4,7 @@
 #include "platform/UIKit/UIView.h"
 #include "platform/desktop/UIKit/Accessible.h"
 #include "platform/desktop/UIKit/AlertQueue.h"
+#include "platform/desktop/UIKit/Focus.h"
 #include "platform/desktop/UIKit/Key.h"
 #include "platform/desktop/UIKit/Touch.h"
 #include "platform/desktop/UIKit/TouchSession.h"
@@ -26,11 +27,16 @@ public:
     void touchCancel();
     bool isTouched() const { return _touch.isActive(); }
 
-    /// Hands a key to the frontmost overlay. False when there is none.
-    bool keyPressed(Key);
+    /// A key was pressed, or is held and strikes again. False when it means nothing.
+    bool keyPressed(Key, KeyStroke = KeyStroke::First);
+    /// A key was let go of; all were, or the keyboard went elsewhere.
+    void keyReleased(Key);
+    void releaseKeys();
+    /// Types into the text field that has the keyboard. False when there is none.
+    bool typeText(const std::string&);
 
-    /// The overlay that covers everything else; null when there is none.
-    Overlay* frontOverlay() const;
+    Focus& focus() { return _focus; }
+    const Focus& focus() const { return _focus; }
 
     AlertQueue& alerts() { return _alerts; }
 
@@ -45,6 +51,9 @@ public:
     /// Set by whoever paints the window: told of every part that must be painted again.
     std::function<void(const CGRect&)> onInvalidate;
 
+    /// Set by whoever lends text fields an editor: told when another view has the keyboard than before.
+    std::function<void()> onFocusMoved;
+
     /// Set by whoever makes the views accessible, while somebody listens.
     std::function<void(UIView&, AccessibleChange)> onAccessibleChange;
 
@@ -52,9 +61,14 @@ protected:
     ~Window() override;
 
 private:
+    Focus _focus { *this };
     AlertQueue _alerts;
     TouchSession _touch;
 };
+
+/// The window that the view is in; null when it is in none.
+Window* windowOf(UIView&);
+const Window* windowOf(const UIView&);
 
 /// The window that was made last and still exists, which alerts and sheets appear in; null when there is
 /// none.

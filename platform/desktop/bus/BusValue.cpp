@@ -9,6 +9,8 @@ namespace brimsound::desktop {
 
 namespace {
 
+constexpr std::size_t mostValues = 4096;
+
 int appendContainer(sd_bus_message* message, char type, const char* contents, auto appendContents)
 {
     int result = sd_bus_message_open_container(message, type, contents);
@@ -91,33 +93,39 @@ int appendVariant(sd_bus_message* message, const PropertyList& value)
     return appendContainer(message, 'v', signature, [&] { return appendContents(message, value); });
 }
 
+/// A message that is being read. A value takes more memory here than on the way, so there is an end to them.
+struct Reading {
+    sd_bus_message* message;
+    std::size_t valuesLeft = mostValues;
+};
+
 // The readers give more than 0 for a value, 0 at the end of a container, a negative errno on failure.
 
-int readContainer(sd_bus_message* message, char type, const char* contents, auto readContents)
+int readContainer(Reading& reading, char type, const char* contents, auto readContents)
 {
-    int result = sd_bus_message_enter_container(message, type, contents);
+    int result = sd_bus_message_enter_container(reading.message, type, contents);
     if (result <= 0)
         return result;
     result = readContents();
     if (result >= 0)
-        result = sd_bus_message_exit_container(message);
+        result = sd_bus_message_exit_container(reading.message);
     return result < 0 ? result : 1;
 }
 
-template <typename Wire> int readBasic(sd_bus_message* message, char type, auto convert)
+template <typename Wire> int readBasic(Reading& reading, char type, auto convert)
 {
     Wire wire {};
-    const int result = sd_bus_message_read_basic(message, type, &wire);
+    const int result = sd_bus_message_read_basic(reading.message, type, &wire);
     if (result > 0)
         convert(wire);
     return result;
 }
 
-int readBytes(sd_bus_message* message, PropertyList& value)
+int readBytes(Reading& reading, PropertyList& value)
 {
     const void* bytes = nullptr;
     std::size_t size = 0;
-    const int result = sd_bus_message_read_array(message, 'y', &bytes, &size);
+    const int result = sd_bus_message_read_array(reading.message, 'y', &bytes, &size);
     if (result < 0)
         return result;
     const auto* first = static_cast<const std::byte*>(bytes);
@@ -125,15 +133,16 @@ int readBytes(sd_bus_message* message, PropertyList& value)
     return 1;
 }
 
-int readValue(sd_bus_message*, PropertyList&);
+int readValue(Reading&, PropertyList&);
+int readDictionary(Reading&, PropertyList::Dictionary&);
 
-int readItems(sd_bus_message* message, const char* contents, PropertyList& value)
+int readItems(Reading& reading, const char* contents, PropertyList& value)
 {
     PropertyList::Array array;
-    const int result = readContainer(message, 'a', contents, [&] {
+    const int result = readContainer(reading, 'a', contents, [&] {
         for (;;) {
             PropertyList item;
-            const int itemResult = readValue(message, item);
+            const int itemResult = readValue(reading, item);
             if (itemResult <= 0)
                 return itemResult;
             array.push_back(std::move(item));
@@ -143,79 +152,100 @@ int readItems(sd_bus_message* message, const char* contents, PropertyList& value
     return result;
 }
 
-int readArray(sd_bus_message* message, std::string_view contents, PropertyList& value)
+int readArray(Reading& reading, std::string_view contents, PropertyList& value)
 {
     if (contents == "y")
-        return readBytes(message, value);
+        return readBytes(reading, value);
     if (contents.starts_with("{s")) {
         PropertyList::Dictionary dictionary;
-        const int result = readDictionary(message, dictionary);
+        const int result = readDictionary(reading, dictionary);
         value = std::move(dictionary);
         return result < 0 ? result : 1;
     }
     if (contents.starts_with('{'))
-        return sd_bus_message_skip(message, nullptr);
-    return readItems(message, std::string(contents).c_str(), value);
+        return sd_bus_message_skip(reading.message, nullptr);
+    return readItems(reading, std::string(contents).c_str(), value);
 }
 
 // Leaves the value null for a type that has no equivalent.
-int readValue(sd_bus_message* message, PropertyList& value)
+int readValue(Reading& reading, PropertyList& value)
 {
     char type = 0;
     const char* contents = nullptr;
-    const int result = sd_bus_message_peek_type(message, &type, &contents);
+    const int result = sd_bus_message_peek_type(reading.message, &type, &contents);
     if (result <= 0)
         return result;
+    if (reading.valuesLeft == 0)
+        return -E2BIG;
+    --reading.valuesLeft;
 
     const auto set = [&](auto wire) { value = wire; };
     const auto setInteger = [&](auto wire) { value = std::int64_t { wire }; };
     switch (type) {
     case SD_BUS_TYPE_BOOLEAN:
-        return readBasic<int>(message, type, [&](int wire) { value = wire != 0; });
+        return readBasic<int>(reading, type, [&](int wire) { value = wire != 0; });
     case SD_BUS_TYPE_BYTE:
-        return readBasic<std::uint8_t>(message, type, setInteger);
+        return readBasic<std::uint8_t>(reading, type, setInteger);
     case SD_BUS_TYPE_INT16:
-        return readBasic<std::int16_t>(message, type, setInteger);
+        return readBasic<std::int16_t>(reading, type, setInteger);
     case SD_BUS_TYPE_UINT16:
-        return readBasic<std::uint16_t>(message, type, setInteger);
+        return readBasic<std::uint16_t>(reading, type, setInteger);
     case SD_BUS_TYPE_INT32:
-        return readBasic<std::int32_t>(message, type, setInteger);
+        return readBasic<std::int32_t>(reading, type, setInteger);
     case SD_BUS_TYPE_UINT32:
-        return readBasic<std::uint32_t>(message, type, setInteger);
+        return readBasic<std::uint32_t>(reading, type, setInteger);
     case SD_BUS_TYPE_INT64:
-        return readBasic<std::int64_t>(message, type, setInteger);
+        return readBasic<std::int64_t>(reading, type, setInteger);
     case SD_BUS_TYPE_UINT64:
-        return readBasic<std::uint64_t>(message, type, [&](std::uint64_t wire) {
+        return readBasic<std::uint64_t>(reading, type, [&](std::uint64_t wire) {
             constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
             value = static_cast<std::int64_t>(std::min(wire, largest));
         });
     case SD_BUS_TYPE_DOUBLE:
-        return readBasic<double>(message, type, set);
+        return readBasic<double>(reading, type, set);
     case SD_BUS_TYPE_STRING:
     case SD_BUS_TYPE_OBJECT_PATH:
     case SD_BUS_TYPE_SIGNATURE:
-        return readBasic<const char*>(message, type, set);
+        return readBasic<const char*>(reading, type, set);
     case SD_BUS_TYPE_VARIANT:
-        return readContainer(message, type, contents, [&] { return readValue(message, value); });
+        return readContainer(reading, type, contents, [&] { return readValue(reading, value); });
     case SD_BUS_TYPE_ARRAY:
-        return readArray(message, contents, value);
+        return readArray(reading, contents, value);
     default:
-        return sd_bus_message_skip(message, nullptr);
+        return sd_bus_message_skip(reading.message, nullptr);
     }
 }
 
-int readEntry(sd_bus_message* message, const char* contents, PropertyList::Dictionary& dictionary)
+int readEntry(Reading& reading, const char* contents, PropertyList::Dictionary& dictionary)
 {
-    return readContainer(message, SD_BUS_TYPE_DICT_ENTRY, contents, [&] {
+    return readContainer(reading, SD_BUS_TYPE_DICT_ENTRY, contents, [&] {
         const char* key = nullptr;
-        int result = sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &key);
+        int result = sd_bus_message_read_basic(reading.message, SD_BUS_TYPE_STRING, &key);
         if (result <= 0)
             return result;
         PropertyList value;
-        result = readValue(message, value);
+        result = readValue(reading, value);
         if (result > 0 && !value.isNull())
             dictionary.set(key, std::move(value));
         return result;
+    });
+}
+
+int readDictionary(Reading& reading, PropertyList::Dictionary& dictionary)
+{
+    char type = 0;
+    const char* peeked = nullptr;
+    const int result = sd_bus_message_peek_type(reading.message, &type, &peeked);
+    const std::string contents = result > 0 && peeked ? peeked : "";
+    if (type != SD_BUS_TYPE_ARRAY || !contents.starts_with("{s"))
+        return result < 0 ? result : -EINVAL;
+    // An entry's own contents are what stands between the braces.
+    const auto entry = contents.substr(1, contents.size() - 2);
+    return readContainer(reading, SD_BUS_TYPE_ARRAY, contents.c_str(), [&] {
+        int entryResult = 1;
+        while (entryResult > 0)
+            entryResult = readEntry(reading, entry.c_str(), dictionary);
+        return entryResult;
     });
 }
 
@@ -237,20 +267,8 @@ int appendDictionary(sd_bus_message* message, const PropertyList::Dictionary& di
 
 int readDictionary(sd_bus_message* message, PropertyList::Dictionary& dictionary)
 {
-    char type = 0;
-    const char* peeked = nullptr;
-    const int result = sd_bus_message_peek_type(message, &type, &peeked);
-    const std::string contents = result > 0 && peeked ? peeked : "";
-    if (type != SD_BUS_TYPE_ARRAY || !contents.starts_with("{s"))
-        return result < 0 ? result : -EINVAL;
-    // An entry's own contents are what stands between the braces.
-    const auto entry = contents.substr(1, contents.size() - 2);
-    return readContainer(message, SD_BUS_TYPE_ARRAY, contents.c_str(), [&] {
-        int entryResult = 1;
-        while (entryResult > 0)
-            entryResult = readEntry(message, entry.c_str(), dictionary);
-        return entryResult;
-    });
+    Reading reading { message };
+    return readDictionary(reading, dictionary);
 }
 
 } // namespace brimsound::desktop

@@ -14,7 +14,8 @@ int appendDictionary(sd_bus_message*, const PropertyList::Dictionary&);
 
 /// Reads an "a{sv}", or any other dictionary with string keys, into the dictionary. Numbers of every type
 /// become integers or reals, strings, object paths and signatures strings, ay data, other arrays arrays. What
-/// has no equivalent is left out of dictionaries and null in arrays. A negative errno on failure.
+/// has no equivalent is left out of dictionaries and null in arrays. A negative errno on failure; more than
+/// 4096 values are one.
 int readDictionary(sd_bus_message*, PropertyList::Dictionary&);
 
 } // namespace brimsound::desktop

@@ -19,6 +19,7 @@ public:
     PrivateBus& operator=(const PrivateBus&) = delete;
     ~PrivateBus();
 
+    bool running() { return _daemon.running(); }
     const std::string& address() const { return _address; }
 
 private:

@@ -1,10 +1,33 @@
 #include "platform/desktop/bus/SessionBus.h"
 
 #include "platform/desktop/bus/Interfaces.h"
+#include "platform/desktop/bus/OpenBus.h"
 
 #include <cerrno>
+#include <chrono>
 
 namespace brimsound::desktop {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr auto busName = "org.freedesktop.DBus";
+constexpr auto busPath = "/org/freedesktop/DBus";
+constexpr auto peerInterface = "org.freedesktop.DBus.Peer";
+
+/// How long messages are handled before the main loop has its turn.
+constexpr std::chrono::milliseconds longestTurn { 10 };
+/// How long a flood may keep the answer back that ends a drain, in microseconds.
+constexpr std::uint64_t longestDrain = 60'000'000;
+
+int noteAnswer(sd_bus_message*, void* answered, sd_bus_error*)
+{
+    *static_cast<bool*>(answered) = true;
+    return 0;
+}
+
+} // namespace
 
 SessionBus& SessionBus::shared()
 {
@@ -14,64 +37,93 @@ SessionBus& SessionBus::shared()
 
 sd_bus* SessionBus::connection()
 {
-    if (_bus && sd_bus_is_open(_bus.get()) <= 0)
+    reopen();
+    return _speaker.get();
+}
+
+sd_bus* SessionBus::listener()
+{
+    reopen();
+    return _listener.get();
+}
+
+std::array<int, 2> SessionBus::descriptors() const
+{
+    if (!_listener)
+        return { -1, -1 };
+    return { sd_bus_get_fd(_speaker.get()), sd_bus_get_fd(_listener.get()) };
+}
+
+bool SessionBus::isOpen() const
+{
+    return _listener && sd_bus_is_open(_speaker.get()) > 0 && sd_bus_is_open(_listener.get()) > 0;
+}
+
+void SessionBus::reopen()
+{
+    if (isOpen())
+        return;
+    if (_listener)
         close();
-    if (!_bus)
+    if (!open() && onUnreachable && onUnreachable())
         open();
-    return _bus.get();
 }
 
-int SessionBus::fd()
+bool SessionBus::open()
 {
-    return _bus ? sd_bus_get_fd(_bus.get()) : -1;
-}
-
-void SessionBus::open()
-{
-    sd_bus* opened = nullptr;
-    if (sd_bus_open_user(&opened) < 0)
-        return;
-    BusConnection bus(opened);
-    if (!subscribe(bus.get()))
-        return;
-    _bus = std::move(bus);
+    auto speaker = openSessionBus();
+    auto listener = speaker ? openSessionBus() : nullptr;
+    if (!listener || !subscribe(listener.get()))
+        return false;
+    _speaker = std::move(speaker);
+    _listener = std::move(listener);
+    askForOwners(_listener.get());
     if (onReconnect)
         onReconnect();
+    return true;
 }
 
 bool SessionBus::subscribe(sd_bus* bus)
 {
-    // Waits for the bus to answer, so a connection that is kept is known to work.
     return sd_bus_match_signal(bus, nullptr, nullptr, notificationsPath, notificationsInterface, postedSignal,
                notificationPosted, this)
         >= 0
-        && sd_bus_match_signal(bus, nullptr, "org.freedesktop.DBus", "/org/freedesktop/DBus",
-               "org.freedesktop.DBus", "NameOwnerChanged", ownerChanged, this)
+        && sd_bus_match_signal(
+               bus, nullptr, busName, busPath, busName, "NameOwnerChanged", ownerChanged, this)
         >= 0;
+}
+
+void SessionBus::askForOwners(sd_bus* bus)
+{
+    for (auto& [name, handler] : _lossHandlers) {
+        sd_bus_call_method_async(
+            bus, nullptr, busName, busPath, busName, "NameHasOwner", ownerTold, &handler, "s", name.c_str());
+    }
 }
 
 void SessionBus::close()
 {
-    _bus.reset();
+    _speaker.reset();
+    _listener.reset();
     if (onReconnect)
         onReconnect();
 }
 
-bool SessionBus::hasOwner(const std::string& busName)
+bool SessionBus::hasOwner(const std::string& name)
 {
-    return connection() && sd_bus_get_name_creds(_bus.get(), busName.c_str(), 0, nullptr) >= 0;
+    return connection() && sd_bus_get_name_creds(_speaker.get(), name.c_str(), 0, nullptr) >= 0;
 }
 
 void SessionBus::subscribeToNotifications(std::function<void(std::string_view)> handler)
 {
     _handlers.push_back(std::move(handler));
-    connection();
+    listener();
 }
 
-void SessionBus::watchForLoss(const std::string& busName, std::function<void()> handler)
+void SessionBus::watchForLoss(const std::string& name, std::function<void()> handler)
 {
-    _lossHandlers[busName] = std::move(handler);
-    connection();
+    _lossHandlers[name] = std::move(handler);
+    listener();
 }
 
 int SessionBus::ownerChanged(sd_bus_message* message, void* self, sd_bus_error*)
@@ -87,6 +139,14 @@ int SessionBus::ownerChanged(sd_bus_message* message, void* self, sd_bus_error*)
     return 0;
 }
 
+int SessionBus::ownerTold(sd_bus_message* message, void* handler, sd_bus_error*)
+{
+    int owned = 0;
+    if (sd_bus_message_read(message, "b", &owned) > 0 && !owned)
+        (*static_cast<std::function<void()>*>(handler))();
+    return 0;
+}
+
 int SessionBus::notificationPosted(sd_bus_message* message, void* self, sd_bus_error*)
 {
     const char* name = nullptr;
@@ -97,25 +157,65 @@ int SessionBus::notificationPosted(sd_bus_message* message, void* self, sd_bus_e
     return 0;
 }
 
+/// False when nothing is left.
+bool SessionBus::processOne()
+{
+    for (auto* connection : { &_speaker, &_listener }) {
+        auto* bus = connection->get();
+        if (!bus)
+            return false;
+        const int handled = sd_bus_process(bus, nullptr);
+        // Busy: this was called by a handler, and the call that is under way goes on afterwards.
+        if (handled == -EBUSY)
+            continue;
+        // A handler may have opened another one meanwhile.
+        if ((handled < 0 || sd_bus_is_open(bus) <= 0) && connection->get() == bus) {
+            close();
+            return false;
+        }
+        if (handled > 0)
+            return true;
+    }
+    return false;
+}
+
 void SessionBus::process()
 {
-    while (_bus) {
-        const int handled = sd_bus_process(_bus.get(), nullptr);
-        // Busy: this was called by a handler, and the call that is under way goes on afterwards.
-        if (handled == 0 || handled == -EBUSY)
-            return;
-        if (handled < 0 || sd_bus_is_open(_bus.get()) <= 0)
-            close();
+    const auto end = Clock::now() + longestTurn;
+    while (processOne()) {
+        if (Clock::now() < end)
+            continue;
+        if (onPending)
+            onPending();
+        return;
     }
 }
 
 void SessionBus::drain()
 {
-    if (connection()) {
-        sd_bus_call_method(_bus.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
-            "org.freedesktop.DBus.Peer", "Ping", nullptr, nullptr, nullptr);
+    // Called by a handler: the call that is under way goes on afterwards.
+    if (!listener() || sd_bus_get_current_message(_listener.get()))
+        return;
+    // Messages come in their order. When the bus has answered the speaker, it has passed on what that said;
+    // when it has answered the listener, all of it has been handled.
+    sd_bus_message* created = nullptr;
+    sd_bus_slot* pending = nullptr;
+    bool answered = false;
+    auto* bus = _listener.get();
+    if (sd_bus_call_method(_speaker.get(), busName, busPath, peerInterface, "Ping", nullptr, nullptr, nullptr)
+            < 0
+        || sd_bus_message_new_method_call(bus, &created, busName, busPath, peerInterface, "Ping") < 0) {
+        process();
+        return;
     }
-    process();
+    const BusMessage ping(created);
+    if (sd_bus_call_async(bus, &pending, ping.get(), noteAnswer, &answered, longestDrain) < 0)
+        return;
+    const BusSlot slot(pending);
+    while (!answered && bus == _listener.get()) {
+        if (!processOne() && _listener && sd_bus_wait(bus, longestDrain) < 0)
+            return;
+    }
 }
 
 } // namespace brimsound::desktop

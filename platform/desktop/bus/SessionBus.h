@@ -1,8 +1,9 @@
-// This process's one connection to the session bus.
+// This process on the session bus.
 #pragma once
 
 #include "platform/desktop/bus/BusPointers.h"
 
+#include <array>
 #include <functional>
 #include <map>
 #include <string>
@@ -11,18 +12,21 @@
 
 namespace brimsound::desktop {
 
-/// A connection that is opened on first use, and opened anew on the next use after it was lost; what was
-/// subscribed to is subscribed to again then. Main thread only. It is served by whoever runs the main loop:
-/// `process` when `fd` is readable, and after any call that waited for a reply (such a call may have taken
-/// other messages in; `onPending` is told).
+/// Two connections, one to speak and one to listen, so that no flood of notifications keeps the answer to a
+/// call back. They are opened on first use, and opened anew on the next use after they were lost; what was
+/// subscribed to is subscribed to again then. Main thread only. They are served by whoever runs the main
+/// loop: `process` when one of the `descriptors` is readable, and whenever `onPending` is told.
 class SessionBus {
 public:
     static SessionBus& shared();
 
-    /// The open connection, owned by this object; null when there is no session bus to be reached.
+    /// For calls and posts, which arrive in the order in which they were made. Owned by this object; null
+    /// when there is no session bus to be reached. One that does not answer is waited for a second.
     sd_bus* connection();
-    /// The descriptor to watch for input; -1 without a connection.
-    int fd();
+    /// What is subscribed to arrives here, and the calls that others make. As `connection` otherwise.
+    sd_bus* listener();
+    /// What to watch for input; -1 without a connection.
+    std::array<int, 2> descriptors() const;
 
     /// Whether a process on the bus owns the name.
     bool hasOwner(const std::string& busName);
@@ -30,30 +34,40 @@ public:
     /// Calls the handler with the name of every Darwin notification posted on the bus.
     void subscribeToNotifications(std::function<void(std::string_view name)> handler);
 
-    /// Calls the handler whenever a name loses its last owner.
+    /// Calls the handler whenever a name loses its last owner, and when nobody owns it on a bus that was
+    /// reached anew.
     void watchForLoss(const std::string& busName, std::function<void()> handler);
 
-    /// Handles every message that has arrived, without waiting.
+    /// Handles messages that have arrived, without waiting. After some hundredths of a second it leaves the
+    /// rest for later, so that no flood of messages holds the main loop up.
     void process();
-    /// Handles every message that was posted by this process, or by another one before this call: makes a
-    /// round trip to the bus, so that all of them have arrived, then processes.
+    /// Handles every message that was posted by this process, or by another one before this call.
     void drain();
 
-    /// Set by the main loop: called when messages may be waiting that the descriptor no longer shows.
+    /// Set by the main loop: called when `process` left messages that the descriptors may no longer show.
     std::function<void()> onPending;
-    /// Set by the main loop: called when the descriptor changed, because the connection was opened or lost.
+    /// Set by the main loop: called when the descriptors changed, because the connections were opened or
+    /// lost.
     std::function<void()> onReconnect;
+    /// Set by an app that brings its own bus: called when there is none to be reached; whether to try again.
+    std::function<bool()> onUnreachable;
 
 private:
     SessionBus() = default;
 
-    void open();
+    bool isOpen() const;
+    void reopen();
+    bool open();
     void close();
     bool subscribe(sd_bus*);
+    void askForOwners(sd_bus*);
+    bool processOne();
     static int ownerChanged(sd_bus_message*, void* self, sd_bus_error*);
+    static int ownerTold(sd_bus_message*, void* handler, sd_bus_error*);
     static int notificationPosted(sd_bus_message*, void* self, sd_bus_error*);
 
-    BusConnection _bus;
+    BusConnection _speaker;
+    BusConnection _listener;
     std::vector<std::function<void(std::string_view)>> _handlers;
     std::map<std::string, std::function<void()>> _lossHandlers;
 };

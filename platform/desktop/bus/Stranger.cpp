@@ -1,19 +1,17 @@
 #include "platform/desktop/bus/Stranger.h"
 
-#include "platform/desktop/bus/BusPointers.h"
 #include "platform/desktop/bus/Interfaces.h"
+#include "platform/desktop/bus/OpenBus.h"
 
 namespace brimsound::desktop {
 
 bool postNotificationAsStranger(const std::string& name)
 {
-    sd_bus* opened = nullptr;
-    if (sd_bus_open_user(&opened) < 0)
-        return false;
-    const BusConnection bus(opened);
-    if (sd_bus_emit_signal(
-            bus.get(), notificationsPath, notificationsInterface, postedSignal, "s", name.c_str())
-        < 0)
+    const auto bus = openSessionBus();
+    if (!bus
+        || sd_bus_emit_signal(
+               bus.get(), notificationsPath, notificationsInterface, postedSignal, "s", name.c_str())
+            < 0)
         return false;
     // The answer to a later call shows that the bus has passed the signal on.
     return sd_bus_call_method(bus.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",

@@ -2,18 +2,16 @@
 
 #include "platform/AppSupport/rocketbootstrap.h"
 #include "platform/desktop/bus/BusValue.h"
-#include "platform/desktop/bus/Interfaces.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "tests/support/EnvironmentVariable.h"
 #include "tests/support/RecordingEffects.h"
+#include "tests/support/StandInServer.h"
 #include "tests/support/TestBus.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
 #include <chrono>
-#include <functional>
-#include <thread>
 
 namespace brimsound {
 
@@ -24,37 +22,12 @@ namespace {
 
 constexpr auto centerName = "test.messaging.center";
 
-// Owns the center's name and answers one message after the other.
-class Server {
+class Server : public tests::StandInServer {
 public:
-    using Answer = std::function<int(sd_bus_message*)>;
-
-    Server(tests::TestBus& bus, Answer answer)
-        : _bus(bus.connectAnother())
-        , _answer(std::move(answer))
+    explicit Server(Answer answer)
+        : StandInServer(centerName, std::move(answer))
     {
-        sd_bus_add_object(_bus.get(), nullptr, "/test/messaging/center", handle, this);
-        sd_bus_request_name(_bus.get(), centerName, 0);
-        _thread = std::jthread([this](std::stop_token stop) {
-            while (!stop.stop_requested()) {
-                while (sd_bus_process(_bus.get(), nullptr) > 0) { }
-                sd_bus_wait(_bus.get(), 5000);
-            }
-        });
     }
-
-private:
-    static int handle(sd_bus_message* message, void* self, sd_bus_error*)
-    {
-        if (!sd_bus_message_is_method_call(
-                message, "com.quorvix.brimsound.MessagingCenter", "SendMessageAndReceiveReply"))
-            return 0;
-        return static_cast<Server*>(self)->_answer(message);
-    }
-
-    desktop::BusConnection _bus;
-    Answer _answer;
-    std::jthread _thread;
 };
 
 class AMessagingCenter : public testing::Test {
@@ -74,7 +47,7 @@ protected:
 
 TEST_F(AMessagingCenter, SendsTheMessageAndGivesTheReply)
 {
-    const Server server(bus, [](sd_bus_message* message) {
+    const Server server([](sd_bus_message* message) {
         EXPECT_STREQ(sd_bus_message_get_signature(message, 1), "sa{sv}");
         const char* name = nullptr;
         PropertyList::Dictionary userInfo;
@@ -94,7 +67,7 @@ TEST_F(AMessagingCenter, SendsTheMessageAndGivesTheReply)
 TEST_F(AMessagingCenter, LeavesTheErrorAsItWasWhenAReplyComes)
 {
     const Server server(
-        bus, [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); });
+        [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); });
     const NSError before { "domain", "from before" };
     error = before;
     send();
@@ -114,7 +87,7 @@ TEST_F(AMessagingCenter, TellsWhyWhenNobodyServesIt)
 
 TEST_F(AMessagingCenter, GivesTheServersErrorInOneLine)
 {
-    const Server server(bus, [](sd_bus_message* message) {
+    const Server server([](sd_bus_message* message) {
         return sd_bus_reply_method_errorf(message, "test.Error.Refused", "not\nnow");
     });
     EXPECT_TRUE(send().empty());
@@ -139,7 +112,7 @@ TEST_F(AMessagingCenter, WaitsForAReplyOneSecondAtMost)
 TEST_F(AMessagingCenter, TakesNoReplyOfTheWrongType)
 {
     const Server server(
-        bus, [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "s", "hello"); });
+        [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "s", "hello"); });
     EXPECT_TRUE(send().empty());
     EXPECT_TRUE(error);
 }
@@ -147,23 +120,13 @@ TEST_F(AMessagingCenter, TakesNoReplyOfTheWrongType)
 TEST_F(AMessagingCenter, CannotSendNull)
 {
     std::atomic<int> received = 0;
-    const Server server(bus, [&](sd_bus_message* message) {
+    const Server server([&](sd_bus_message* message) {
         ++received;
         return sd_bus_reply_method_return(message, "a{sv}", 0);
     });
     EXPECT_TRUE(send({ { "nothing", {} } }).empty());
     EXPECT_TRUE(error);
     EXPECT_EQ(received, 0);
-}
-
-TEST_F(AMessagingCenter, SaysThatMessagesMayBePendingAfterEverySend)
-{
-    int told = 0;
-    desktop::SessionBus::shared().onPending = [&] { ++told; };
-    send();
-    send();
-    desktop::SessionBus::shared().onPending = nullptr;
-    EXPECT_EQ(told, 2);
 }
 
 TEST_F(AMessagingCenter, FailsWithoutABusAndRecoversWhenAppliedToTheNextOne)
@@ -182,7 +145,7 @@ TEST_F(AMessagingCenter, FailsWithoutABusAndRecoversWhenAppliedToTheNextOne)
 
     tests::TestBus next;
     const Server server(
-        next, [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); });
+        [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); });
     rocketbootstrap_distributedmessagingcenter_apply(*center);
     error.reset();
     send();

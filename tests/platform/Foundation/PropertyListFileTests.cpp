@@ -1,6 +1,7 @@
 #include "platform/Foundation/PropertyListSerialization.h"
 
 #include "platform/desktop/process/ChildProcess.h"
+#include "tests/support/BinaryPropertyList.h"
 #include "tests/support/RecordingEffects.h"
 #include "tests/support/TemporaryRoot.h"
 
@@ -17,7 +18,12 @@ namespace brimsound {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using tests::arrayOf;
+using tests::binaryFile;
+using tests::dictionaryOf;
 using tests::RecordingEffects;
+using tests::repeat;
+using tests::stringOf;
 using tests::TemporaryRoot;
 namespace fs = std::filesystem;
 
@@ -57,44 +63,6 @@ PropertyList::Data data(std::string_view bytes)
 {
     const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
     return { first, first + bytes.size() };
-}
-
-std::string repeat(std::string_view part, int times)
-{
-    std::string all;
-    for (int i = 0; i < times; ++i)
-        all += part;
-    return all;
-}
-
-// A binary property list whose objects, the root first, are given as bytes; references are two bytes long.
-std::string binaryFile(const std::vector<std::string>& objects)
-{
-    const auto bigEndian = [](std::uint64_t value, int size) {
-        std::string bytes;
-        for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
-            bytes += static_cast<char>(value >> shift);
-        return bytes;
-    };
-    std::string file = "bplist00";
-    std::string offsets;
-    for (const auto& object : objects) {
-        offsets += bigEndian(file.size(), 4);
-        file += object;
-    }
-    const auto offsetTable = file.size();
-    return file + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(objects.size(), 8) + bigEndian(0, 8)
-        + bigEndian(offsetTable, 8);
-}
-
-std::string arrayOf(std::initializer_list<int> references)
-{
-    std::string object(1, static_cast<char>(0xa0 + references.size()));
-    for (const int reference : references) {
-        object += static_cast<char>(reference >> 8);
-        object += static_cast<char>(reference);
-    }
-    return object;
 }
 
 // What Python's independent reader makes of the file.
@@ -262,6 +230,50 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
     EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
 }
 
+TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
+{
+    const PropertyList expected = PropertyList::Dictionary { { "a\uFFFDb", "\uFFFDc" } };
+    const auto value = reading(binaryFile({ dictionaryOf(1, 2),
+        stringOf("a\xff"
+                 "b"),
+        stringOf("\xc3"
+                 "c") }));
+    EXPECT_EQ(value, expected);
+    EXPECT_EQ(reading("<plist><dict><key>a\xff"
+                      "b</key><string>\xc3"
+                      "c</string></dict></plist>"),
+        expected);
+    ASSERT_TRUE(value);
+    EXPECT_NE(dataWithPropertyList(*value, binary, 0), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, KeepsAMomentBeforeTheReferenceDate)
+{
+    const auto date = std::string("\x33\xbf\xf8\0\0\0\0\0\0", 9);
+    const auto value = reading(binaryFile({ date }));
+    ASSERT_TRUE(value && value->asDate());
+    EXPECT_EQ(value->asDate()->secondsSinceReferenceDate, -1.5);
+    EXPECT_THAT(text(*dataWithPropertyList(*value, binary, 0)), HasSubstr(date));
+}
+
+TEST_F(ReadingAPropertyListFile, TakesAMomentOutOfRangeForOneThatCanBeWritten)
+{
+    const auto value = reading(binaryFile({ "\x33\x7e\x37\xe4\x3c\x88\x01\x75\x9c" }));
+    ASSERT_TRUE(value && value->asDate());
+    EXPECT_NE(dataWithPropertyList(*value, binary, 0), std::nullopt);
+}
+
+TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatIsTooLong)
+{
+    const auto padded = [](std::size_t length) {
+        const std::string start = "<plist><true/><!--";
+        const std::string end = "--></plist>";
+        return start + std::string(length - start.size() - end.size(), ' ') + end;
+    };
+    EXPECT_EQ(reading(padded(8 << 20)), PropertyList(true));
+    EXPECT_EQ(reading(padded((8 << 20) + 1)), std::nullopt);
+}
+
 TEST_F(ReadingAPropertyListFile, GivesNothingForReferencesToNowhere)
 {
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 7 }) })), std::nullopt);
@@ -332,6 +344,12 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNestedTooDeepToBeReadAgain)
     for (int i = 0; i < 600; ++i)
         deep = PropertyList::Array { std::move(deep) };
     EXPECT_EQ(dataWithPropertyList(deep, binary, 0), std::nullopt);
+}
+
+TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
+{
+    EXPECT_NE(dataWithPropertyList(PropertyList::Array(100'000, true), binary, 0), std::nullopt);
+    EXPECT_EQ(dataWithPropertyList(PropertyList::Array(200'000, true), binary, 0), std::nullopt);
 }
 
 TEST_F(WritingAPropertyListFile, TakesTenThousandPresets)

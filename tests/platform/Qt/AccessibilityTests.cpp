@@ -2,6 +2,7 @@
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UISlider.h"
 #include "platform/UIKit/UISwitch.h"
+#include "platform/UIKit/UITextField.h"
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
 #include "platform/desktop/UIKit/TextButton.h"
@@ -11,6 +12,7 @@
 #include "tests/platform/UIKit/Lists.h"
 
 #include <QAccessible>
+#include <QApplication>
 
 #include <gmock/gmock.h>
 
@@ -269,6 +271,54 @@ TEST_F(AnAccessiblePane, TellsWhichButtonOfAnAlertHasTheKeyboard)
     EXPECT_FALSE(find("No")->state().focused);
 }
 
+TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIs)
+{
+    window->keyPressed(desktop::Key::Tab);
+    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::Focus, QString("Pre"))));
+    EXPECT_TRUE(find("Pre")->state().focused);
+    EXPECT_FALSE(find("170")->state().focused);
+}
+
+TEST_F(AnAccessiblePane, GivesTheKeyboardToWhateverIsAskedFor)
+{
+    find("170")->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(window->focus().view(), sliders[1].get());
+    EXPECT_TRUE(find("170")->state().focused);
+    showAlert();
+    auto& alert = *root().child(0);
+    EXPECT_TRUE(find("No")->state().focused);
+    EXPECT_FALSE(alert.state().focused);
+    EXPECT_EQ(alert.actionInterface(), nullptr);
+}
+
+TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
+{
+    const auto field = make<UITextField>(CGRectMake(5, 100, 200, 30));
+    field->setText("Rock");
+    window->addSubview(*field);
+    ASSERT_EQ(root().childCount(), 3);
+    auto& interface = *root().child(2);
+    EXPECT_EQ(interface.role(), QAccessible::EditableText);
+    EXPECT_EQ(interface.text(QAccessible::Value), "Rock");
+    EXPECT_TRUE(interface.state().editable);
+    takeSent();
+    field->setText("Jazz");
+    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::ValueChanged, QString())));
+
+    interface.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(field->isFirstResponder());
+    QApplication::processEvents();
+    ASSERT_EQ(root().childCount(), 3);
+    auto& editor = *root().child(2);
+    EXPECT_NE(&editor, &interface);
+    EXPECT_EQ(editor.role(), QAccessible::EditableText);
+    ASSERT_TRUE(editor.textInterface());
+    EXPECT_EQ(editor.textInterface()->text(0, 4), "Jazz");
+    field->resignFirstResponder();
+    QApplication::processEvents();
+    EXPECT_EQ(root().child(2), &interface);
+}
+
 TEST_F(AnAccessiblePane, ForgetsAViewThatIsGone)
 {
     const auto id = QAccessible::uniqueId(find("170"));
@@ -363,6 +413,61 @@ TEST(AnAccessibleTable, NamesItsSwitchesAndButtonsByTheirRows)
     table.actionInterface()->doAction(QAccessibleActionInterface::previousPageAction());
     EXPECT_EQ(namesIn(table).first(3), QStringList({ "Row 0.0", "Row 0.1", "Row 0.2" }));
     EXPECT_EQ(QAccessible::uniqueId(table.child(0)), id);
+}
+
+TEST(AnAccessibleList, TellsOfItsRowsAndHasThemPressedAndDeleted)
+{
+    Rows rows { { 20 } };
+    rows.isEditable = [](const NSIndexPath& row) { return row.row > 0; };
+    rows.identifier = [](const NSIndexPath& row) { return std::to_string(row.row); };
+    rows.onCellMade = [](UITableViewCell& cell, const NSIndexPath& row) {
+        cell.textLabel().setText("Row " + std::to_string(row.row));
+    };
+    const TableInWindow list(rows, { 320, 220 });
+    PaneWidget widget(*list.window);
+    auto& table = *QAccessible::queryAccessibleInterface(&widget)->child(0);
+    EXPECT_EQ(table.role(), QAccessible::List);
+    EXPECT_EQ(namesIn(table), QStringList({ "Row 0", "Row 1", "Row 2", "Row 3", "Row 4" }));
+
+    auto& first = *table.child(0);
+    auto& second = *table.child(1);
+    EXPECT_EQ(first.role(), QAccessible::ListItem);
+    EXPECT_EQ(first.childCount(), 0);
+    EXPECT_EQ(first.actionInterface()->actionNames(), QStringList({ "Press", "SetFocus" }));
+    EXPECT_EQ(second.actionInterface()->actionNames(), QStringList({ "Press", "Delete", "SetFocus" }));
+
+    EXPECT_TRUE(second.state().selectable);
+    EXPECT_FALSE(second.state().selected);
+    widget.accessibility().deliver = writeDown;
+    QAccessible::setActive(true);
+    takeSent();
+    second.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::StateChanged, QString("Row 1"))));
+    QAccessible::setActive(false);
+    EXPECT_TRUE(second.state().selected);
+    EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 1 }));
+
+    first.actionInterface()->doAction("Delete");
+    EXPECT_THAT(rows.committed, IsEmpty());
+    second.actionInterface()->doAction("Delete");
+    EXPECT_THAT(
+        rows.committed, ElementsAre(std::pair(UITableViewCellEditingStyle::Delete, NSIndexPath { 0, 1 })));
+    EXPECT_EQ(namesIn(table).first(3), QStringList({ "Row 0", "Row 2", "Row 3" }));
+}
+
+TEST(AnAccessibleList, OffersTheButtonOfASwipedRow)
+{
+    Rows rows { { 3 } };
+    rows.isEditable = [](const NSIndexPath&) { return true; };
+    const TableInWindow list(rows, { 320, 220 });
+    PaneWidget widget(*list.window);
+    list.peer().revealDelete({ 0, 1 });
+    auto* button = find(*QAccessible::queryAccessibleInterface(&widget), "Delete");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->role(), QAccessible::Button);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(
+        rows.committed, ElementsAre(std::pair(UITableViewCellEditingStyle::Delete, NSIndexPath { 0, 1 })));
 }
 
 TEST(AnAccessibleSwitch, TellsWhenItIsFlipped)

@@ -2,10 +2,15 @@
 #include "platform/UIKit/UISwitch.h"
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/Clock.h"
+#include "platform/desktop/UIKit/ImagePeer.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
 #include "platform/desktop/UIKit/TablePeer.h"
 #include "platform/desktop/UIKit/Theme.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
+#include "tests/platform/UIKit/Images.h"
+#include "tests/platform/UIKit/Lists.h"
+#include "tests/support/Images.h"
 
 #include <QTemporaryDir>
 
@@ -72,6 +77,25 @@ TEST_F(APicture, HasAsManyPixelsAPointAsItsScale)
     EXPECT_THAT(pixel(19, 20, 2), isWhite);
     EXPECT_THAT(pixel(59, 59, 2), isRed);
     EXPECT_THAT(pixel(60, 59, 2), isWhite);
+}
+
+TEST_F(APicture, ShowsNoSeamBetweenViewsThatTouch)
+{
+    window->addSubview(*box(CGRectMake(10, 10, 10.4, 20), red()));
+    window->addSubview(*box(CGRectMake(20.4, 10, 10.4, 20), red()));
+    for (const double scale : { 1.0, 1.25, 1.5, 2.0, 3.0 })
+        EXPECT_THAT(pixel(static_cast<int>(20.4 * scale), static_cast<int>(20 * scale), scale), isRed)
+            << scale;
+}
+
+TEST_F(APicture, LeavesOutWhatHasNoPlace)
+{
+    const double nan = std::nan("");
+    window->addSubview(*box(CGRectMake(10, 10, 20, nan), red()));
+    window->addSubview(*box(CGRectMake(nan, 10, 20, 20), red()));
+    window->addSubview(*box(CGRectMake(40, 10, 20, 20), red()));
+    EXPECT_THAT(pixel(15, 15), isWhite);
+    EXPECT_THAT(pixel(45, 15), isRed);
 }
 
 TEST_F(APicture, IsLaidOutFirst)
@@ -244,6 +268,23 @@ TEST_F(APicture, OfASwitchShowsItsKnobOnTheSideWhereItIs)
     EXPECT_THAT(pixel(18, 25), IsThemed(desktop::theme::switchOn));
 }
 
+TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)
+{
+    // Red above, half transparent black below.
+    const auto image = imageOf(1, 2, { 255, 0, 0, 255, 0, 0, 0, 128 });
+    QImage picture(20, 20, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setClipRect(picture.rect());
+    desktop::QtCanvas canvas(painter, 1);
+    peerOf(*image).draw(canvas, CGRectMake(5, 0, 10, 20));
+    EXPECT_THAT(picture.pixelColor(5, 0), isRed);
+    EXPECT_THAT(picture.pixelColor(14, 2), isRed);
+    EXPECT_THAT(picture.pixelColor(14, 19), IsColor(127, 127, 127));
+    EXPECT_THAT(picture.pixelColor(4, 5), isWhite);
+    EXPECT_THAT(picture.pixelColor(15, 5), isWhite);
+}
+
 TEST_F(APicture, CanBeWrittenToAFile)
 {
     window->addSubview(*box(CGRectMake(10, 10, 20, 20), red()));
@@ -254,6 +295,97 @@ TEST_F(APicture, CanBeWrittenToAFile)
     EXPECT_EQ(written.size(), QSize(200, 160));
     EXPECT_THAT(written.pixelColor(30, 30), isRed);
     EXPECT_FALSE(desktop::writeSnapshot(*window, 2, folder.filePath("missing/picture.png")));
+}
+
+TEST_F(APicture, OfAnImageViewShowsTheHighlightedImageWhileItIsHighlighted)
+{
+    const auto view = make<UIImageView>(CGRectMake(10, 10, 20, 20));
+    window->addSubview(*view);
+    EXPECT_THAT(pixel(15, 15), isWhite);
+    view->setImage(filledImage({ 5, 5 }, { 1, 0, 0 }));
+    EXPECT_THAT(pixel(10, 10), isRed);
+    EXPECT_THAT(pixel(29, 29), isRed);
+    EXPECT_THAT(pixel(30, 30), isWhite);
+    view->setHighlighted(true);
+    EXPECT_THAT(pixel(15, 15), isRed);
+    view->setHighlightedImage(filledImage({ 5, 5 }, { 0, 0, 0 }));
+    EXPECT_THAT(pixel(15, 15), isBlack);
+    view->setHighlighted(false);
+    EXPECT_THAT(pixel(15, 15), isRed);
+}
+
+class APictureOfATable : public testing::Test {
+protected:
+    void show(CGSize size, UITableViewStyle style = UITableViewStyle::Plain)
+    {
+        list.emplace(rows, size, style);
+    }
+    QColor pixel(int x, int y) const { return pictureOf(*list->window, 1).pixelColor(x, y); }
+    UITableViewCell& cell(std::size_t row) const { return *list->table->cellForRowAtIndexPath({ 0, row }); }
+
+    Rows rows { { 3 } };
+    std::optional<TableInWindow> list;
+};
+
+TEST_F(APictureOfATable, ShowsHairlinesInTheColorThatItIsGiven)
+{
+    show({ 320, 200 });
+    EXPECT_THAT(pixel(100, 43), IsThemed(desktop::theme::separator));
+    EXPECT_THAT(pixel(100, 131), IsThemed(desktop::theme::separator));
+    EXPECT_THAT(pixel(5, 43), isWhite);
+    EXPECT_THAT(pixel(100, 42), isWhite);
+    list->table->setSeparatorColor(red());
+    EXPECT_THAT(pixel(100, 43), isRed);
+    list->table->setSeparatorColor(UIColor::clearColor());
+    EXPECT_THAT(pixel(100, 43), isWhite);
+    list->table->setSeparatorColor(nullptr);
+    EXPECT_THAT(pixel(100, 43), IsThemed(desktop::theme::separator));
+}
+
+TEST_F(APictureOfATable, ShowsASelectedRowAboveItsBackgroundView)
+{
+    show({ 320, 200 });
+    cell(0).setBackgroundView(box({}, red()));
+    EXPECT_THAT(pixel(200, 20), isRed);
+    cell(0).setSelected(true, Animated::No);
+    EXPECT_THAT(pixel(200, 20), IsThemed(desktop::theme::rowPressed));
+    EXPECT_THAT(pixel(200, 60), isWhite);
+    cell(0).selectedBackgroundView()->setBackgroundColor(UIColor::blackColor());
+    EXPECT_THAT(pixel(200, 20), isBlack);
+    cell(0).setSelected(false, Animated::No);
+    EXPECT_THAT(pixel(200, 20), isRed);
+}
+
+TEST_F(APictureOfATable, ShowsASwipedRowsButton)
+{
+    show({ 320, 200 });
+    rows.isEditable = [](const NSIndexPath&) { return true; };
+    list->peer().revealDelete({ 0, 1 });
+    desktop::Clock::shared().advance(1);
+    EXPECT_THAT(pixel(240, 50), IsThemed(desktop::theme::destructive));
+    EXPECT_THAT(pixel(319, 87), IsThemed(desktop::theme::destructive));
+    EXPECT_THAT(pixel(236, 50), isWhite);
+    EXPECT_THAT(pixel(300, 20), isWhite);
+    list->window->touchDown({ { 300, 66 }, desktop::Pointer::Mouse });
+    EXPECT_THAT(pixel(240, 50), IsThemed(desktop::theme::destructivePressed));
+    list->window->touchCancel();
+}
+
+TEST_F(APictureOfATable, ShowsAPressedRowWithinTheRoundedCornersOfItsGroup)
+{
+    rows.counts = { 2 };
+    show({ 600, 200 }, UITableViewStyle::Grouped);
+    const auto rect = list->peer().rowRect({ 0, 0 });
+    const int left = static_cast<int>(rect.origin.x);
+    const int top = static_cast<int>(rect.origin.y);
+    list->window->touchDown({ { 300, top + 20.0 }, desktop::Pointer::Mouse });
+    EXPECT_THAT(pixel(300, top + 1), IsThemed(desktop::theme::rowPressed));
+    EXPECT_THAT(pixel(left, top), IsThemed(desktop::theme::background));
+    EXPECT_THAT(pixel(left, top + 42), IsThemed(desktop::theme::rowPressed)) << "no corner between two rows";
+    EXPECT_THAT(pixel(300, top + 60), isWhite);
+    EXPECT_THAT(pixel(300, top + 43), IsThemed(desktop::theme::separator));
+    EXPECT_THAT(pixel(300, top + 87), isWhite) << "the last row has the group's edge";
+    list->window->touchCancel();
 }
 
 } // namespace

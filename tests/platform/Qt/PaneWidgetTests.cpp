@@ -1,10 +1,18 @@
+#include "platform/UIKit/UISlider.h"
+#include "platform/UIKit/UITextField.h"
 #include "platform/desktop/Qt/PaneWidget.h"
+#include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/Clock.h"
 
+#include "platform/UIKit/UIScreen.h"
+#include "platform/desktop/UIKit/Screen.h"
 #include "tests/platform/UIKit/Controls.h"
 #include "tests/platform/UIKit/Geometry.h"
 #include "tests/platform/UIKit/Lists.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QWheelEvent>
@@ -74,6 +82,14 @@ TEST_F(APaneWidget, PaintsTheWindow)
     const auto picture = widget.grab().toImage();
     EXPECT_EQ(picture.pixelColor(10, 10), QColor(Qt::red));
     EXPECT_EQ(picture.pixelColor(60, 60), QColor(Qt::black));
+}
+
+TEST_F(APaneWidget, TellsTheScaleThatItIsShownAtWhenItPaints)
+{
+    desktop::setScreenScale(3);
+    widget.grab();
+    EXPECT_EQ(UIScreen::mainScreen().scale(), widget.devicePixelRatioF());
+    desktop::setScreenScale(2);
 }
 
 TEST_F(APaneWidget, HandsTheMouseOn)
@@ -173,6 +189,242 @@ TEST_F(APaneWidget, LeavesTheWindowInPeaceWhenItIsGone)
     }
     EXPECT_FALSE(window->onInvalidate);
     button->setHidden(true);
+}
+
+/// A slider from -12 to 12 that has the keyboard, in a widget that is fed keys as Qt does it.
+class AKeyInAPaneWidget : public testing::Test {
+protected:
+    AKeyInAPaneWidget()
+    {
+        slider->setMaximumValue(12);
+        slider->setMinimumValue(-12);
+        slider->setValue(0);
+        slider->setFrame(CGRectMake(35, 50, 250, 44));
+        window->addSubview(*slider);
+        log->listenTo(*slider);
+        widget.show();
+    }
+
+    void key(QEvent::Type type, int code, bool isRepeat = false)
+    {
+        QKeyEvent event(type, code, Qt::NoModifier, QString(), isRepeat);
+        QApplication::sendEvent(&widget, &event);
+    }
+    float valueAfter(Qt::Key code)
+    {
+        key(QEvent::KeyPress, code);
+        key(QEvent::KeyRelease, code);
+        return slider->value();
+    }
+
+    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
+    const RetainPtr<UISlider> slider = make<UISlider>();
+    const RetainPtr<EventLog> log = make<EventLog>();
+    PaneWidget widget { *window };
+};
+
+TEST_F(AKeyInAPaneWidget, IsHandedOn)
+{
+    valueAfter(Qt::Key_Tab);
+    EXPECT_EQ(window->focus().view(), slider.get());
+    EXPECT_EQ(valueAfter(Qt::Key_Up), 0.1f);
+    EXPECT_EQ(valueAfter(Qt::Key_Down), 0.0f);
+    EXPECT_EQ(valueAfter(Qt::Key_Right), 0.1f);
+    EXPECT_EQ(valueAfter(Qt::Key_Left), 0.0f);
+    EXPECT_EQ(valueAfter(Qt::Key_PageUp), 1);
+    EXPECT_EQ(valueAfter(Qt::Key_PageDown), 0);
+    EXPECT_EQ(valueAfter(Qt::Key_End), 12);
+    EXPECT_EQ(valueAfter(Qt::Key_Home), -12);
+}
+
+TEST_F(AKeyInAPaneWidget, IsHeldUntilItIsReallyReleased)
+{
+    valueAfter(Qt::Key_Tab);
+    key(QEvent::KeyPress, Qt::Key_Right);
+    log->take();
+    key(QEvent::KeyRelease, Qt::Key_Right, true);
+    key(QEvent::KeyPress, Qt::Key_Right, true);
+    EXPECT_THAT(log->take(), ElementsAre("value", "drag inside"));
+    key(QEvent::KeyRelease, Qt::Key_Right);
+    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+}
+
+TEST_F(AKeyInAPaneWidget, IsLetGoOfWhenTheWidgetLosesTheKeyboard)
+{
+    valueAfter(Qt::Key_Tab);
+    key(QEvent::KeyPress, Qt::Key_Right);
+    log->take();
+    QFocusEvent event(QEvent::FocusOut);
+    QApplication::sendEvent(&widget, &event);
+    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+}
+
+/// Writes down the texts of the fields whose return key was pressed.
+class Reader : public UITextFieldDelegate {
+public:
+    bool textFieldShouldReturn(UITextField* field) override
+    {
+        read.push_back(field->text());
+        field->resignFirstResponder();
+        return false;
+    }
+
+    std::vector<std::string> read;
+};
+
+/// A name field on a white strip, shown by a widget in a window that has the keyboard.
+class AFieldInAPaneWidget : public testing::Test {
+protected:
+    AFieldInAPaneWidget()
+    {
+        window->setBackgroundColor(UIColor::blackColor());
+        strip->setBackgroundColor(UIColor::whiteColor());
+        field->setFont(UIFont::fontWithNameSize("HelveticaNeue-Bold", 18));
+        field->setDelegate(&reader);
+        window->addSubview(*strip);
+        strip->addSubview(*field);
+        widget.show();
+        widget.activateWindow();
+        widget.setFocus();
+        // No blinking caret in pictures.
+        QApplication::setCursorFlashTime(0);
+    }
+    ~AFieldInAPaneWidget() override { desktop::Clock::shared().advance(1); }
+
+    /// What the user works with while the field is edited; null when it is not.
+    QLineEdit* editor()
+    {
+        QApplication::processEvents();
+        return widget.findChild<QLineEdit*>();
+    }
+    void click(QPoint at) { QTest::mouseClick(&widget, Qt::LeftButton, {}, at); }
+    static void type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+    Reader reader;
+    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
+    const RetainPtr<UIView> strip = make<UIView>(CGRectMake(44, 44, 232, 44));
+    const RetainPtr<UITextField> field = make<UITextField>(CGRectMake(20, 8, 192, 28));
+    PaneWidget widget { *window };
+};
+
+TEST_F(AFieldInAPaneWidget, HasAnEditorWhileItIsTheFirstResponder)
+{
+    EXPECT_EQ(editor(), nullptr);
+    field->setText("Rock");
+    click({ 100, 66 });
+    ASSERT_TRUE(editor());
+    EXPECT_EQ(QApplication::focusWidget(), editor());
+    EXPECT_EQ(editor()->text(), "Rock");
+    EXPECT_EQ(editor()->geometry(), QRect(62, 52, 196, 28));
+    field->resignFirstResponder();
+    EXPECT_EQ(editor(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &widget);
+}
+
+TEST_F(AFieldInAPaneWidget, HasEachChangeOfTheEditor)
+{
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    type("Rock");
+    EXPECT_EQ(field->text(), "Rock");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(field->text(), "Roc");
+    press(Qt::Key_Home);
+    type("a ");
+    EXPECT_EQ(field->text(), "a Roc");
+    editor()->setText(QString::fromUtf8("\U0001F3B8"));
+    EXPECT_EQ(field->text(), "\U0001F3B8");
+    editor()->setText(QString(10000, 'm'));
+    EXPECT_EQ(field->text(), std::string(10000, 'm'));
+}
+
+TEST_F(AFieldInAPaneWidget, HandsItsOwnChangesToTheEditor)
+{
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    field->setText("Jazz");
+    widget.grab();
+    EXPECT_EQ(editor()->text(), "Jazz");
+}
+
+TEST_F(AFieldInAPaneWidget, IsTypedIntoBeforeTheEditorIsThere)
+{
+    field->becomeFirstResponder();
+    QTest::keyClicks(&widget, "R o");
+    EXPECT_EQ(field->text(), "R o");
+    EXPECT_EQ(editor()->text(), "R o");
+}
+
+TEST_F(AFieldInAPaneWidget, HasReturnFromTheEditor)
+{
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    type("Rock");
+    press(Qt::Key_Return);
+    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(AFieldInAPaneWidget, KeepsTheKeyboardWhenSomethingElseIsClicked)
+{
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    click({ 10, 300 });
+    EXPECT_EQ(QApplication::focusWidget(), editor());
+}
+
+TEST_F(AFieldInAPaneWidget, LosesItsEditorWhenItLeavesTheWindow)
+{
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    strip->removeFromSuperview();
+    EXPECT_EQ(editor(), nullptr);
+}
+
+/// The dark pixels of the part of the picture.
+int darkPixelsIn(const QImage& picture, QRect part)
+{
+    int count = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
+            count += qGray(picture.pixel(x, y)) < 128;
+    }
+    return count;
+}
+
+TEST_F(AFieldInAPaneWidget, IsDrawnOnceByWhoeverHasToAndIsInEveryPicture)
+{
+    const QRect place(64, 52, 192, 28);
+    field->setText("Rock");
+    const int alone = darkPixelsIn(widget.grab().toImage(), place);
+    EXPECT_GT(alone, 100);
+    field->becomeFirstResponder();
+    ASSERT_TRUE(editor());
+    editor()->setReadOnly(true); // Without a caret.
+    EXPECT_NEAR(darkPixelsIn(widget.grab().toImage(), place), alone, alone / 10);
+    EXPECT_NEAR(darkPixelsIn(desktop::pictureOf(*window, 1), place), alone, alone / 10);
+    editor()->hide();
+    EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 0);
+}
+
+TEST_F(AFieldInAPaneWidget, DrawsItselfWhileItMoves)
+{
+    const QRect place(64, 52, 192, 28);
+    field->setText("Rock");
+    strip->setAlpha(0);
+    field->becomeFirstResponder();
+    UIView::animateWithDurationAnimations(0.2, [&] { strip->setAlpha(1); });
+    widget.grab();
+    ASSERT_TRUE(editor());
+    EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 192 * 28);
+    desktop::Clock::shared().advance(0.15);
+    const int fading = darkPixelsIn(widget.grab().toImage(), place);
+    EXPECT_GT(fading, 100);
+    EXPECT_LT(fading, 1000);
+    desktop::Clock::shared().advance(0.1);
+    editor()->hide();
+    EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 0);
 }
 
 TEST(AWheelOverAPaneWidget, ScrollsSixtyPointsANotchAndPixelForPixelOnATouchpad)

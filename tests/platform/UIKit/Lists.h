@@ -30,7 +30,7 @@ public:
         ++cellsAskedFor;
         auto cell = table.dequeueReusableCellWithIdentifier(identifier(row));
         if (!cell) {
-            cell = make<UITableViewCell>(UITableViewCellStyle::Default, identifier(row));
+            cell = make<UITableViewCell>(cellStyle, identifier(row));
             sizesAtBirth.push_back(cell->bounds().size);
             if (onCellMade)
                 onCellMade(*cell, row);
@@ -45,6 +45,25 @@ public:
     {
         return section < footers.size() ? footers[section] : std::string();
     }
+    bool tableViewCanEditRowAtIndexPath(UITableView&, const NSIndexPath& row) override
+    {
+        return isEditable && isEditable(row);
+    }
+    void tableViewCommitEditingStyleForRowAtIndexPath(
+        UITableView& table, UITableViewCellEditingStyle style, const NSIndexPath& row) override
+    {
+        committed.emplace_back(style, row);
+        if (!deletesCommitted)
+            return;
+        --counts[row.section];
+        table.deleteRowsAtIndexPathsWithRowAnimation({ row }, UITableViewRowAnimation::Automatic);
+    }
+    void tableViewWillDisplayCellForRowAtIndexPath(
+        UITableView&, UITableViewCell& cell, const NSIndexPath& row) override
+    {
+        if (onWillDisplay)
+            onWillDisplay(cell, row);
+    }
     void tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath& row) override
     {
         selected.push_back(row);
@@ -54,12 +73,17 @@ public:
     std::vector<std::string> headers;
     std::vector<std::string> footers;
     std::function<std::string(const NSIndexPath&)> identifier = [](const NSIndexPath&) { return "row"; };
+    UITableViewCellStyle cellStyle = UITableViewCellStyle::Default;
     std::function<void(UITableViewCell&, const NSIndexPath&)> onCellMade;
+    std::function<void(UITableViewCell&, const NSIndexPath&)> onWillDisplay;
+    std::function<bool(const NSIndexPath&)> isEditable;
+    bool deletesCommitted = true;
 
     std::size_t cellsAskedFor = 0;
     /// One for each cell that was made.
     std::vector<CGSize> sizesAtBirth;
     std::vector<NSIndexPath> selected;
+    std::vector<std::pair<UITableViewCellEditingStyle, NSIndexPath>> committed;
 };
 
 /// A table that fills a window, laid out.

@@ -244,6 +244,21 @@ TEST_F(ASwitchOnView, IsNotRedrawnWhenItLooksTheSame)
     EXPECT_THAT(parts(), IsEmpty());
 }
 
+using HighlightingALabel = Redrawing;
+
+TEST_F(HighlightingALabel, RedrawsItWhenItsColorChanges)
+{
+    const auto label = added<UILabel>(CGRectMake(10, 10, 50, 20));
+    label->setHighlighted(true);
+    EXPECT_THAT(parts(), IsEmpty());
+    label->setHighlightedTextColor(UIColor::whiteColor());
+    EXPECT_THAT(parts(), ElementsAre(CGRectMake(10, 10, 50, 20)));
+    label->setTextColor(UIColor::yellowColor());
+    EXPECT_THAT(parts(), IsEmpty());
+    label->setHighlighted(false);
+    EXPECT_THAT(parts(), ElementsAre(CGRectMake(10, 10, 50, 20)));
+}
+
 } // namespace
 
 } // namespace brimsound::tests

@@ -260,9 +260,9 @@ TEST_F(AFingerOnARow, GivesThePressedRowUpWhenItTurnsOutToScroll)
 {
     putDown({ 100, 60 });
     Clock::shared().advance(0.2);
-    EXPECT_TRUE(list->peer().isPressed);
+    EXPECT_TRUE(list->table->cellForRowAtIndexPath({ 0, 1 })->isHighlighted());
     window().touchMove({ 100, 45 });
-    EXPECT_FALSE(list->peer().isPressed);
+    EXPECT_FALSE(list->table->cellForRowAtIndexPath({ 0, 1 })->isHighlighted());
     window().touchMove({ 100, 25 });
     EXPECT_EQ(offset(), 20);
     window().touchUp({ 100, 25 });

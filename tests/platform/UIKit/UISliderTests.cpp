@@ -93,9 +93,12 @@ public:
     void beginGroup(const CGRect&, double, double) override { }
     void endGroup() override { }
     void fillRect(const CGRect&, const desktop::Color&) override { }
+    void fillPixels(const CGRect&, const desktop::Color&) override { }
     void fillRoundedRect(const CGRect&, double, const desktop::Color&) override { }
+    void strokeRoundedRect(const CGRect&, double, double, const desktop::Color&) override { }
     void fillEllipse(const CGRect& rect, const desktop::Color&) override { lastDisc = rect; }
     void strokeLine(const std::vector<CGPoint>&, double, const desktop::Color&) override { }
+    void drawBitmap(const desktop::Bitmap&, const CGRect&) override { }
     void drawLine(
         const std::string&, const CGRect&, const UIFont&, const desktop::Color&, NSTextAlignment) override
     {

@@ -254,6 +254,11 @@ TEST_F(AGroupedTable, IsACentredCardOfAReadableWidthInAWideWindow)
 
 class ATapOnARow : public testing::Test {
 protected:
+    bool isPressed(std::size_t row) const
+    {
+        return list.table->cellForRowAtIndexPath({ 0, row })->isHighlighted();
+    }
+
     Rows rows { { 100 } };
     const TableInWindow list { rows, phone };
 };
@@ -275,9 +280,9 @@ TEST_F(ATapOnARow, SelectsWhatIsThereAfterScrolling)
 TEST_F(ATapOnARow, ThatMovesOffSelectsNothing)
 {
     list.window->touchDown({ { 100, 100 }, Pointer::Mouse });
-    EXPECT_TRUE(list.peer().isPressed);
+    EXPECT_TRUE(isPressed(2));
     list.window->touchMove({ 100, 200 });
-    EXPECT_FALSE(list.peer().isPressed);
+    EXPECT_FALSE(isPressed(2));
     list.window->touchUp({ 100, 200 });
     EXPECT_THAT(rows.selected, IsEmpty());
 }
@@ -303,7 +308,7 @@ TEST_F(ATapOnARow, ThatIsTakenAwaySelectsNothing)
     list.window->touchDown({ { 100, 100 }, Pointer::Mouse });
     list.window->touchCancel();
     list.window->touchUp({ 100, 100 });
-    EXPECT_FALSE(list.peer().isPressed);
+    EXPECT_FALSE(isPressed(2));
     EXPECT_THAT(rows.selected, IsEmpty());
 }
 
@@ -311,7 +316,7 @@ TEST_F(ATapOnARow, ThatIsNotToBeSelectedSelectsNothing)
 {
     list.table->cellForRowAtIndexPath({ 0, 2 })->setSelectionStyle(UITableViewCellSelectionStyle::None);
     list.tap({ 100, 100 });
-    EXPECT_FALSE(list.peer().isPressed);
+    EXPECT_FALSE(isPressed(2));
     EXPECT_THAT(rows.selected, IsEmpty());
     list.tap({ 100, 60 });
     EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 1 }));
@@ -324,7 +329,7 @@ TEST_F(ATapOnARow, ThatBeganOnOneNotToBeSelectedSelectsNoOtherEither)
     list.table->cellForRowAtIndexPath({ 0, 2 })->setSelectionStyle(UITableViewCellSelectionStyle::None);
     list.window->touchDown({ { 100, 100 }, Pointer::Mouse });
     list.window->touchMove({ 100, 60 });
-    EXPECT_FALSE(list.peer().isPressed);
+    EXPECT_FALSE(isPressed(2));
     list.window->touchUp({ 100, 60 });
     EXPECT_THAT(rows.selected, IsEmpty());
 }
@@ -368,45 +373,105 @@ TEST_F(ATapOnARow, MayReloadTheTable)
     EXPECT_THAT(reloaded.table->subviews(), SizeIs(1));
 }
 
-TEST_F(ATapOnARow, FadesItsPressAfterwards)
+TEST(ATable, TellsItsDelegateOfARowJustBeforeItAppears)
 {
-    list.tap({ 100, 100 });
-    EXPECT_EQ(list.peer().pressedAlpha, 1);
-    Clock::shared().advance(0.1);
-    EXPECT_GT(list.peer().pressedAlpha, 0);
-    EXPECT_LT(list.peer().pressedAlpha, 1);
-    Clock::shared().advance(1);
-    EXPECT_EQ(list.peer().pressedAlpha, 0);
+    Rows rows { { 3 } };
+    std::vector<CGRect> frames;
+    rows.onWillDisplay = [&](UITableViewCell& cell, const NSIndexPath&) {
+        EXPECT_EQ(cell.superview(), nullptr);
+        frames.push_back(cell.frame());
+    };
+    const TableInWindow list(rows, phone);
+    EXPECT_THAT(frames,
+        ElementsAre(CGRectMake(0, 0, 320, 44), CGRectMake(0, 44, 320, 44), CGRectMake(0, 88, 320, 44)));
+    list.scrollTo(0);
+    EXPECT_THAT(frames, SizeIs(3));
 }
 
-TEST_F(ATapOnARow, RedrawsTheRowWhosePressWasStillFading)
+TEST(ATable, MayBeReloadedWhileItAsksForItsRows)
 {
-    list.tap({ 100, 100 });
-    std::vector<CGRect> redrawn;
-    list.window->onInvalidate = [&](const CGRect& part) { redrawn.push_back(part); };
-    list.tap({ 100, 10 });
-    EXPECT_THAT(redrawn, Contains(CGRectMake(0, 88, 320, 44)));
-    EXPECT_THAT(redrawn, Contains(CGRectMake(0, 0, 320, 44)));
-    Clock::shared().advance(1);
-    EXPECT_EQ(list.peer().pressedAlpha, 0);
+    Rows rows { { 100 } };
+    const TableInWindow list(rows, phone);
+    rows.identifier = [&](const NSIndexPath& row) {
+        if (row.row == 3 && rows.counts[0] == 100) {
+            rows.counts = { 5 };
+            list.table->reloadData();
+        }
+        return "row";
+    };
+    list.table->reloadData();
+    list.window->layOut();
+    list.window->layOut();
+    EXPECT_THAT(list.table->subviews(), SizeIs(5));
+    EXPECT_EQ(list.peer().contentHeight(), 5 * 44);
 }
 
-TEST(ACell, GivesItsContentsWhatTheAccessoryViewLeavesFree)
+TEST(ATable, MayLoseRowsWhileTheyAppear)
 {
-    const auto cell = make<UITableViewCell>(UITableViewCellStyle::Default, "cell");
-    cell->setFrame(CGRectMake(0, 0, 320, 60));
-    desktop::layOutTree(*cell);
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 320, 60));
-    const auto accessory = make<UIView>(CGRectMake(0, 0, 50, 30));
-    cell->setAccessoryView(accessory);
-    desktop::layOutTree(*cell);
-    EXPECT_EQ(accessory->frame(), CGRectMake(255, 15, 50, 30));
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 255, 60));
-    EXPECT_EQ(cell->accessoryView(), accessory.get());
-    cell->setAccessoryView(nullptr);
-    desktop::layOutTree(*cell);
-    EXPECT_EQ(accessory->superview(), nullptr);
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 320, 60));
+    Rows rows { { 100 } };
+    const TableInWindow list(rows, phone);
+    rows.onWillDisplay = [&](UITableViewCell&, const NSIndexPath& row) {
+        if (row.row != 3 || rows.counts[0] < 100)
+            return;
+        rows.counts = { 2 };
+        list.table->deleteRowsAtIndexPathsWithRowAnimation({ { 0, 0 } }, UITableViewRowAnimation::Automatic);
+    };
+    list.table->reloadData();
+    list.window->layOut();
+    Clock::shared().advance(1);
+    list.window->layOut();
+    EXPECT_THAT(list.table->subviews(), SizeIs(2));
+}
+
+TEST(ATable, LeavesARowEmptyForWhichThereIsNoCell)
+{
+    struct Gap : Rows {
+        using Rows::Rows;
+        RetainPtr<UITableViewCell> tableViewCellForRowAtIndexPath(
+            UITableView& table, const NSIndexPath& row) override
+        {
+            return row.row == 1 ? nullptr : Rows::tableViewCellForRowAtIndexPath(table, row);
+        }
+    };
+    Gap rows { { 3 } };
+    const TableInWindow list(rows, phone);
+    EXPECT_THAT(list.table->subviews(), SizeIs(2));
+    EXPECT_EQ(list.table->cellForRowAtIndexPath({ 0, 2 })->frame().origin.y, 88);
+}
+
+TEST(ATable, AsksForHeightsOnlyWhenItIsReloaded)
+{
+    struct Measured : Rows {
+        using Rows::Rows;
+        CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) override
+        {
+            ++heightsAskedFor;
+            return 44;
+        }
+        std::size_t heightsAskedFor = 0;
+    };
+    Measured rows { { 10000 } };
+    const TableInWindow list(rows, phone);
+    const auto before = rows.heightsAskedFor;
+    list.scrollTo(4000);
+    list.scrollTo(400000);
+    list.tap({ 100, 100 });
+    EXPECT_EQ(rows.heightsAskedFor, before);
+    list.table->reloadData();
+    list.window->layOut();
+    EXPECT_EQ(rows.heightsAskedFor, before + 10000);
+}
+
+TEST(ATable, ScrollsToAContentOffset)
+{
+    Rows rows { { 20 } };
+    const TableInWindow list(rows, phone);
+    list.table->setContentOffset({ 7, 100 });
+    EXPECT_EQ(list.table->contentOffset(), (CGPoint { 0, 100 }));
+    list.table->setContentOffset({ 0, 10000 });
+    EXPECT_EQ(list.table->contentOffset(), (CGPoint { 0, 480 }));
+    list.table->setContentOffset({});
+    EXPECT_EQ(list.table->contentOffset(), CGPoint());
 }
 
 } // namespace

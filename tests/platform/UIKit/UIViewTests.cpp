@@ -300,6 +300,61 @@ TEST_F(AHitTest, ConvertsPointsThroughFramesAndScrolledOrigins)
     EXPECT_EQ(convertFromWindow({ 5, 6 }, *window), (CGPoint { 5, 6 }));
 }
 
+TEST(ATaggedView, IsFoundInWhatItLiesIn)
+{
+    const auto outer = make<UIView>();
+    const auto first = make<UIView>();
+    const auto inFirst = make<UIView>();
+    const auto second = make<UIView>();
+    outer->addSubview(*first);
+    first->addSubview(*inFirst);
+    outer->addSubview(*second);
+    EXPECT_EQ(outer->tag(), 0);
+    inFirst->setTag(5);
+    second->setTag(5);
+    outer->setTag(6);
+    EXPECT_EQ(outer->viewWithTag(5), inFirst.get()) << "depth first";
+    EXPECT_EQ(outer->viewWithTag(6), outer.get());
+    EXPECT_EQ(outer->viewWithTag(7), nullptr);
+    EXPECT_EQ(second->viewWithTag(6), nullptr);
+}
+
+TEST(AViewThatIsLeftAlone, LetsTouchesThroughToWhatLiesBelow)
+{
+    const auto window = make<Window>(CGSize { 100, 100 });
+    const auto below = make<UIView>(CGRectMake(0, 0, 100, 100));
+    const auto above = make<UIView>(CGRectMake(0, 0, 100, 100));
+    const auto inAbove = make<UIView>(CGRectMake(0, 0, 100, 100));
+    above->addSubview(*inAbove);
+    window->addSubview(*below);
+    window->addSubview(*above);
+    EXPECT_TRUE(above->isUserInteractionEnabled());
+    EXPECT_EQ(desktop::hitTest(*window, { 1, 1 }), inAbove.get());
+    above->setUserInteractionEnabled(false);
+    EXPECT_FALSE(above->isUserInteractionEnabled());
+    EXPECT_EQ(desktop::hitTest(*window, { 1, 1 }), below.get());
+}
+
+TEST(AViewThatClips, DrawsWithinItsBoundsOnly)
+{
+    const auto view = make<UIView>(CGRectMake(0, 0, 10, 10));
+    const auto large = make<UIView>(CGRectMake(0, 0, 50, 50));
+    view->addSubview(*large);
+    EXPECT_FALSE(view->clipsToBounds());
+    EXPECT_EQ(desktop::reachOf(desktop::peerOf(*view)), CGRectMake(0, 0, 50, 50));
+    view->setClipsToBounds(true);
+    EXPECT_TRUE(view->clipsToBounds());
+    EXPECT_EQ(desktop::reachOf(desktop::peerOf(*view)), CGRectMake(0, 0, 10, 10));
+}
+
+TEST(ALayer, HasSquareCornersAtFirst)
+{
+    const auto view = make<UIView>();
+    EXPECT_EQ(view->layer().cornerRadius(), 0);
+    view->layer().setCornerRadius(20);
+    EXPECT_EQ(view->layer().cornerRadius(), 20);
+}
+
 } // namespace
 
 } // namespace brimsound::tests

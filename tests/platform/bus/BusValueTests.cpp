@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <vector>
 
 namespace brimsound::desktop {
 
@@ -136,6 +137,23 @@ TEST_F(AMessage, ThatHoldsNoDictionaryIsRefused)
     ASSERT_GE(sd_bus_message_append(message.get(), "s", "text"), 0);
     PropertyList::Dictionary dictionary;
     EXPECT_LT(readDictionary(received(), dictionary), 0);
+}
+
+TEST_F(AMessage, WithMoreValuesThanAnybodySendsIsRefused)
+{
+    for (const std::size_t count : { 4000u, 5000u }) {
+        SetUp();
+        const std::vector<std::int32_t> numbers(count, 7);
+        sd_bus_message_open_container(message.get(), 'a', "{sv}");
+        sd_bus_message_open_container(message.get(), 'e', "sv");
+        sd_bus_message_append(message.get(), "s", "numbers");
+        sd_bus_message_open_container(message.get(), 'v', "ai");
+        sd_bus_message_append_array(message.get(), 'i', numbers.data(), count * sizeof numbers[0]);
+        for (int container = 0; container < 3; ++container)
+            sd_bus_message_close_container(message.get());
+        PropertyList::Dictionary dictionary;
+        EXPECT_EQ(readDictionary(received(), dictionary) >= 0, count == 4000);
+    }
 }
 
 } // namespace brimsound::desktop

@@ -11,7 +11,9 @@
 
 namespace brimsound::desktop {
 
+using testing::Each;
 using testing::ElementsAre;
+using testing::Ge;
 using testing::IsEmpty;
 using tests::TestBus;
 
@@ -31,6 +33,7 @@ protected:
     {
         bus.onReconnect = nullptr;
         bus.onPending = nullptr;
+        bus.onUnreachable = nullptr;
     }
 
     SessionBus& bus = SessionBus::shared();
@@ -42,19 +45,24 @@ TEST_F(ASessionBus, IsNotThereWhereNoneIsReached)
 {
     const tests::EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
     EXPECT_EQ(bus.connection(), nullptr);
-    EXPECT_EQ(bus.fd(), -1);
+    EXPECT_EQ(bus.listener(), nullptr);
+    EXPECT_THAT(bus.descriptors(), ElementsAre(-1, -1));
     EXPECT_FALSE(bus.hasOwner("org.freedesktop.DBus"));
     bus.process();
     bus.drain();
 }
 
-TEST_F(ASessionBus, KeepsOneConnection)
+TEST_F(ASessionBus, KeepsOneConnectionToSpeakAndOneToListen)
 {
     const TestBus testBus;
-    auto* connection = bus.connection();
-    ASSERT_NE(connection, nullptr);
-    EXPECT_EQ(bus.connection(), connection);
-    EXPECT_GE(bus.fd(), 0);
+    auto* speaker = bus.connection();
+    auto* listener = bus.listener();
+    ASSERT_NE(speaker, nullptr);
+    ASSERT_NE(listener, nullptr);
+    EXPECT_NE(speaker, listener);
+    EXPECT_EQ(bus.connection(), speaker);
+    EXPECT_EQ(bus.listener(), listener);
+    EXPECT_THAT(bus.descriptors(), Each(Ge(0)));
 }
 
 TEST_F(ASessionBus, KnowsWhetherANameIsOwned)
@@ -72,7 +80,7 @@ TEST_F(ASessionBus, ShowsAtItsDescriptorThatAPostArrived)
     const auto& heard = listen();
     testBus.postFromAnotherProcess("hello");
 
-    pollfd input { bus.fd(), POLLIN, 0 };
+    pollfd input { bus.descriptors()[1], POLLIN, 0 };
     ASSERT_EQ(poll(&input, 1, 5000), 1);
     EXPECT_THAT(heard, IsEmpty());
     bus.process();
@@ -133,14 +141,13 @@ TEST_F(ASessionBus, HearsNotificationsOnTheNextBusWhenOneWasLost)
     {
         const TestBus first;
         ASSERT_NE(bus.connection(), nullptr);
-        bus.onReconnect = [&] { descriptors.push_back(bus.fd()); };
+        bus.onReconnect = [&] { descriptors.push_back(bus.descriptors()[1]); };
     }
     EXPECT_THAT(descriptors, ElementsAre(-1));
-    EXPECT_EQ(bus.fd(), -1);
 
     TestBus second;
     ASSERT_NE(bus.connection(), nullptr);
-    EXPECT_THAT(descriptors, ElementsAre(-1, bus.fd()));
+    EXPECT_THAT(descriptors, ElementsAre(-1, bus.descriptors()[1]));
     second.postFromAnotherProcess("again");
     bus.drain();
     EXPECT_THAT(heard, ElementsAre("again"));

@@ -4,6 +4,8 @@
 #include "platform/desktop/MessageUI/ComposerPeer.h"
 #include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/UIKit/AlertPeer.h"
+#include "platform/desktop/UIKit/Clock.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
 #include "platform/desktop/UIKit/Window.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
@@ -14,6 +16,7 @@
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/TestBus.h"
 
+#include <filesystem>
 #include <optional>
 #include <sys/resource.h>
 
@@ -58,6 +61,8 @@ private:
 struct TestPlatform::Device {
     ~Device()
     {
+        for (const auto& shown : std::vector(appController().view().subviews()))
+            shown->removeFromSuperview();
         window->alerts().dismissAll();
         appController().dismissViewControllerAnimatedCompletion(Animated::No, {});
         desktop::setReach(reachBefore);
@@ -105,6 +110,39 @@ void TestPlatform::deliverNotifications()
 void TestPlatform::postFromAnotherProcess(const std::string& name)
 {
     _device->bus.postFromAnotherProcess(name);
+}
+
+void TestPlatform::passTime(double seconds)
+{
+    desktop::Clock::shared().advance(seconds);
+}
+
+void TestPlatform::showInWindow(UIView& view, CGSize size)
+{
+    auto& app = appController().view();
+    _device->window->addSubview(app);
+    for (const auto& shown : std::vector(app.subviews()))
+        shown->removeFromSuperview();
+    app.addSubview(view);
+    resizeWindow(size);
+}
+
+void TestPlatform::resizeWindow(CGSize size)
+{
+    _device->window->setFrame({ {}, size });
+    topmostView().setFrame({ {}, size });
+    topmostView().subviews().front()->setFrame({ {}, size });
+    layOut();
+}
+
+UIView& TestPlatform::topmostView() const
+{
+    return appController().view();
+}
+
+void TestPlatform::layOut()
+{
+    _device->window->layOut();
 }
 
 void TestPlatform::stopMediaServer()
@@ -191,9 +229,32 @@ void TestPlatform::writePreferencesFile(const PropertyList& value)
     writePreferencesFile(std::string(reinterpret_cast<const char*>(data->data()), data->size()));
 }
 
+void TestPlatform::makePreferencesFileUnwritable()
+{
+    const auto path = _device->root.path() / std::string(preferencesPath).substr(1);
+    std::filesystem::remove(path);
+    std::filesystem::create_directories(path);
+}
+
 std::string TestPlatform::preferencesFile() const
 {
     return _device->root.read(preferencesPath);
+}
+
+CGRect shownFrame(const UIView& view)
+{
+    return desktop::peerOf(view).shownFrame();
+}
+
+std::vector<CGFloat> shownBackground(const UIView& view)
+{
+    const auto color = desktop::peerOf(view).shownBackground();
+    return { color.red, color.green, color.blue, color.alpha };
+}
+
+CGFloat shownAlpha(const UIView& view)
+{
+    return desktop::peerOf(view).shownAlpha();
 }
 
 void putIntoAnApp(PSListController& controller)

@@ -1,0 +1,10 @@
+// Small text beside what a sheet shows.
+#pragma once
+
+#include "platform/UIKit/UILabel.h"
+
+namespace brimsound::desktop {
+
+RetainPtr<UILabel> caption(const std::string& text, const CGRect& frame);
+
+} // namespace brimsound::desktop

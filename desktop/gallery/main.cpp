@@ -1,0 +1,49 @@
+// Draws what the preset list is made of, as one picture.
+#include "desktop/gallery/CurveSheet.h"
+#include "desktop/gallery/ImageSheet.h"
+#include "platform/desktop/Qt/Snapshot.h"
+
+#include <QApplication>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+using namespace brimsound;
+using namespace brimsound::desktop;
+
+constexpr double margin = 24;
+constexpr double scale = 2;
+
+bool draw(const QString& path)
+{
+    const auto curves = make<CurveSheet>();
+    const auto images = make<ImageSheet>();
+    const auto size = curves->bounds().size;
+    const auto below = images->bounds().size;
+    curves->setFrame({ { margin, margin }, size });
+    images->setFrame({ { margin, size.height + 2 * margin }, below });
+    const auto window = make<Window>(
+        CGSize { std::max(size.width, below.width) + 2 * margin, size.height + below.height + 3 * margin });
+    window->setBackgroundColor(UIColor::colorWithWhiteAlpha(0.937, 1));
+    window->addSubview(*curves);
+    window->addSubview(*images);
+    return writeSnapshot(*window, scale, path);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: gallery FILE.png\n");
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    if (draw(QString::fromLocal8Bit(argv[1])))
+        return 0;
+    std::fprintf(stderr, "gallery: the picture \"%s\" cannot be written\n", argv[1]);
+    return 1;
+}

@@ -1,0 +1,35 @@
+// The desktop's own editing of a text field.
+#pragma once
+
+#include "platform/UIKit/UITextField.h"
+
+#include <QLineEdit>
+
+namespace brimsound::desktop {
+
+/// Lies over a text field while that is edited, looks like it, and brings what a user expects of a desktop's
+/// text field: a selection, the clipboard, undo, input methods. What Return, Escape and Tab mean is up to the
+/// widget around it.
+class FieldEditor : public QLineEdit {
+public:
+    FieldEditor(QWidget& around, UITextField&);
+    ~FieldEditor() override;
+
+    const UITextField& field() const { return *_field; }
+
+    /// Takes over the field's place and text, as the field has them now.
+    void follow();
+    /// Whether the editor shows the text. While the field moves or fades it shows the text itself.
+    bool isDrawing() const;
+    /// Leaves the drawing of the text to the editor, or to the field.
+    void setFieldDraws(bool);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    const RetainPtr<UITextField> _field;
+};
+
+} // namespace brimsound::desktop

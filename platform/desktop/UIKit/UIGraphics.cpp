@@ -1,0 +1,71 @@
+#include "platform/UIKit/UIGraphics.h"
+
+#include "platform/UIKit/UIScreen.h"
+#include "platform/desktop/CoreGraphics/CGContextPeer.h"
+#include "platform/desktop/UIKit/ImagePeer.h"
+
+#include <cmath>
+#include <vector>
+
+namespace brimsound {
+
+namespace {
+
+struct ImageContext {
+    /// Null where it could not be made.
+    RetainPtr<CGContext> context;
+    /// Pixels a point.
+    double scale = 1;
+};
+
+/// The current one last.
+std::vector<ImageContext>& imageContexts()
+{
+    static std::vector<ImageContext> contexts;
+    return contexts;
+}
+
+/// 0 for what is no length, or too long.
+std::size_t wholePixels(double length)
+{
+    // What is a whole number but for the last digits that its factors were rounded to is meant to be one.
+    const double pixels = std::ceil(length - 1e-6);
+    return pixels > 0 && pixels <= desktop::longestSide ? static_cast<std::size_t>(pixels) : 0;
+}
+
+} // namespace
+
+void UIGraphicsBeginImageContextWithOptions(CGSize size, CGFloat scale)
+{
+    if (scale == 0)
+        scale = UIScreen::mainScreen().scale();
+    imageContexts().push_back(
+        { desktop::makeContext(wholePixels(size.width * scale), wholePixels(size.height * scale), scale),
+            scale });
+}
+
+void UIGraphicsBeginImageContext(CGSize size)
+{
+    UIGraphicsBeginImageContextWithOptions(size, 1);
+}
+
+void UIGraphicsEndImageContext()
+{
+    if (!imageContexts().empty())
+        imageContexts().pop_back();
+}
+
+CGContextRef UIGraphicsGetCurrentContext()
+{
+    return imageContexts().empty() ? nullptr : imageContexts().back().context.get();
+}
+
+RetainPtr<UIImage> UIGraphicsGetImageFromCurrentImageContext()
+{
+    if (imageContexts().empty())
+        return nullptr;
+    const auto& [context, scale] = imageContexts().back();
+    return desktop::makeImage(CGBitmapContextCreateImage(context.get()), scale);
+}
+
+} // namespace brimsound

@@ -1,0 +1,163 @@
+// The list itself: what it shows, and what becomes of the preferences file.
+#include "platform/CoreFoundation/CFNotificationCenter.h"
+#include "settings/Log.h"
+#include "settings/PlaylistSaver.h"
+#include "settings/store/preferences.h"
+#include "settings/store/presets.h"
+#include "settings/tweak.h"
+
+#include <algorithm>
+
+namespace brimsound {
+
+namespace {
+
+constexpr auto dictionaryTypeName = "PropertyListDictionary";
+
+/// Takes the presets out of the preferences; the built-in ones where those have none.
+PropertyList::Dictionary takePresets(PropertyList::Dictionary& preferences)
+{
+    auto* value = preferences.find(presetsKey);
+    auto* presets = value ? value->asDictionary() : nullptr;
+    return presets && !presets->empty() ? std::move(*presets) : builtin_presets();
+}
+
+bool haveTheSameNames(const PropertyList::Dictionary& a, const PropertyList::Dictionary& b)
+{
+    using Entry = PropertyListDictionary::Entry;
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+        [](const Entry& one, const Entry& other) { return one.key == other.key; });
+}
+
+void writeAndAnnounce(PropertyList::Dictionary preferences)
+{
+    write_preferences(std::move(preferences));
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDarwinNotifyCenter(), settingsFinishedNotification, nullptr, nullptr, true);
+}
+
+} // namespace
+
+const PropertyList* PlaylistSaver::getObjectAtIndexForDictKey(
+    std::size_t index, const PropertyList::Dictionary& dictionary, std::optional<std::string>* key)
+{
+    std::size_t position = 0;
+    for (const auto& entry : dictionary) {
+        if (position++ != index)
+            continue;
+        if (key)
+            *key = entry.key;
+        return &entry.value;
+    }
+    if (key)
+        key->reset();
+    return nullptr;
+}
+
+std::size_t PlaylistSaver::tableViewNumberOfRowsInSection(UITableView&, std::size_t section)
+{
+    return section == 0 ? 1 : _presetDict.size();
+}
+
+bool PlaylistSaver::tableViewCanEditRowAtIndexPath(UITableView&, const NSIndexPath& indexPath)
+{
+    return indexPath.section != 0;
+}
+
+void PlaylistSaver::loadPresets()
+{
+    logLine("getting preferences");
+    auto preferences = get_preferences();
+    _presetDict = takePresets(preferences);
+    const auto* selected = preferences.find(selectedPresetKey);
+    const auto* name = selected ? selected->asString() : nullptr;
+    _selectedPreset = name ? std::optional(*name) : std::nullopt;
+    logLine("/getting preferences: " + std::string(dictionaryTypeName) + ";");
+}
+
+void PlaylistSaver::tableViewDidSelectRowAtIndexPath(UITableView& table, const NSIndexPath& indexPath)
+{
+    if (auto* cell = table.cellForRowAtIndexPath(indexPath))
+        cell->setSelected(false, Animated::No);
+    if (indexPath.section == 0)
+        beginNameEntry();
+    else
+        choosePreset(indexPath.row);
+}
+
+void PlaylistSaver::choosePreset(std::size_t row)
+{
+    const auto* found = getObjectAtIndexForDictKey(row, _presetDict, &_selectedPreset);
+    // These outlive whatever the delegate does to the list.
+    auto preset = found ? *found : PropertyList();
+    textFieldShouldReturn(nullptr);
+    if (!_selectedPreset)
+        return;
+    const auto name = *_selectedPreset;
+
+    const auto* selectedPreset
+        = _delegate ? _delegate->methodForSelector("playlistSaver:selectedPreset:") : nullptr;
+    if (selectedPreset) {
+        if (!hasTenGains(preset)) {
+            const auto gains = tenGains(name, preset);
+            preset = PropertyList::Array(gains.begin(), gains.end());
+        }
+        const std::array<Argument, 2> arguments { static_cast<NSObject*>(this), &std::as_const(preset) };
+        selectedPreset->invoke(*_delegate, arguments);
+    }
+
+    // Only now, as the delegate's band edits say that no preset is selected.
+    auto preferences = get_preferences();
+    preferences.set(selectedPresetKey, name);
+    writeAndAnnounce(std::move(preferences));
+}
+
+bool PlaylistSaver::textFieldShouldReturn(UITextField* field)
+{
+    if (field && !field->text().empty())
+        saveUnderName(field->text());
+    hideEverything();
+    return false;
+}
+
+void PlaylistSaver::saveUnderName(const std::string& name)
+{
+    auto preferences = get_preferences();
+    auto presets = takePresets(preferences);
+    PropertyList::Array gains;
+    gains.reserve(_sliders.size());
+    for (const auto& slider : _sliders)
+        gains.emplace_back(slider->value());
+    presets.set(name, std::move(gains));
+    preferences.set(selectedPresetKey, name);
+    preferences.set(presetsKey, presets);
+    writeAndAnnounce(std::move(preferences));
+    _presetDict = std::move(presets);
+    _selectedPreset = name;
+}
+
+void PlaylistSaver::tableViewCommitEditingStyleForRowAtIndexPath(
+    UITableView& table, UITableViewCellEditingStyle style, const NSIndexPath& indexPath)
+{
+    if (style != UITableViewCellEditingStyle::Delete)
+        return;
+    std::optional<std::string> name;
+    if (!getObjectAtIndexForDictKey(indexPath.row, _presetDict, &name))
+        return;
+    auto preferences = get_preferences();
+    auto presets = takePresets(preferences);
+    presets.remove(*name);
+    preferences.set(presetsKey, presets);
+    writeAndAnnounce(std::move(preferences));
+
+    _presetDict.remove(*name);
+    const bool othersStay = haveTheSameNames(_presetDict, presets);
+    _presetDict = std::move(presets);
+    if (othersStay)
+        table.deleteRowsAtIndexPathsWithRowAnimation({ indexPath }, UITableViewRowAnimation::Automatic);
+    else
+        // Somebody else changed the file since it was shown, so the other rows mean other presets now.
+        table.reloadData();
+}
+
+} // namespace brimsound

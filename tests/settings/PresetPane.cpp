@@ -1,0 +1,61 @@
+#include "tests/settings/PresetPane.h"
+
+#include "tests/settings/Pane.h"
+
+#include <algorithm>
+
+namespace brimsound::tests {
+
+PresetPane::PresetPane(TestPlatform& platform, CGSize window)
+    : _platform(platform)
+    , _controller(openController(window.width))
+{
+    platform.showInWindow(_controller->table(), window);
+    platform.takeTrace();
+}
+
+PresetPane::~PresetPane()
+{
+    // Pane and panel hold one another.
+    if (_controller->saver())
+        _controller->saver()->setDelegate(nullptr);
+}
+
+RetainPtr<UITableViewCell> PresetPane::cell(const NSIndexPath& indexPath) const
+{
+    return panel().tableViewCellForRowAtIndexPath(list(), indexPath);
+}
+
+std::vector<std::string> PresetPane::names() const
+{
+    std::vector<std::string> names;
+    for (const auto& entry : panel().presetDict())
+        names.push_back(entry.key);
+    return names;
+}
+
+std::size_t PresetPane::rowOf(const std::string& name) const
+{
+    const auto all = names();
+    return static_cast<std::size_t>(std::ranges::find(all, name) - all.begin());
+}
+
+void PresetPane::choose(const std::string& name) const
+{
+    panel().tableViewDidSelectRowAtIndexPath(list(), { 1, rowOf(name) });
+}
+
+void PresetPane::remove(const std::string& name) const
+{
+    panel().tableViewCommitEditingStyleForRowAtIndexPath(
+        list(), UITableViewCellEditingStyle::Delete, { 1, rowOf(name) });
+}
+
+void PresetPane::save(const std::string& name) const
+{
+    panel().tableViewDidSelectRowAtIndexPath(list(), { 0, 0 });
+    panel().nameField().setText(name);
+    panel().textFieldShouldReturn(&panel().nameField());
+}
+
+} // namespace brimsound::tests

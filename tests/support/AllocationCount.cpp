@@ -1,0 +1,52 @@
+#include "tests/support/AllocationCount.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::size_t count = 0;
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    ++count;
+    if (void* memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+namespace brimsound::tests {
+
+std::size_t allocationCount()
+{
+    return count;
+}
+
+} // namespace brimsound::tests

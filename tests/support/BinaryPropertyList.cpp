@@ -1,0 +1,75 @@
+#include "tests/support/BinaryPropertyList.h"
+
+#include <cstdint>
+
+namespace brimsound::tests {
+
+namespace {
+
+std::string bigEndian(std::uint64_t value, int size)
+{
+    std::string bytes;
+    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
+        bytes += static_cast<char>(value >> shift);
+    return bytes;
+}
+
+/// What an object begins with: its kind, and a count that follows as an integer of four bytes.
+std::string head(unsigned kind, std::size_t count)
+{
+    return std::string(1, static_cast<char>(kind << 4 | 0xf)) + "\x12" + bigEndian(count, 4);
+}
+
+std::string referenceTo(int place)
+{
+    return bigEndian(static_cast<std::uint64_t>(place), 2);
+}
+
+} // namespace
+
+std::string binaryFile(const std::vector<std::string>& objects)
+{
+    std::string file = "bplist00";
+    std::string offsets;
+    for (const auto& object : objects) {
+        offsets += bigEndian(file.size(), 4);
+        file += object;
+    }
+    const auto offsetTable = file.size();
+    return file + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(objects.size(), 8) + bigEndian(0, 8)
+        + bigEndian(offsetTable, 8);
+}
+
+std::string arrayOf(std::initializer_list<int> references)
+{
+    auto object = head(0xa, references.size());
+    for (const int reference : references)
+        object += referenceTo(reference);
+    return object;
+}
+
+std::string arrayOfCopies(std::size_t count, int reference)
+{
+    return head(0xa, count) + repeat(referenceTo(reference), count);
+}
+
+std::string dictionaryOf(int key, int value)
+{
+    return head(0xd, 1) + referenceTo(key) + referenceTo(value);
+}
+
+std::string stringOf(std::string_view bytes)
+{
+    return head(0x5, bytes.size()) + std::string(bytes);
+}
+
+std::string repeat(std::string_view text, std::size_t times)
+{
+    std::string all;
+    all.reserve(text.size() * times);
+    for (std::size_t i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
+
+} // namespace brimsound::tests
