@@ -1,0 +1,49 @@
+// Every file that the fuzzers start from, and every one that they found something with.
+#include "tests/fuzz/GestureScript.h"
+#include "tests/fuzz/PreferencesFile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace brimsound::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> filesOf(const std::string& corpus)
+{
+    const auto folder = fs::path(CORPUS) / corpus;
+    return { fs::directory_iterator(folder), {} };
+}
+
+std::string contentsOf(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
+
+TEST(EveryFileOfTheCorpus, IsReadAndWrittenAsPreferences)
+{
+    const auto files = filesOf("preferences");
+    EXPECT_FALSE(files.empty());
+    for (const auto& file : files) {
+        const auto contents = contentsOf(file);
+        EXPECT_NO_THROW(tryPreferencesFile(std::as_bytes(std::span(contents)))) << file;
+    }
+}
+
+TEST(EveryFileOfTheCorpus, IsTakenApartAsAScript)
+{
+    const auto files = filesOf("script");
+    EXPECT_FALSE(files.empty());
+    for (const auto& file : files)
+        EXPECT_NO_THROW(tryGestureScript(contentsOf(file))) << file;
+}
+
+} // namespace
+} // namespace brimsound::tests
