@@ -12,6 +12,8 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
     locales python3 xvfb xdotool
 )
+# What the benchmarks take besides those that run the pane.
+bench_packages=(libbenchmark-dev libcairo2-dev python3)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

@@ -1,0 +1,70 @@
+// What the operations are measured on.
+#pragma once
+
+#include "platform/UIKit/UIImage.h"
+
+#include <benchmark/benchmark.h>
+#include <cairo.h>
+#include <pixman.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace brimsound::bench {
+
+struct Free {
+    void operator()(std::uint32_t* memory) const { std::free(memory); }
+};
+using Memory = std::unique_ptr<std::uint32_t[], Free>;
+
+/// Transparent pixels, from the system as they are needed, as the operations get theirs.
+Memory transparentPixels(std::size_t count);
+
+/// A picture of discs, a third of it opaque, most of the rest their soft edges, and transparent between them.
+struct Picture {
+    explicit Picture(std::size_t megapixels);
+
+    std::size_t width;
+    std::size_t height;
+    std::vector<std::uint32_t> pixels;
+    /// The same pixels.
+    RetainPtr<UIImage> image;
+
+    std::size_t bytesPerRow() const { return width * sizeof(std::uint32_t); }
+    std::size_t bytes() const { return pixels.size() * sizeof(std::uint32_t); }
+};
+
+/// The picture of so many megapixels as the benchmark's one argument says; made once.
+const Picture& pictureFor(benchmark::State&);
+
+/// Measures an operation on that picture, in pixels a second of the processor's time.
+template <typename Operation> void measure(benchmark::State& state, const Operation& operation)
+{
+    const auto& picture = pictureFor(state);
+    for ([[maybe_unused]] auto _ : state) {
+        operation(picture);
+        benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(picture.pixels.size()));
+}
+
+struct Unreference {
+    void operator()(pixman_image_t* image) const { pixman_image_unref(image); }
+    void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+    void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+};
+
+using PixmanImage = std::unique_ptr<pixman_image_t, Unreference>;
+using CairoSurface = std::unique_ptr<cairo_surface_t, Unreference>;
+using Cairo = std::unique_ptr<cairo_t, Unreference>;
+
+/// The picture's own pixels, of which both libraries only read.
+PixmanImage pixmanImage(const Picture&);
+CairoSurface cairoSurface(const Picture&);
+
+/// Measures a benchmark for pictures of 1, 12 and 48 megapixels.
+void forEverySize(benchmark::internal::Benchmark*);
+
+} // namespace brimsound::bench

@@ -1,0 +1,83 @@
+// The preset panel: choosing, opening, scrolling.
+#include "benchmarks/Paired.h"
+#include "benchmarks/World.h"
+#include "desktop/brimsound/PaneHost.h"
+#include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/bus/SessionBus.h"
+#include "settings/store/preferences.h"
+
+namespace brimsound::bench {
+
+namespace {
+
+constexpr CGSize windowSize { 320, 568 };
+constexpr double scale = 2;
+/// What a flick scrolls in a sixtieth of a second, in points.
+constexpr double scrollStep = 40;
+
+/// Ten messages, ten writes and one more, as the pane makes them for a preset, against ten calls with the
+/// same payload and eleven writes of the same file.
+void choosingAPreset(benchmark::State& state)
+{
+    const World world;
+    write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
+    const desktop::PaneHost host(windowSize);
+    host.controller()->showPresets();
+    auto& panel = *host.controller()->saver();
+    const auto file = world.preferencesFile();
+    const std::vector<double> values(11, 1.5);
+    std::size_t row = 0;
+    std::string bytes = bytesOf(file);
+
+    Paired().run(
+        state,
+        [&] {
+            panel.tableViewDidSelectRowAtIndexPath(*panel.tableView(), { 1, row });
+            row = (row + 1) % 16;
+        },
+        [&] {
+            for (int band = 0; band < 10; ++band) {
+                sendBare(values);
+                writeBare(file, bytes);
+            }
+            writeBare(file, bytes);
+        },
+        [] { desktop::SessionBus::shared().drain(); });
+}
+BENCHMARK(choosingAPreset)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond)->MinTime(2);
+
+/// From the tap to the painted list.
+void openingThePanel(benchmark::State& state)
+{
+    const World world;
+    write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
+    const desktop::PaneHost host(windowSize);
+    for (auto _ : state) {
+        host.controller()->showPresets();
+        benchmark::DoNotOptimize(desktop::pictureOf(host.window(), scale));
+    }
+}
+BENCHMARK(openingThePanel)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+/// One step of a flick: new rows built, everything in the window painted.
+void scrollingTheList(benchmark::State& state)
+{
+    const World world;
+    write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
+    const desktop::PaneHost host(windowSize);
+    host.controller()->showPresets();
+    auto& list = *host.controller()->saver()->tableView();
+    double offset = 0;
+    for (auto _ : state) {
+        offset += scrollStep;
+        list.setContentOffset({ 0, offset });
+        if (list.contentOffset().y < offset)
+            offset = 0;
+        benchmark::DoNotOptimize(desktop::pictureOf(host.window(), scale));
+    }
+}
+BENCHMARK(scrollingTheList)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace brimsound::bench

@@ -1,0 +1,61 @@
+// The preferences file, against plain libplist.
+#include "benchmarks/Paired.h"
+#include "benchmarks/World.h"
+#include "settings/store/preferences.h"
+
+#include <plist/plist.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace brimsound::bench {
+
+namespace {
+
+using Nodes = std::unique_ptr<void, decltype(&plist_free)>;
+
+Nodes nodesOf(const std::string& bytes)
+{
+    plist_t root = nullptr;
+    plist_from_bin(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
+    return { root, plist_free };
+}
+
+void reading(benchmark::State& state)
+{
+    const World world;
+    write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
+    const auto file = world.preferencesFile();
+    Paired().run(
+        state, [] { benchmark::DoNotOptimize(get_preferences()); },
+        [&] { benchmark::DoNotOptimize(nodesOf(bytesOf(file))); });
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(reading)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond)->MinTime(1);
+
+void writing(benchmark::State& state)
+{
+    const World world;
+    const auto preferences = preferencesWithPresets(static_cast<std::size_t>(state.range(0)));
+    write_preferences(preferences);
+    const auto file = world.preferencesFile();
+    const auto nodes = nodesOf(bytesOf(file));
+    auto copy = preferences;
+    // The pane hands over what it has, so the copy is not part of it.
+    Paired().run(
+        state, [&] { write_preferences(std::move(copy)); },
+        [&] {
+            char* bytes = nullptr;
+            std::uint32_t size = 0;
+            plist_to_bin(nodes.get(), &bytes, &size);
+            writeBare(file, std::string(bytes, size));
+            std::free(bytes);
+        },
+        [&] { copy = preferences; });
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(writing)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond)->MinTime(1);
+
+} // namespace
+
+} // namespace brimsound::bench
