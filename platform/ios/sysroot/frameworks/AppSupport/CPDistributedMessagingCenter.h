@@ -1,0 +1,32 @@
+// Messages between processes. The framework is private.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@interface CPDistributedMessagingCenter : NSObject
+#if defined(GNUSTEP)
+{
+@private
+    NSString* _name;
+}
+#endif
+
++ (CPDistributedMessagingCenter*)centerNamed:(NSString*)name;
+
+/// The reply. Nil on failure; then `error` says why.
+- (NSDictionary*)sendMessageAndReceiveReplyName:(NSString*)name
+                                       userInfo:(NSDictionary*)userInfo
+                                          error:(NSError**)error;
+
+@end
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// Of librocketbootstrap: lets messages through this center reach servers outside the sandbox.
+void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter* messaging_center);
+
+#ifdef __cplusplus
+}
+#endif
