@@ -121,6 +121,10 @@ void CGContextScaleCTM(CGContextRef context, CGFloat sx, CGFloat sy);
 void CGContextSetBlendMode(CGContextRef context, CGBlendMode mode);
 void CGContextDrawImage(CGContextRef context, CGRect rect, CGImageRef image);
 void CGContextFillRect(CGContextRef context, CGRect rect);
+#if defined(GNUSTEP)
+/// What the double of UIColor sets the fill color with.
+void CGContextSetRGBFillColor(CGContextRef context, CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);
+#endif
 
 CGImageRef CGImageRetain(CGImageRef image);
 void CGImageRelease(CGImageRef image);
