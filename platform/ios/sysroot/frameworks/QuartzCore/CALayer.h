@@ -1,0 +1,15 @@
+// Layers: what gives views their shape.
+#pragma once
+
+#import <CoreGraphics/CoreGraphics.h>
+#import <Foundation/Foundation.h>
+
+@interface CALayer : NSObject
+#if defined(GNUSTEP)
+{
+    CGFloat _cornerRadius;
+}
+#endif
+
+@property CGFloat cornerRadius;
+@end

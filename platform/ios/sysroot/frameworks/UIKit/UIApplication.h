@@ -1,0 +1,13 @@
+// The running application.
+#pragma once
+
+#import <UIKit/UIResponder.h>
+
+@class UIWindow;
+
+@interface UIApplication : UIResponder
++ (UIApplication*)sharedApplication;
+@property (nonatomic, readonly) UIWindow* keyWindow;
+- (BOOL)canOpenURL:(NSURL*)url;
+- (BOOL)openURL:(NSURL*)url;
+@end

@@ -1,0 +1,32 @@
+// Colours.
+#pragma once
+
+#import <CoreGraphics/CoreGraphics.h>
+#import <Foundation/Foundation.h>
+
+@interface UIColor : NSObject <NSCopying>
+#if defined(GNUSTEP)
+{
+    CGFloat _components[4];
+}
+#endif
+
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
++ (UIColor*)colorWithHue:(CGFloat)hue
+              saturation:(CGFloat)saturation
+              brightness:(CGFloat)brightness
+                   alpha:(CGFloat)alpha;
++ (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
++ (UIColor*)blackColor;
++ (UIColor*)whiteColor;
++ (UIColor*)yellowColor;
++ (UIColor*)lightGrayColor;
++ (UIColor*)clearColor;
+
+- (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha;
+- (BOOL)getHue:(CGFloat*)hue
+    saturation:(CGFloat*)saturation
+    brightness:(CGFloat*)brightness
+         alpha:(CGFloat*)alpha;
+- (void)setFill;
+@end

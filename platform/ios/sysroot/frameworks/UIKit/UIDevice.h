@@ -1,0 +1,9 @@
+// The device that the program runs on.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@interface UIDevice : NSObject
++ (UIDevice*)currentDevice;
+@property (nonatomic, readonly, retain) NSString* systemVersion;
+@end

@@ -1,0 +1,18 @@
+// Views that show an image.
+#pragma once
+
+#import <UIKit/UIView.h>
+
+@class UIImage;
+
+@interface UIImageView : UIView
+#if defined(GNUSTEP)
+{
+    struct UIImageViewState* _imageViewState;
+}
+#endif
+
+@property (nonatomic, retain) UIImage* image;
+@property (nonatomic, retain) UIImage* highlightedImage;
+@property (nonatomic, getter=isHighlighted) BOOL highlighted;
+@end

@@ -1,0 +1,28 @@
+// Labels.
+#pragma once
+
+#import <UIKit/UIView.h>
+
+@class UIColor;
+@class UIFont;
+
+typedef enum NSTextAlignment : NSInteger {
+    NSTextAlignmentLeft = 0,
+    NSTextAlignmentCenter = 1,
+    NSTextAlignmentRight = 2,
+} NSTextAlignment;
+
+@interface UILabel : UIView
+#if defined(GNUSTEP)
+{
+    struct UILabelState* _labelState;
+}
+#endif
+
+@property (nonatomic, copy) NSString* text;
+@property (nonatomic, retain) UIFont* font;
+@property (nonatomic, retain) UIColor* textColor;
+@property (nonatomic, retain) UIColor* highlightedTextColor;
+@property (nonatomic, getter=isHighlighted) BOOL highlighted;
+@property (nonatomic) NSTextAlignment textAlignment;
+@end

@@ -1,0 +1,52 @@
+// Views, and how their changes are animated.
+#pragma once
+
+#import <CoreGraphics/CoreGraphics.h>
+#import <UIKit/UIResponder.h>
+
+@class CALayer;
+@class UIColor;
+@class UIWindow;
+
+@interface UIView : UIResponder
+#if defined(GNUSTEP)
+{
+    struct UIViewState* _viewState;
+}
+#endif
+
+- (instancetype)initWithFrame:(CGRect)frame;
+
+@property (nonatomic) CGRect frame;
+@property (nonatomic) CGRect bounds;
+
+@property (nonatomic, readonly) UIView* superview;
+@property (nonatomic, readonly, copy) NSArray* subviews;
+@property (nonatomic, readonly) UIWindow* window;
+- (void)addSubview:(UIView*)view;
+- (void)insertSubview:(UIView*)view atIndex:(NSInteger)index;
+- (void)removeFromSuperview;
+- (BOOL)isDescendantOfView:(UIView*)view;
+
+- (void)setNeedsLayout;
+- (void)layoutIfNeeded;
+- (void)layoutSubviews;
+
+@property (nonatomic, copy) UIColor* backgroundColor;
+@property (nonatomic) CGFloat alpha;
+@property (nonatomic, getter=isHidden) BOOL hidden;
+@property (nonatomic) BOOL clipsToBounds;
+@property (nonatomic, getter=isUserInteractionEnabled) BOOL userInteractionEnabled;
+@property (nonatomic, readonly, retain) CALayer* layer;
+
+@property (nonatomic) NSInteger tag;
+- (UIView*)viewWithTag:(NSInteger)tag;
+
++ (void)beginAnimations:(NSString*)animationID context:(void*)context;
++ (void)setAnimationDuration:(NSTimeInterval)duration;
++ (void)setAnimationBeginsFromCurrentState:(BOOL)fromCurrentState;
++ (void)commitAnimations;
+#if defined(__BLOCKS__)
++ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations;
+#endif
+@end

@@ -1,0 +1,18 @@
+// Windows: the roots of view trees.
+#pragma once
+
+#import <UIKit/UIView.h>
+
+@class UIViewController;
+
+@interface UIWindow : UIView
+#if defined(GNUSTEP)
+{
+    struct UIWindowState* _windowState;
+}
+#endif
+
+/// Its view fills the window.
+@property (nonatomic, retain) UIViewController* rootViewController;
+- (void)makeKeyAndVisible;
+@end
