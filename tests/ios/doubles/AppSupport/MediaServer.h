@@ -1,0 +1,15 @@
+// The media server in a test's hands.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+namespace brimsound::doubles {
+
+/// Whether messages are answered; without a server they fail.
+void setMediaServerRuns(bool);
+
+/// The user info of each message that was sent since the last call of forgetMessages.
+NSArray* sentMessages();
+void forgetMessages();
+
+} // namespace brimsound::doubles

@@ -1,0 +1,89 @@
+// Associated objects, which this runtime has not.
+#import <Foundation/Foundation.h>
+#import <objc/runtime.h>
+
+#include <dlfcn.h>
+
+#include <map>
+#include <unordered_map>
+#include <utility>
+
+namespace {
+
+/// A value that is retained, unless it is only assigned.
+class Association {
+public:
+    Association() = default;
+    Association(id value, objc_AssociationPolicy policy)
+        : _value(value)
+        , _isRetained(policy != OBJC_ASSOCIATION_ASSIGN)
+    {
+        if (_isRetained)
+            [_value retain];
+    }
+    Association(Association&& other) noexcept
+        : _value(std::exchange(other._value, nil))
+        , _isRetained(other._isRetained)
+    {
+    }
+    Association& operator=(Association&& other) noexcept
+    {
+        std::swap(_value, other._value);
+        std::swap(_isRetained, other._isRetained);
+        return *this;
+    }
+    Association(const Association&) = delete;
+    Association& operator=(const Association&) = delete;
+    ~Association()
+    {
+        if (_isRetained)
+            [_value release];
+    }
+
+    id value() const { return _value; }
+
+private:
+    id _value = nil;
+    bool _isRetained = false;
+};
+
+using Associations = std::map<const void*, Association>;
+
+std::unordered_map<id, Associations>& associationsOfAll()
+{
+    // Never destroyed: objects are still deallocated while the program ends.
+    static auto& all = *new std::unordered_map<id, Associations>;
+    return all;
+}
+
+} // namespace
+
+void objc_setAssociatedObject(id object, const void* key, id value, objc_AssociationPolicy policy)
+{
+    if (!object)
+        return;
+    Association association(value, policy);
+    auto& place = associationsOfAll()[object][key];
+    // What was there is released last, when the table is in order again: its -dealloc may come here too.
+    std::swap(place, association);
+}
+
+id objc_getAssociatedObject(id object, const void* key)
+{
+    const auto& all = associationsOfAll();
+    const auto ofObject = all.find(object);
+    if (ofObject == all.end())
+        return nil;
+    const auto found = ofObject->second.find(key);
+    return found == ofObject->second.end() ? nil : found->second.value();
+}
+
+/// Every deallocation ends here, after the -dealloc of all classes. Takes the library's place.
+void NSDeallocateObject(id object)
+{
+    // Taken out first: a released value may set or ask for associations itself.
+    const auto dropped = associationsOfAll().extract(object);
+
+    static const auto deallocate = reinterpret_cast<void (*)(id)>(dlsym(RTLD_NEXT, "NSDeallocateObject"));
+    deallocate(object);
+}
