@@ -12,8 +12,8 @@ namespace brimsound {
 
 std::size_t BrimsoundSettingsListController::indexOf(const UISlider& slider) const
 {
-    const auto found
-        = std::ranges::find_if(*_sliders, [&](const auto& candidate) { return candidate == &slider; });
+    const auto found = std::find_if(
+        _sliders->begin(), _sliders->end(), [&](const auto& candidate) { return candidate == &slider; });
     return static_cast<std::size_t>(found - _sliders->begin());
 }
 
