@@ -6,9 +6,8 @@
 @interface CPDistributedMessagingCenter : NSObject
 #if defined(GNUSTEP)
 {
-@public
+@private
     NSString* _name;
-    BOOL _isOpen;
 }
 #endif
 

@@ -1,0 +1,44 @@
+# Cross-building for the device, arm64 with iOS 9.0 or later, with clang and lld. Against an SDK where SDKROOT, a CMake
+# or an environment variable, names one; else against the stand-ins in platform/ios/sysroot.
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_PROCESSOR arm64)
+
+set(ios_sysroot ${CMAKE_CURRENT_LIST_DIR}/../platform/ios/sysroot)
+cmake_path(NORMAL_PATH ios_sysroot)
+
+if(NOT SDKROOT)
+  set(SDKROOT $ENV{SDKROOT})
+endif()
+if(SDKROOT)
+  set(CMAKE_OSX_SYSROOT ${SDKROOT})
+else()
+  set(CMAKE_OSX_SYSROOT ${ios_sysroot}/stubs)
+  set(ios_libc "-nostdlibinc -isystem ${ios_sysroot}/libc")
+endif()
+# CMake's own checks have to see it too.
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
+
+# The standard library's headers are those of the compiler whether or not there is an SDK, with the markup of what
+# the device's library lacks. The frameworks that no SDK declares are found behind those that one does.
+string(JOIN " " ios_flags
+  -nostdinc++
+  "-isystem ${ios_sysroot}/libcxx"
+  "-isystem /usr/lib/llvm-14/include/c++/v1"
+  "${ios_libc}"
+  "-idirafter ${ios_sysroot}/frameworks"
+)
+foreach(language CXX OBJCXX)
+  set(CMAKE_${language}_COMPILER /usr/bin/clang++-14)
+  set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios9.0)
+  set(CMAKE_${language}_FLAGS_INIT ${ios_flags})
+endforeach()
+set(CMAKE_MODULE_LINKER_FLAGS_INIT "--ld-path=/usr/bin/ld64.lld-14 -F${ios_sysroot}/stubs/System/Library/PrivateFrameworks")
+
+set(CMAKE_AR /usr/bin/llvm-ar-14)
+set(CMAKE_RANLIB /usr/bin/llvm-ranlib-14)
+set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-14)
+
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
+# There is nothing to link a program with.
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

@@ -1,0 +1,8 @@
+// Putting releases off.
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+@interface NSAutoreleasePool : NSObject
+- (void)drain;
+@end

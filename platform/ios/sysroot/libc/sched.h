@@ -1,0 +1,8 @@
+// Giving other threads a turn.
+#pragma once
+
+#include "_types.h"
+
+BEGIN_DECLS
+int sched_yield(void);
+END_DECLS

@@ -1,0 +1,31 @@
+// Kinds of wide characters.
+#pragma once
+
+#include "_types.h"
+
+typedef int wint_t;
+typedef uint32_t wctype_t;
+typedef int wctrans_t;
+
+#define WEOF ((wint_t)-1)
+
+BEGIN_DECLS
+int iswalnum(wint_t);
+int iswalpha(wint_t);
+int iswblank(wint_t);
+int iswcntrl(wint_t);
+int iswdigit(wint_t);
+int iswgraph(wint_t);
+int iswlower(wint_t);
+int iswprint(wint_t);
+int iswpunct(wint_t);
+int iswspace(wint_t);
+int iswupper(wint_t);
+int iswxdigit(wint_t);
+int iswctype(wint_t, wctype_t);
+wctype_t wctype(const char*);
+wint_t towlower(wint_t);
+wint_t towupper(wint_t);
+wint_t towctrans(wint_t, wctrans_t);
+wctrans_t wctrans(const char*);
+END_DECLS
