@@ -6,8 +6,9 @@
 @interface CPDistributedMessagingCenter : NSObject
 #if defined(GNUSTEP)
 {
-@private
+@public
     NSString* _name;
+    BOOL _isOpen;
 }
 #endif
 
