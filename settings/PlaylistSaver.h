@@ -68,7 +68,7 @@ public:
     /// What the list shows, in its order.
     const PropertyList::Dictionary& presetDict() const { return _presetDict; }
     const std::optional<std::string>& selectedPreset() const { return _selectedPreset; }
-    const std::string& cancelText() const { return cancelLabel->text(); }
+    std::string cancelText() const { return cancelLabel->text(); }
     /// Where a new preset's name is typed.
     UITextField& nameField() const { return *newPlaylistField; }
 

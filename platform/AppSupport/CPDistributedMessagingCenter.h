@@ -22,8 +22,8 @@ public:
     PropertyList::Dictionary sendMessageAndReceiveReplyName(
         const std::string& name, const PropertyList::Dictionary& userInfo, std::optional<NSError>& error);
 
-private:
-    explicit CPDistributedMessagingCenter(const std::string& name);
+protected:
+    explicit CPDistributedMessagingCenter(Peer*);
 };
 
 } // namespace brimsound

@@ -44,6 +44,9 @@ protected:
     virtual ~NSObject();
 
 private:
+    /// Destroys the object with its peer.
+    friend struct Peer;
+
     Peer* _peer;
 };
 

@@ -16,8 +16,9 @@ namespace brimsound {
 
 class PropertyList;
 
-/// A dictionary from strings to values that keeps the order in which its keys were first set (for a
-/// dictionary that was read from a file: the file's order).
+/// A dictionary from strings to values that keeps the order in which its keys were first set. One that was
+/// read from a file has the file's order where the platform knows it, as the desktop does; on a device it is
+/// whatever order Foundation hands the keys out in.
 class PropertyListDictionary {
 public:
     struct Entry;

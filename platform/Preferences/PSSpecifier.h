@@ -16,11 +16,14 @@ public:
     PSSpecifier(const std::string& name, NSObject& target, PropertyList::Dictionary properties);
 
     /// The localised label.
-    const std::string& name() const;
+    std::string name() const;
     NSObject& target() const;
 
     /// The property under the key ("key", "default", "negate" …); null when there is none.
     PropertyList propertyForKey(std::string_view key) const;
+
+protected:
+    explicit PSSpecifier(Peer*);
 };
 
 } // namespace brimsound

@@ -34,7 +34,7 @@ public:
     /// Makes this the color that the current context (UIGraphics.h) fills with, if there is one.
     void setFill() const;
 
-private:
+protected:
     explicit UIColor(Peer*);
 };
 

@@ -21,10 +21,10 @@ public:
     RetainPtr<UIFont> fontWithSize(CGFloat size) const;
 
     /// The PostScript name; empty for the default text font of a platform that gives it none.
-    const std::string& fontName() const;
+    std::string fontName() const;
     CGFloat pointSize() const;
 
-private:
+protected:
     explicit UIFont(Peer*);
 };
 

@@ -20,6 +20,9 @@ public:
     /// A table row highlights the image views in it while it is pressed or selected.
     bool isHighlighted() const;
     void setHighlighted(bool);
+
+protected:
+    explicit UIImageView(Peer*);
 };
 
 } // namespace brimsound

@@ -19,7 +19,7 @@ class UILabel : public UIView {
 public:
     explicit UILabel(const CGRect& frame = {});
 
-    const std::string& text() const;
+    std::string text() const;
     void setText(const std::string&);
     /// At first the default text font at 17 points.
     RetainPtr<UIFont> font() const;
@@ -35,6 +35,9 @@ public:
     void setHighlighted(bool);
     NSTextAlignment textAlignment() const;
     void setTextAlignment(NSTextAlignment);
+
+protected:
+    explicit UILabel(Peer*);
 };
 
 } // namespace brimsound

@@ -49,6 +49,9 @@ public:
     void setSeparatorColor(RetainPtr<UIColor>);
 
     void layoutSubviews() override;
+
+protected:
+    explicit UITableView(Peer*);
 };
 
 } // namespace brimsound

@@ -36,7 +36,7 @@ public:
     /// initWithStyle:reuseIdentifier:
     UITableViewCell(UITableViewCellStyle, const std::string& reuseIdentifier);
 
-    const std::string& reuseIdentifier() const;
+    std::string reuseIdentifier() const;
     UIView& contentView() const;
     UILabel& textLabel() const;
     /// The text below; null in the default style. While it is empty, the text label has the whole height.

@@ -34,7 +34,7 @@ public:
     explicit UITextField(const CGRect& frame = {});
 
     /// UTF-8, as it stands after each change; at first empty.
-    const std::string& text() const;
+    std::string text() const;
     void setText(const std::string&);
     /// At first the default text font at 17 points.
     RetainPtr<UIFont> font() const;

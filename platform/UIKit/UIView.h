@@ -24,7 +24,7 @@ public:
 
     UIView* superview() const;
     /// Back to front.
-    const std::vector<RetainPtr<UIView>>& subviews() const;
+    std::vector<RetainPtr<UIView>> subviews() const;
     /// Puts the view in front of the other subviews, out of its former superview if it had one.
     void addSubview(UIView&);
     void removeFromSuperview();

@@ -70,14 +70,14 @@ NSError errorOf(const sd_bus_error& error)
 
 } // namespace
 
-CPDistributedMessagingCenter::CPDistributedMessagingCenter(const std::string& name)
-    : NSObject(new MessagingCenterPeer(name))
+CPDistributedMessagingCenter::CPDistributedMessagingCenter(Peer* peer)
+    : NSObject(peer)
 {
 }
 
 RetainPtr<CPDistributedMessagingCenter> CPDistributedMessagingCenter::centerNamed(const std::string& name)
 {
-    return adopt(new CPDistributedMessagingCenter(name));
+    return adopt(new CPDistributedMessagingCenter(new MessagingCenterPeer(name)));
 }
 
 PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveReplyName(

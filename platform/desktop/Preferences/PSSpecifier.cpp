@@ -27,11 +27,16 @@ const SpecifierPeer& peerOf(const PSSpecifier& specifier)
 } // namespace
 
 PSSpecifier::PSSpecifier(const std::string& name, NSObject& target, PropertyList::Dictionary properties)
-    : NSObject(new SpecifierPeer(name, target, std::move(properties)))
+    : PSSpecifier(new SpecifierPeer(name, target, std::move(properties)))
 {
 }
 
-const std::string& PSSpecifier::name() const
+PSSpecifier::PSSpecifier(Peer* peer)
+    : NSObject(peer)
+{
+}
+
+std::string PSSpecifier::name() const
 {
     return peerOf(*this).name;
 }

@@ -9,8 +9,9 @@ namespace brimsound::desktop {
 
 bool closeFront(UIView& view)
 {
+    const auto views = view.subviews();
     // NOLINTNEXTLINE(modernize-loop-convert): from the front backwards
-    for (auto front = view.subviews().rbegin(); front != view.subviews().rend(); ++front) {
+    for (auto front = views.rbegin(); front != views.rend(); ++front) {
         if (!coversSuperview(**front))
             continue;
         const auto kept = retain(front->get());

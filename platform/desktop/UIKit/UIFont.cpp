@@ -47,7 +47,7 @@ RetainPtr<UIFont> UIFont::fontWithSize(CGFloat size) const
     return adopt(new UIFont(new FontPeer(fontName(), size)));
 }
 
-const std::string& UIFont::fontName() const
+std::string UIFont::fontName() const
 {
     return peerOf(*this).name;
 }

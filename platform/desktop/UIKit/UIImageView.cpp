@@ -27,8 +27,13 @@ ImageViewPeer& peerOf(const UIImageView& view)
 
 } // namespace
 
+UIImageView::UIImageView(Peer* peer)
+    : UIView(peer)
+{
+}
+
 UIImageView::UIImageView(const CGRect& frame)
-    : UIView(new ImageViewPeer)
+    : UIImageView(new ImageViewPeer)
 {
     peerOf(*this).frame = frame;
 }

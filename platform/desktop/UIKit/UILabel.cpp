@@ -41,13 +41,18 @@ LabelPeer& peerOf(const UILabel& label)
 
 } // namespace
 
+UILabel::UILabel(Peer* peer)
+    : UIView(peer)
+{
+}
+
 UILabel::UILabel(const CGRect& frame)
-    : UIView(new LabelPeer)
+    : UILabel(new LabelPeer)
 {
     peerOf(*this).frame = frame;
 }
 
-const std::string& UILabel::text() const
+std::string UILabel::text() const
 {
     return peerOf(*this).text;
 }

@@ -41,7 +41,7 @@ std::vector<UISlider*> slidersBeside(const UIView& view)
 {
     std::vector<UISlider*> sliders;
     if (const auto* superview = view.superview()) {
-        for (const auto& sibling : superview->subviews()) {
+        for (const auto& sibling : peerOf(*superview).subviews) {
             if (auto* slider = dynamic_cast<UISlider*>(sibling.get()))
                 sliders.push_back(slider);
         }

@@ -8,8 +8,13 @@ namespace brimsound {
 using desktop::peerOf;
 using desktop::TablePeer;
 
+UITableView::UITableView(Peer* peer)
+    : UIScrollView(peer)
+{
+}
+
 UITableView::UITableView(const CGRect& frame, UITableViewStyle style)
-    : UIScrollView(new TablePeer(style))
+    : UITableView(new TablePeer(style))
 {
     auto& peer = peerOf(*this);
     peer.frame = frame;

@@ -42,7 +42,7 @@ UITableViewCell::UITableViewCell(Peer* peer)
 {
 }
 
-const std::string& UITableViewCell::reuseIdentifier() const
+std::string UITableViewCell::reuseIdentifier() const
 {
     return peerOf(*this).reuseIdentifier;
 }

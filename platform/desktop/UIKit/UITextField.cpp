@@ -83,7 +83,7 @@ UITextField::UITextField(const CGRect& frame)
     peerOf(*this).frame = frame;
 }
 
-const std::string& UITextField::text() const
+std::string UITextField::text() const
 {
     return peerOf(*this).text;
 }

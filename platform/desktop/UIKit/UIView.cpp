@@ -56,7 +56,7 @@ UIView* UIView::superview() const
     return peerOf(*this).superview;
 }
 
-const std::vector<RetainPtr<UIView>>& UIView::subviews() const
+std::vector<RetainPtr<UIView>> UIView::subviews() const
 {
     return peerOf(*this).subviews;
 }
@@ -203,7 +203,7 @@ UIView* UIView::viewWithTag(long tag)
 {
     if (this->tag() == tag)
         return this;
-    for (const auto& subview : subviews()) {
+    for (const auto& subview : peerOf(*this).subviews) {
         if (auto* found = subview->viewWithTag(tag))
             return found;
     }

@@ -78,12 +78,42 @@ id objc_getAssociatedObject(id object, const void* key)
     return found == ofObject->second.end() ? nil : found->second.value();
 }
 
-/// Every deallocation ends here, after the -dealloc of all classes. Takes the library's place.
+// A deallocation ends in NSObject's -dealloc, or in the function that this is made of, which some classes of
+// the library call at once. By then the -dealloc of all classes has run. Both take the associations out of
+// the table first: a released value may set or ask for associations itself.
+
+namespace {
+
+using Deallocate = void (*)(id);
+using Dealloc = void (*)(id, SEL);
+
+Dealloc originalDealloc = nullptr;
+
+void dealloc(id object, SEL selector)
+{
+    const auto dropped = associationsOfAll().extract(object);
+    originalDealloc(object, selector);
+}
+
+} // namespace
+
 void NSDeallocateObject(id object)
 {
-    // Taken out first: a released value may set or ask for associations itself.
     const auto dropped = associationsOfAll().extract(object);
-
-    static const auto deallocate = reinterpret_cast<void (*)(id)>(dlsym(RTLD_NEXT, "NSDeallocateObject"));
-    deallocate(object);
+    static const auto original = reinterpret_cast<Deallocate>(dlsym(RTLD_NEXT, "NSDeallocateObject"));
+    original(object);
 }
+
+@interface AssociationDropping : NSObject
+@end
+
+@implementation AssociationDropping
+
++ (void)load
+{
+    const Method method = class_getInstanceMethod([NSObject class], @selector(dealloc));
+    originalDealloc
+        = reinterpret_cast<Dealloc>(method_setImplementation(method, reinterpret_cast<IMP>(dealloc)));
+}
+
+@end

@@ -1,0 +1,9 @@
+#include "platform/CoreFoundation/CFBase.h"
+
+#import <CoreFoundation/CoreFoundation.h>
+
+namespace brimsound {
+
+double kCFCoreFoundationVersionNumber = ::kCFCoreFoundationVersionNumber;
+
+} // namespace brimsound

@@ -1,0 +1,69 @@
+// Which of our classes belongs to a native object that the platform made.
+#include "platform/AppSupport/CPDistributedMessagingCenter.h"
+#include "platform/Preferences/PSSpecifier.h"
+#include "platform/UIKit/UIImage.h"
+#include "platform/UIKit/UITableView.h"
+#include "platform/UIKit/UIViewController.h"
+#include "platform/ios/Foundation/Peer.h"
+
+#import <AppSupport/CPDistributedMessagingCenter.h>
+#import <Preferences/PSSpecifier.h>
+#import <UIKit/UIKit.h>
+
+#include <array>
+
+namespace brimsound::ios {
+
+namespace {
+
+/// Makes the object for a native one that belongs to others. The peer keeps the reference count that it has.
+template <typename Class> NSObject* makeFor(id native)
+{
+    struct Made : Class {
+        explicit Made(Peer* peer)
+            : Class(peer)
+        {
+        }
+    };
+    return new Made(peer(native));
+}
+
+struct NativeClass {
+    Class native;
+    NSObject* (*make)(id);
+};
+
+NSObject* make(id native)
+{
+    // Derived classes before those that they derive from.
+    static const std::array classes {
+        NativeClass { [::UITableViewCell class], makeFor<UITableViewCell> },
+        NativeClass { [::UITableView class], makeFor<UITableView> },
+        NativeClass { [::UILabel class], makeFor<UILabel> },
+        NativeClass { [::UIImageView class], makeFor<UIImageView> },
+        NativeClass { [::UIView class], makeFor<UIView> },
+        NativeClass { [::UIViewController class], makeFor<UIViewController> },
+        NativeClass { [::UIColor class], makeFor<UIColor> },
+        NativeClass { [::UIFont class], makeFor<UIFont> },
+        NativeClass { [::UIImage class], makeFor<UIImage> },
+        NativeClass { [::PSSpecifier class], makeFor<PSSpecifier> },
+        NativeClass { [::CPDistributedMessagingCenter class], makeFor<CPDistributedMessagingCenter> },
+    };
+    for (const auto& known : classes) {
+        if ([native isKindOfClass:known.native])
+            return known.make(native);
+    }
+    return makeFor<NSObject>(native);
+}
+
+} // namespace
+
+NSObject* objectOf(id native)
+{
+    if (!native)
+        return nullptr;
+    auto* object = existingObjectOf(native);
+    return object ? object : make(native);
+}
+
+} // namespace brimsound::ios

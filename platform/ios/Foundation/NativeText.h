@@ -1,0 +1,17 @@
+// Text as the platform and as the product hold it.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include <string>
+#include <string_view>
+
+namespace brimsound::ios {
+
+/// In UTF-8; empty for nil. Half a surrogate pair, which has no UTF-8, becomes a question mark.
+std::string textOf(::NSString*);
+
+/// Autoreleased; nil for bytes that are not UTF-8.
+::NSString* nativeText(std::string_view);
+
+} // namespace brimsound::ios

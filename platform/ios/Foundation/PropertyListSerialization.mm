@@ -1,0 +1,61 @@
+#include "platform/Foundation/PropertyListSerialization.h"
+
+#include "platform/ios/Foundation/NativeText.h"
+#include "platform/ios/Foundation/PropertyListConversion.h"
+
+namespace brimsound {
+
+namespace {
+
+/// Every value takes a byte of the file at least, where it is or where it is referred to. More come only from
+/// containers that many others refer to, and of those a small file can hold without end.
+std::size_t mostValuesIn(::NSData* file)
+{
+    return 1024 + 4 * [file length];
+}
+
+} // namespace
+
+std::optional<PropertyList> readPropertyListFile(const std::string& path)
+{
+    ::NSAutoreleasePool* pool = [[::NSAutoreleasePool alloc] init];
+    ::NSData* file = [::NSData dataWithContentsOfFile:ios::nativeText(path)];
+    id native = file ? [::NSPropertyListSerialization propertyListWithData:file
+                                                                   options:NSPropertyListImmutable
+                                                                    format:NULL
+                                                                     error:NULL]
+                     : nil;
+    auto value = ios::valueOf(native, mostValuesIn(file));
+    [pool release];
+    return value;
+}
+
+std::optional<PropertyList::Data> dataWithPropertyList(
+    const PropertyList& value, NSPropertyListFormat format, NSPropertyListWriteOptions options)
+{
+    ::NSAutoreleasePool* pool = [[::NSAutoreleasePool alloc] init];
+    std::optional<PropertyList::Data> data;
+    id native = ios::nativeValue(value);
+    const auto nativeFormat = static_cast<::NSPropertyListFormat>(format);
+    if (native && [::NSPropertyListSerialization propertyList:native isValidForFormat:nativeFormat]) {
+        ::NSData* written = [::NSPropertyListSerialization dataWithPropertyList:native
+                                                                         format:nativeFormat
+                                                                        options:options
+                                                                          error:NULL];
+        const auto* bytes = static_cast<const std::byte*>([written bytes]);
+        if (written)
+            data.emplace(bytes, bytes + [written length]);
+    }
+    [pool release];
+    return data;
+}
+
+bool writeToFile(const PropertyList::Data& data, const std::string& path, Atomically atomically)
+{
+    ::NSData* native = [::NSData dataWithBytes:data.data() length:data.size()];
+    return [native writeToFile:ios::nativeText(path)
+                       options:atomically == Atomically::Yes ? NSDataWritingAtomic : 0
+                         error:NULL];
+}
+
+} // namespace brimsound

@@ -1,0 +1,92 @@
+#include "platform/MessageUI/MFMailComposeViewController.h"
+
+#include "platform/ios/Foundation/NativeText.h"
+#include "platform/ios/Foundation/Peer.h"
+
+#import <MessageUI/MessageUI.h>
+#import <objc/runtime.h>
+
+/// Hands the outcome to a delegate of ours. The composer holds it.
+@interface BRMailComposeDelegate : NSObject <MFMailComposeViewControllerDelegate> {
+@public
+    brimsound::MFMailComposeViewControllerDelegate* _delegate;
+}
+@end
+
+@implementation BRMailComposeDelegate
+
+- (void)mailComposeController:(MFMailComposeViewController*)composer
+          didFinishWithResult:(MFMailComposeResult)result
+                        error:(NSError*)nativeError
+{
+    using namespace brimsound::ios;
+    const brimsound::NSError error { textOf([nativeError domain]), textOf([nativeError localizedDescription]) };
+    _delegate->mailComposeControllerDidFinishWithResultError(
+        *objectOf<brimsound::MFMailComposeViewController>(composer),
+        static_cast<brimsound::MFMailComposeResult>(result), nativeError ? &error : nullptr);
+}
+
+@end
+
+namespace brimsound {
+
+namespace {
+
+const char delegateKey = 0;
+
+/// Nil on a device that has no mail account.
+::MFMailComposeViewController* nativeOf(const MFMailComposeViewController& composer)
+{
+    id native = ios::nativeOf(composer);
+    return [native isKindOfClass:[::MFMailComposeViewController class]] ? native : nil;
+}
+
+/// Something to live with where there is no composer.
+id orPlaceholder(id native)
+{
+    return native ? native : [[::NSObject alloc] init];
+}
+
+} // namespace
+
+MFMailComposeViewController::MFMailComposeViewController()
+    : UIViewController(ios::peer(orPlaceholder([[::MFMailComposeViewController alloc] init])))
+{
+}
+
+void MFMailComposeViewController::setMailComposeDelegate(MFMailComposeViewControllerDelegate* delegate)
+{
+    auto* composer = nativeOf(*this);
+    if (!composer)
+        return;
+    BRMailComposeDelegate* native = nil;
+    if (delegate) {
+        native = [[[BRMailComposeDelegate alloc] init] autorelease];
+        native->_delegate = delegate;
+    }
+    [composer setMailComposeDelegate:native];
+    objc_setAssociatedObject(composer, &delegateKey, native, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
+}
+
+void MFMailComposeViewController::setSubject(const std::string& subject)
+{
+    [nativeOf(*this) setSubject:ios::nativeText(subject)];
+}
+
+void MFMailComposeViewController::setToRecipients(const std::vector<std::string>& addresses)
+{
+    ::NSMutableArray* natives = [::NSMutableArray arrayWithCapacity:addresses.size()];
+    for (const auto& address : addresses)
+        [natives addObject:ios::nativeText(address)];
+    [nativeOf(*this) setToRecipients:natives];
+}
+
+void MFMailComposeViewController::addAttachmentDataMimeTypeFileName(
+    NSData data, const std::string& mimeType, const std::string& fileName)
+{
+    [nativeOf(*this) addAttachmentData:[::NSData dataWithBytes:data.data() length:data.size()]
+                              mimeType:ios::nativeText(mimeType)
+                              fileName:ios::nativeText(fileName)];
+}
+
+} // namespace brimsound

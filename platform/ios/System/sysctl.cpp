@@ -1,0 +1,14 @@
+#include "platform/System/sysctl.h"
+
+// <sys/sysctl.h> has it on a device.
+extern "C" int sysctlbyname(
+    const char* name, void* value, std::size_t* size, void* newValue, std::size_t newSize);
+
+namespace brimsound {
+
+int sysctlbyname(const char* name, void* value, std::size_t* size, void* newValue, std::size_t newSize)
+{
+    return ::sysctlbyname(name, value, size, newValue, newSize);
+}
+
+} // namespace brimsound

@@ -1,0 +1,69 @@
+#include "platform/UIKit/UIAlertView.h"
+
+#include "platform/ios/Foundation/NativeText.h"
+#include "platform/ios/Foundation/Peer.h"
+
+#import <UIKit/UIKit.h>
+#import <objc/runtime.h>
+
+/// Hands the answer to a delegate of ours. The alert holds it.
+@interface BRAlertViewDelegate : NSObject <UIAlertViewDelegate> {
+@public
+    brimsound::UIAlertViewDelegate* _delegate;
+}
+@end
+
+@implementation BRAlertViewDelegate
+
+- (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)index
+{
+    _delegate->alertViewClickedButtonAtIndex(*brimsound::ios::objectOf<brimsound::UIAlertView>(alert), index);
+}
+
+@end
+
+namespace brimsound {
+
+namespace {
+
+const char delegateKey = 0;
+
+Peer* makePeer(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
+    const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles)
+{
+    BRAlertViewDelegate* native = nil;
+    if (delegate) {
+        native = [[[BRAlertViewDelegate alloc] init] autorelease];
+        native->_delegate = delegate;
+    }
+    ::UIAlertView* alert = [[::UIAlertView alloc] initWithTitle:title.empty() ? nil : ios::nativeText(title)
+                                                        message:ios::nativeText(message)
+                                                       delegate:native
+                                              cancelButtonTitle:ios::nativeText(cancelButtonTitle)
+                                              otherButtonTitles:nil];
+    objc_setAssociatedObject(alert, &delegateKey, native, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
+    for (const auto& text : otherButtonTitles)
+        [alert addButtonWithTitle:ios::nativeText(text)];
+    return ios::peer(alert);
+}
+
+} // namespace
+
+UIAlertView::UIAlertView(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
+    const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles)
+    : UIView(makePeer(title, message, delegate, cancelButtonTitle, otherButtonTitles))
+{
+}
+
+void UIAlertView::show()
+{
+    ::UIAlertView* native = ios::nativeOf(*this);
+    [native show];
+}
+
+void UIAlertView::layoutSubviews()
+{
+    UIView::layoutSubviews();
+}
+
+} // namespace brimsound

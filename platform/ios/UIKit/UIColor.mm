@@ -1,0 +1,79 @@
+#include "platform/UIKit/UIColor.h"
+
+#include "platform/UIKit/UIGraphics.h"
+#include "platform/ios/Foundation/Peer.h"
+
+#import <UIKit/UIKit.h>
+
+namespace brimsound {
+
+using ios::retainedObjectOf;
+
+UIColor::UIColor(Peer* peer)
+    : NSObject(peer)
+{
+}
+
+RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
+    CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
+{
+    return retainedObjectOf<UIColor>([::UIColor colorWithRed:red green:green blue:blue alpha:alpha]);
+}
+
+RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
+    CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
+{
+    return retainedObjectOf<UIColor>([::UIColor colorWithHue:hue
+                                                  saturation:saturation
+                                                  brightness:brightness
+                                                       alpha:alpha]);
+}
+
+RetainPtr<UIColor> UIColor::colorWithWhiteAlpha(CGFloat white, CGFloat alpha)
+{
+    return retainedObjectOf<UIColor>([::UIColor colorWithWhite:white alpha:alpha]);
+}
+
+RetainPtr<UIColor> UIColor::blackColor()
+{
+    return retainedObjectOf<UIColor>([::UIColor blackColor]);
+}
+
+RetainPtr<UIColor> UIColor::whiteColor()
+{
+    return retainedObjectOf<UIColor>([::UIColor whiteColor]);
+}
+
+RetainPtr<UIColor> UIColor::yellowColor()
+{
+    return retainedObjectOf<UIColor>([::UIColor yellowColor]);
+}
+
+RetainPtr<UIColor> UIColor::lightGrayColor()
+{
+    return retainedObjectOf<UIColor>([::UIColor lightGrayColor]);
+}
+
+RetainPtr<UIColor> UIColor::clearColor()
+{
+    return retainedObjectOf<UIColor>([::UIColor clearColor]);
+}
+
+bool UIColor::getRedGreenBlueAlpha(CGFloat& red, CGFloat& green, CGFloat& blue, CGFloat& alpha) const
+{
+    return [ios::nativeOf(*this) getRed:&red green:&green blue:&blue alpha:&alpha];
+}
+
+bool UIColor::getHueSaturationBrightnessAlpha(
+    CGFloat& hue, CGFloat& saturation, CGFloat& brightness, CGFloat& alpha) const
+{
+    return [ios::nativeOf(*this) getHue:&hue saturation:&saturation brightness:&brightness alpha:&alpha];
+}
+
+void UIColor::setFill() const
+{
+    if (UIGraphicsGetCurrentContext())
+        [ios::nativeOf(*this) setFill];
+}
+
+} // namespace brimsound

@@ -1,0 +1,231 @@
+#include "platform/UIKit/UIView.h"
+
+#include "platform/ios/CoreGraphics/Geometry.h"
+#include "platform/ios/UIKit/NativeView.h"
+
+using brimsound::ios::existingObjectOf;
+using brimsound::ios::ours;
+
+@implementation UIView (BRBaseClass)
+
+- (void)br_baseSetFrame:(CGRect)frame
+{
+    [self setFrame:frame];
+}
+
+- (void)br_baseLayoutSubviews
+{
+    [self layoutSubviews];
+}
+
+@end
+
+/// The peer of a view that can be derived from.
+@interface BRView : UIView
+@end
+
+@implementation BRView
+
+- (void)dealloc
+{
+    brimsound::ios::destroyObjectOf(self);
+    [super dealloc];
+}
+
+- (void)setFrame:(CGRect)frame
+{
+    if (auto* view = existingObjectOf<brimsound::UIView>(self))
+        view->setFrame(ours(frame));
+    else
+        [super setFrame:frame];
+}
+
+- (void)br_baseSetFrame:(CGRect)frame
+{
+    [super setFrame:frame];
+}
+
+- (void)layoutSubviews
+{
+    if (auto* view = existingObjectOf<brimsound::UIView>(self))
+        view->layoutSubviews();
+    else
+        [super layoutSubviews];
+}
+
+- (void)br_baseLayoutSubviews
+{
+    [super layoutSubviews];
+}
+
+- (BOOL)canBecomeFirstResponder
+{
+    auto* view = existingObjectOf<brimsound::UIView>(self);
+    return view && view->canBecomeFirstResponder();
+}
+
+@end
+
+namespace brimsound {
+
+using ios::native;
+using ios::nativeOf;
+using ios::nativeView;
+using ios::objectOf;
+using ios::retainedObjectOf;
+
+UIView::UIView(const CGRect& frame)
+    : UIView(ios::peer([[BRView alloc] initWithFrame:native(frame)]))
+{
+}
+
+UIView::UIView(Peer* peer)
+    : NSObject(peer)
+{
+}
+
+UIView::~UIView() = default;
+
+CGRect UIView::frame() const
+{
+    return ours([nativeView(*this) frame]);
+}
+
+void UIView::setFrame(const CGRect& frame)
+{
+    [nativeView(*this) br_baseSetFrame:native(frame)];
+}
+
+CGRect UIView::bounds() const
+{
+    return ours([nativeView(*this) bounds]);
+}
+
+UIView* UIView::superview() const
+{
+    return objectOf<UIView>([nativeView(*this) superview]);
+}
+
+std::vector<RetainPtr<UIView>> UIView::subviews() const
+{
+    std::vector<RetainPtr<UIView>> subviews;
+    for (::UIView* subview in [nativeView(*this) subviews])
+        subviews.push_back(retainedObjectOf<UIView>(subview));
+    return subviews;
+}
+
+void UIView::addSubview(UIView& view)
+{
+    [nativeView(*this) addSubview:nativeView(view)];
+}
+
+void UIView::removeFromSuperview()
+{
+    [nativeView(*this) removeFromSuperview];
+}
+
+void UIView::setNeedsLayout()
+{
+    [nativeView(*this) setNeedsLayout];
+}
+
+void UIView::layoutIfNeeded()
+{
+    [nativeView(*this) layoutIfNeeded];
+}
+
+void UIView::layoutSubviews()
+{
+    [nativeView(*this) br_baseLayoutSubviews];
+}
+
+RetainPtr<UIColor> UIView::backgroundColor() const
+{
+    return retainedObjectOf<UIColor>([nativeView(*this) backgroundColor]);
+}
+
+void UIView::setBackgroundColor(RetainPtr<UIColor> color)
+{
+    [nativeView(*this) setBackgroundColor:nativeOf(color.get())];
+}
+
+CGFloat UIView::alpha() const
+{
+    return [nativeView(*this) alpha];
+}
+
+void UIView::setAlpha(CGFloat alpha)
+{
+    [nativeView(*this) setAlpha:alpha];
+}
+
+bool UIView::isHidden() const
+{
+    return [nativeView(*this) isHidden];
+}
+
+void UIView::setHidden(bool hidden)
+{
+    [nativeView(*this) setHidden:hidden];
+}
+
+bool UIView::clipsToBounds() const
+{
+    return [nativeView(*this) clipsToBounds];
+}
+
+void UIView::setClipsToBounds(bool clips)
+{
+    [nativeView(*this) setClipsToBounds:clips];
+}
+
+bool UIView::isUserInteractionEnabled() const
+{
+    return [nativeView(*this) isUserInteractionEnabled];
+}
+
+void UIView::setUserInteractionEnabled(bool enabled)
+{
+    [nativeView(*this) setUserInteractionEnabled:enabled];
+}
+
+long UIView::tag() const
+{
+    return [nativeView(*this) tag];
+}
+
+void UIView::setTag(long tag)
+{
+    [nativeView(*this) setTag:tag];
+}
+
+UIView* UIView::viewWithTag(long tag)
+{
+    return objectOf<UIView>([nativeView(*this) viewWithTag:tag]);
+}
+
+bool UIView::becomeFirstResponder()
+{
+    return [nativeView(*this) becomeFirstResponder];
+}
+
+void UIView::resignFirstResponder()
+{
+    [nativeView(*this) resignFirstResponder];
+}
+
+bool UIView::isFirstResponder() const
+{
+    return [nativeView(*this) isFirstResponder];
+}
+
+void UIView::animateWithDurationAnimations(double seconds, const std::function<void()>& animations)
+{
+    // The same as animateWithDuration:animations:, which takes a block.
+    [::UIView beginAnimations:nil context:NULL];
+    [::UIView setAnimationDuration:seconds];
+    animations();
+    [::UIView commitAnimations];
+}
+
+} // namespace brimsound

@@ -1,0 +1,80 @@
+#include "platform/UIKit/UIViewController.h"
+
+#include "platform/ios/Foundation/Peer.h"
+#include "platform/ios/UIKit/Completion.h"
+
+#import <UIKit/UIKit.h>
+
+/// The peer of a view controller that can be derived from.
+@interface BRViewController : UIViewController
+@end
+
+@implementation BRViewController
+
+- (void)dealloc
+{
+    brimsound::ios::destroyObjectOf(self);
+    [super dealloc];
+}
+
+- (void)viewDidUnload
+{
+    if (auto* controller = brimsound::ios::existingObjectOf<brimsound::UIViewController>(self))
+        controller->viewDidUnload();
+}
+
+@end
+
+namespace brimsound {
+
+namespace {
+
+::UIViewController* nativeOf(const UIViewController& controller)
+{
+    return ios::nativeOf(controller);
+}
+
+} // namespace
+
+UIViewController::UIViewController()
+    : UIViewController(ios::peer([[BRViewController alloc] init]))
+{
+}
+
+UIViewController::UIViewController(Peer* peer)
+    : NSObject(peer)
+{
+}
+
+UIView& UIViewController::view() const
+{
+    return *ios::objectOf<UIView>([nativeOf(*this) view]);
+}
+
+void UIViewController::setView(RetainPtr<UIView> view)
+{
+    [nativeOf(*this) setView:ios::nativeOf(view.get())];
+}
+
+void UIViewController::presentViewControllerAnimatedCompletion(
+    RetainPtr<UIViewController> controller, Animated animated, const std::function<void()>& completion)
+{
+    // A device that has no mail account has no controller to compose one with either.
+    ::UIViewController* native = ios::nativeOf(controller.get());
+    if ([nativeOf(*this) presentedViewController] || ![native isKindOfClass:[::UIViewController class]])
+        return;
+    [nativeOf(*this) presentViewController:native
+                                  animated:animated == Animated::Yes
+                                completion:ios::nativeCompletion(completion)];
+}
+
+void UIViewController::dismissViewControllerAnimatedCompletion(
+    Animated animated, const std::function<void()>& completion)
+{
+    if (![nativeOf(*this) presentedViewController])
+        return;
+    [nativeOf(*this) dismissViewControllerAnimated:animated == Animated::Yes
+                                        completion:ios::nativeCompletion(completion)];
+}
+
+} // namespace brimsound
