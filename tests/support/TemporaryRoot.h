@@ -1,7 +1,8 @@
 // A device root of a test's own.
 #pragma once
 
-#include <filesystem>
+#include "tests/support/TemporaryFolder.h"
+
 #include <string>
 #include <string_view>
 
@@ -17,7 +18,7 @@ public:
     ~TemporaryRoot();
 
     /// The folder on this machine.
-    const std::filesystem::path& path() const { return _path; }
+    const std::filesystem::path& path() const { return _folder.path(); }
 
     /// Makes a file with that text, and the folders that it lies in.
     void write(std::string_view devicePath, std::string_view text) const;
@@ -26,7 +27,7 @@ public:
     bool contains(std::string_view devicePath) const;
 
 private:
-    std::filesystem::path _path;
+    TemporaryFolder _folder;
     std::filesystem::path _rootBefore;
 };
 

@@ -1,0 +1,22 @@
+# The behaviour of the product, tested over whatever platform there is.
+set(settings_test_sources
+  BadPreferencesTests.cpp
+  BandEditTests.cpp
+  LifecycleTests.cpp
+  LinksTests.cpp
+  Pane.cpp
+  PresetListTests.cpp
+  PresetPane.cpp
+  PresetPanelTests.cpp
+  SBEqualizerBackgroundViewTests.cpp
+  SliderCellTests.cpp
+  SpecifiersTests.cpp
+  SwitchTests.cpp
+  UIImageEqualizerTests.cpp
+  invertPixelsTests.cpp
+  store/preferencesTests.cpp
+  store/presetsTests.cpp
+  ../support/Alike.cpp
+  ../support/Images.cpp
+)
+list(TRANSFORM settings_test_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
