@@ -2,8 +2,6 @@
 
 #include "platform/ios/Foundation/NativeText.h"
 
-#include <span>
-
 namespace brimsound {
 
 std::optional<NSData> dataWithContentsOfFile(const std::string& path)
@@ -17,8 +15,8 @@ std::optional<NSData> dataWithContentsOfFile(const std::string& path)
 
 void appendText(NSData& data, std::string_view text)
 {
-    const auto bytes = std::as_bytes(std::span(text));
-    data.insert(data.end(), bytes.begin(), bytes.end());
+    const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
+    data.insert(data.end(), bytes, bytes + text.size());
 }
 
 } // namespace brimsound
