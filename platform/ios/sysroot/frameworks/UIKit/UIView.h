@@ -41,7 +41,9 @@
 
 @property (nonatomic) NSInteger tag;
 - (UIView*)viewWithTag:(NSInteger)tag;
+@end
 
+@interface UIView (UIViewAnimation)
 + (void)beginAnimations:(NSString*)animationID context:(void*)context;
 + (void)setAnimationDuration:(NSTimeInterval)duration;
 + (void)setAnimationBeginsFromCurrentState:(BOOL)fromCurrentState;

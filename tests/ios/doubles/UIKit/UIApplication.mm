@@ -1,0 +1,61 @@
+#include "tests/ios/doubles/Doubles.h"
+#include "tests/ios/doubles/Trace.h"
+#include "tests/ios/doubles/UIKit/AlertQueue.h"
+#include "tests/ios/doubles/UIKit/Animation.h"
+#include "tests/ios/doubles/UIKit/UIResponderState.h"
+#include "tests/ios/doubles/UIKit/UIWindowState.h"
+
+namespace {
+
+/// Retained, in lower case.
+NSArray* schemesThatOpen = nil;
+
+} // namespace
+
+@implementation UIApplication
+
++ (UIApplication*)sharedApplication
+{
+    static UIApplication* const application = [[UIApplication alloc] init];
+    return application;
+}
+
+- (UIWindow*)keyWindow
+{
+    return brimsound::doubles::currentKeyWindow();
+}
+
+- (BOOL)canOpenURL:(NSURL*)url
+{
+    NSString* const scheme = [[url scheme] lowercaseString];
+    return scheme && [schemesThatOpen containsObject:scheme];
+}
+
+- (BOOL)openURL:(NSURL*)url
+{
+    if (![self canOpenURL:url])
+        return NO;
+    brimsound::doubles::record(std::string("url ") + [[url absoluteString] UTF8String]);
+    return YES;
+}
+
+@end
+
+namespace brimsound::doubles {
+
+void setSchemesThatOpen(NSArray* schemes)
+{
+    NSArray* const former = schemesThatOpen;
+    schemesThatOpen = [schemes copy];
+    [former release];
+}
+
+void resetUIKit()
+{
+    resetAnimations();
+    dismissAlerts();
+    [currentFirstResponder() resignFirstResponder];
+    setSchemesThatOpen(nil);
+}
+
+} // namespace brimsound::doubles
