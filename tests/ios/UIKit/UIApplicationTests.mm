@@ -1,0 +1,30 @@
+#include "tests/ios/doubles/Doubles.h"
+#include "tests/ios/doubles/Trace.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using brimsound::doubles::takeTrace;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(TheApplication, OpensUrlsOfTheSchemesThatThereAreProgramsFor)
+{
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    takeTrace();
+    UIApplication* app = [UIApplication sharedApplication];
+    NSURL* url = [NSURL URLWithString:@"twitter://user?screen_name=x"];
+    EXPECT_FALSE([app canOpenURL:url]);
+    EXPECT_FALSE([app openURL:url]);
+    EXPECT_THAT(takeTrace(), IsEmpty());
+    brimsound::doubles::setSchemesThatOpen([NSArray arrayWithObject:@"twitter"]);
+    EXPECT_TRUE([app canOpenURL:url]);
+    EXPECT_TRUE([app openURL:url]);
+    EXPECT_THAT(takeTrace(), ElementsAre("url twitter://user?screen_name=x"));
+    brimsound::doubles::resetUIKit();
+    EXPECT_FALSE([app canOpenURL:url]);
+    [pool release];
+}
+
+} // namespace

@@ -1,0 +1,68 @@
+#include "tests/ios/doubles/Doubles.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace {
+
+using brimsound::doubles::Components;
+using testing::DoubleNear;
+using testing::ElementsAre;
+
+Components componentsOf(UIColor* color)
+{
+    Components all {};
+    auto& [red, green, blue, alpha] = all;
+    [color getRed:&red green:&green blue:&blue alpha:&alpha];
+    return all;
+}
+
+class AColor : public testing::Test {
+protected:
+    ~AColor() override { [pool release]; }
+
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+};
+
+TEST_F(AColor, HasItsComponentsBetweenNoneAndAll)
+{
+    EXPECT_THAT(
+        componentsOf([UIColor colorWithRed:0.25 green:-1 blue:7 alpha:0.5]), ElementsAre(0.25, 0, 1, 0.5));
+    EXPECT_THAT(componentsOf([UIColor lightGrayColor]), ElementsAre(2.0 / 3, 2.0 / 3, 2.0 / 3, 1));
+    EXPECT_THAT(componentsOf([UIColor clearColor]), ElementsAre(0, 0, 0, 0));
+    EXPECT_THAT(componentsOf([UIColor yellowColor]), ElementsAre(1, 1, 0, 1));
+}
+
+TEST_F(AColor, IsMadeFromItsHueAndTellsIt)
+{
+    for (const double hue : { 0.0, 0.1, 0.3, 0.5, 0.7, 0.95 }) {
+        UIColor* color = [UIColor colorWithHue:hue saturation:0.4 brightness:0.8 alpha:0.3];
+        CGFloat parts[4] {};
+        ASSERT_TRUE([color getHue:&parts[0] saturation:&parts[1] brightness:&parts[2] alpha:&parts[3]]);
+        EXPECT_THAT(parts, ElementsAre(DoubleNear(hue, 1e-9), DoubleNear(0.4, 1e-9), 0.8, 0.3));
+    }
+}
+
+TEST_F(AColor, ThatIsNoNumberHasNoHue)
+{
+    CGFloat hue = 7;
+    EXPECT_FALSE([[UIColor colorWithRed:std::nan("") green:0 blue:0
+                                  alpha:1] getHue:&hue saturation:nullptr brightness:nullptr alpha:nullptr]);
+    EXPECT_EQ(hue, 7);
+}
+
+TEST_F(AColor, IsOneObjectHoweverManyShowIt)
+{
+    UIView* view = [[[UIView alloc] init] autorelease];
+    UIColor* color = [[UIColor colorWithWhite:0.1 alpha:1] retain];
+    const auto before = [color retainCount];
+    [view setBackgroundColor:color];
+    EXPECT_EQ([view backgroundColor], color);
+    EXPECT_EQ([color retainCount], before + 1);
+    [view setBackgroundColor:nil];
+    EXPECT_EQ([color retainCount], before);
+    [color release];
+}
+
+} // namespace

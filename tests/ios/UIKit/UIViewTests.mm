@@ -1,0 +1,226 @@
+#include "tests/ios/UIKit/Geometry.h"
+#include "tests/ios/doubles/Doubles.h"
+
+#import <QuartzCore/QuartzCore.h>
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+/// Counts what is asked of it.
+@interface CountingView : UIView {
+@public
+    int layouts;
+    int framesSet;
+}
+@end
+
+@implementation CountingView
+
+- (void)setFrame:(CGRect)frame
+{
+    ++framesSet;
+    [super setFrame:frame];
+}
+
+- (void)layoutSubviews
+{
+    ++layouts;
+    [super layoutSubviews];
+}
+
+@end
+
+namespace {
+
+using brimsound::doubles::advanceClock;
+using brimsound::doubles::Components;
+using brimsound::doubles::shownAlpha;
+using brimsound::doubles::shownBackground;
+using brimsound::doubles::shownFrame;
+using testing::DoubleNear;
+using testing::Pointwise;
+
+/// Views that are released at the end.
+class AView : public testing::Test {
+protected:
+    AView() = default;
+    ~AView() override
+    {
+        [outer release];
+        [inner release];
+        [pool release];
+    }
+
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    CountingView* outer = [[CountingView alloc] initWithFrame:CGRectMake(0, 0, 100, 100)];
+    CountingView* inner = [[CountingView alloc] initWithFrame:CGRectMake(10, 10, 20, 20)];
+};
+
+TEST_F(AView, RetainsItsSubviewsAndNotItsSuperview)
+{
+    [outer addSubview:inner];
+    EXPECT_EQ([inner retainCount], 2u);
+    EXPECT_EQ([outer retainCount], 1u);
+    EXPECT_EQ([inner superview], outer);
+    [inner removeFromSuperview];
+    EXPECT_EQ([inner retainCount], 1u);
+    EXPECT_EQ([inner superview], nil);
+    EXPECT_EQ([[outer subviews] count], 0u);
+}
+
+TEST_F(AView, MovesToANewSuperview)
+{
+    UIView* other = [[[UIView alloc] init] autorelease];
+    [outer addSubview:inner];
+    [other addSubview:inner];
+    EXPECT_EQ([[outer subviews] count], 0u);
+    EXPECT_EQ([inner superview], other);
+    EXPECT_EQ([inner retainCount], 2u);
+}
+
+TEST_F(AView, ThatIsAddedAgainComesToTheFront)
+{
+    UIView* other = [[[UIView alloc] init] autorelease];
+    [outer addSubview:inner];
+    [outer addSubview:other];
+    [outer addSubview:inner];
+    EXPECT_EQ([[outer subviews] lastObject], inner);
+    EXPECT_EQ([[outer subviews] count], 2u);
+    [outer insertSubview:inner atIndex:0];
+    EXPECT_EQ([[outer subviews] objectAtIndex:0], inner);
+}
+
+TEST_F(AView, LetsGoOfItsSubviewsWhenItGoes)
+{
+    UIView* other = [[UIView alloc] init];
+    [other addSubview:inner];
+    [other release];
+    EXPECT_EQ([inner superview], nil);
+    EXPECT_EQ([inner retainCount], 1u);
+}
+
+TEST_F(AView, IsLaidOutWhenItsSizeChanges)
+{
+    [outer addSubview:inner];
+    [outer layoutIfNeeded];
+    const int before = inner->layouts;
+    [inner setFrame:CGRectMake(50, 50, 20, 20)];
+    [outer layoutIfNeeded];
+    EXPECT_EQ(inner->layouts, before) << "it only moved";
+    [inner setFrame:CGRectMake(50, 50, 30, 20)];
+    EXPECT_EQ(inner->layouts, before) << "not at once";
+    [outer layoutIfNeeded];
+    EXPECT_EQ(inner->layouts, before + 1);
+    [outer layoutIfNeeded];
+    EXPECT_EQ(inner->layouts, before + 1);
+    EXPECT_EQ(inner->framesSet, 2) << "and not by its initialiser";
+}
+
+TEST_F(AView, RefusesAFrameThatIsNoNumber)
+{
+    NSString* refusal = nil;
+    @try {
+        [inner setFrame:CGRectMake(0, std::numeric_limits<CGFloat>::quiet_NaN(), 1, 1)];
+    } @catch (NSException* exception) {
+        refusal = [exception name];
+    }
+    EXPECT_TRUE([refusal isEqualToString:@"CALayerInvalidGeometry"]);
+    EXPECT_EQ([inner frame], CGRectMake(10, 10, 20, 20));
+}
+
+TEST_F(AView, IsFoundByItsTagDepthFirst)
+{
+    UIView* deepest = [[[UIView alloc] init] autorelease];
+    UIView* last = [[[UIView alloc] init] autorelease];
+    [outer addSubview:inner];
+    [inner addSubview:deepest];
+    [outer addSubview:last];
+    [deepest setTag:7];
+    [last setTag:7];
+    EXPECT_EQ([outer viewWithTag:7], deepest);
+    EXPECT_EQ([outer viewWithTag:8], nil);
+    EXPECT_EQ([last viewWithTag:7], last);
+}
+
+TEST_F(AView, KeepsItsLayer)
+{
+    [[inner layer] setCornerRadius:20];
+    EXPECT_EQ([[inner layer] cornerRadius], 20);
+}
+
+class AnAnimation : public AView {
+protected:
+    AnAnimation() { [inner setBackgroundColor:[UIColor blackColor]]; }
+    ~AnAnimation() override { brimsound::doubles::resetUIKit(); }
+
+    void moveTo(CGFloat x, double duration, BOOL fromCurrentState = NO)
+    {
+        [UIView beginAnimations:nil context:nullptr];
+        [UIView setAnimationDuration:duration];
+        [UIView setAnimationBeginsFromCurrentState:fromCurrentState];
+        [inner setFrame:CGRectMake(x, 0, 20, 20)];
+        [UIView commitAnimations];
+    }
+};
+
+TEST_F(AnAnimation, ShowsTheWayToWhatTheViewIsAtOnce)
+{
+    [inner setFrame:CGRectMake(0, 0, 20, 20)];
+    [UIView beginAnimations:nil context:nullptr];
+    [UIView setAnimationDuration:0.5];
+    [inner setFrame:CGRectMake(100, 0, 20, 40)];
+    [inner setAlpha:0];
+    [inner setBackgroundColor:[UIColor whiteColor]];
+    [UIView commitAnimations];
+    EXPECT_EQ([inner frame], CGRectMake(100, 0, 20, 40));
+    EXPECT_EQ(shownFrame(inner), CGRectMake(0, 0, 20, 20));
+    EXPECT_EQ(shownAlpha(inner), 1);
+    EXPECT_EQ(shownBackground(inner), (Components { 0, 0, 0, 1 }));
+
+    // The curve is slow at first.
+    advanceClock(0.05);
+    EXPECT_GT(shownFrame(inner).origin.x, 0);
+    EXPECT_LT(shownFrame(inner).origin.x, 5);
+    advanceClock(0.2);
+    EXPECT_THAT(shownFrame(inner).origin.x, DoubleNear(50, 1e-6));
+    EXPECT_THAT(shownFrame(inner).size.height, DoubleNear(30, 1e-6));
+    EXPECT_THAT(shownAlpha(inner), DoubleNear(0.5, 1e-6));
+    EXPECT_THAT(shownBackground(inner), Pointwise(DoubleNear(1e-6), { 0.5, 0.5, 0.5, 1.0 }));
+    advanceClock(0.25);
+    EXPECT_EQ(shownFrame(inner), [inner frame]);
+    EXPECT_EQ(shownAlpha(inner), 0);
+    EXPECT_EQ(shownBackground(inner), (Components { 1, 1, 1, 1 }));
+}
+
+TEST_F(AnAnimation, TakesAFifthOfASecondUnlessItIsTold)
+{
+    [UIView beginAnimations:nil context:nullptr];
+    [inner setAlpha:0];
+    [UIView commitAnimations];
+    advanceClock(0.19);
+    EXPECT_GT(shownAlpha(inner), 0);
+    advanceClock(0.02);
+    EXPECT_EQ(shownAlpha(inner), 0);
+}
+
+TEST_F(AnAnimation, EndsWhenTheSameChangesWithoutOne)
+{
+    moveTo(100, 1);
+    advanceClock(0.3);
+    [inner setFrame:CGRectMake(40, 0, 20, 20)];
+    EXPECT_EQ(shownFrame(inner), CGRectMake(40, 0, 20, 20));
+}
+
+TEST_F(AnAnimation, BeginsWhereTheOneBeforeWasToEndOrWhereItIs)
+{
+    [inner setFrame:CGRectMake(0, 0, 20, 20)];
+    moveTo(100, 1);
+    advanceClock(0.5);
+    moveTo(200, 1, YES);
+    EXPECT_THAT(shownFrame(inner).origin.x, DoubleNear(50, 1e-6));
+    moveTo(0, 1);
+    EXPECT_EQ(shownFrame(inner).origin.x, 200);
+}
+
+} // namespace
