@@ -6,6 +6,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#if __has_include(<xlocale.h>)
+#include <xlocale.h> // where the device's C library declares locales as values
+#endif
 
 namespace brimsound {
 
