@@ -9,30 +9,37 @@ cmake_path(NORMAL_PATH ios_sysroot)
 if(NOT SDKROOT)
   set(SDKROOT $ENV{SDKROOT})
 endif()
+# CMake's own checks read this file anew.
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
+
+# The standard library's headers are those that come with the compiler, SDK or not, with the markup of what the device's
+# library lacks.
+add_compile_options(
+  -nostdinc++
+  "SHELL:-isystem ${ios_sysroot}/libcxx"
+  "SHELL:-isystem /usr/lib/llvm-14/include/c++/v1"
+)
 if(SDKROOT)
   set(CMAKE_OSX_SYSROOT ${SDKROOT})
 else()
   set(CMAKE_OSX_SYSROOT ${ios_sysroot}/stubs)
-  set(ios_libc "-nostdlibinc -isystem ${ios_sysroot}/libc")
+  add_compile_options(-nostdlibinc "SHELL:-isystem ${ios_sysroot}/libc")
 endif()
-# CMake's own checks have to see it too.
-set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
+# The SDK's frameworks come before those that no SDK has.
+add_compile_options("SHELL:-idirafter ${ios_sysroot}/frameworks")
 
-# The standard library's headers are those of the compiler whether or not there is an SDK, with the markup of what
-# the device's library lacks. The frameworks that no SDK declares are found behind those that one does.
-string(JOIN " " ios_flags
-  -nostdinc++
-  "-isystem ${ios_sysroot}/libcxx"
-  "-isystem /usr/lib/llvm-14/include/c++/v1"
-  "${ios_libc}"
-  "-idirafter ${ios_sysroot}/frameworks"
-)
 foreach(language CXX OBJCXX)
   set(CMAKE_${language}_COMPILER /usr/bin/clang++-14)
   set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios9.0)
-  set(CMAKE_${language}_FLAGS_INIT ${ios_flags})
 endforeach()
-set(CMAKE_MODULE_LINKER_FLAGS_INIT "--ld-path=/usr/bin/ld64.lld-14 -F${ios_sysroot}/stubs/System/Library/PrivateFrameworks")
+# The linker's version tells the compiler which options lld knows.
+string(JOIN " " CMAKE_MODULE_LINKER_FLAGS_INIT
+  -fuse-ld=lld
+  --ld-path=/usr/bin/ld64.lld-14
+  -mlinker-version=609
+  -stdlib=libc++
+  -F${ios_sysroot}/stubs/System/Library/PrivateFrameworks
+)
 
 set(CMAKE_AR /usr/bin/llvm-ar-14)
 set(CMAKE_RANLIB /usr/bin/llvm-ranlib-14)

@@ -48,4 +48,5 @@ enum : NSStringEncoding {
 - (NSString*)stringByAppendingPathComponent:(NSString*)name;
 - (NSUInteger)lengthOfBytesUsingEncoding:(NSStringEncoding)encoding;
 - (NSData*)dataUsingEncoding:(NSStringEncoding)encoding;
+- (NSData*)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 @end
