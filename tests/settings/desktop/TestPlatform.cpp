@@ -11,6 +11,7 @@
 #include "settings/tweak.h"
 #include "tests/support/EnvironmentVariable.h"
 #include "tests/support/MediaServer.h"
+#include "tests/support/NoDescriptors.h"
 #include "tests/support/PrivateDesktop.h"
 #include "tests/support/RecordingEffects.h"
 #include "tests/support/TemporaryRoot.h"
@@ -18,7 +19,6 @@
 
 #include <filesystem>
 #include <optional>
-#include <sys/resource.h>
 
 namespace brimsound::tests {
 
@@ -37,24 +37,6 @@ desktop::ComposerPeer* composer()
         = dynamic_cast<MFMailComposeViewController*>(desktop::peerOf(appController()).presented.get());
     return sheet ? &desktop::peerOf(*sheet) : nullptr;
 }
-
-/// The process cannot open a file or pipe while it lives.
-class NoDescriptors {
-public:
-    NoDescriptors()
-    {
-        getrlimit(RLIMIT_NOFILE, &_before);
-        auto none = _before;
-        none.rlim_cur = 0;
-        setrlimit(RLIMIT_NOFILE, &none);
-    }
-    NoDescriptors(const NoDescriptors&) = delete;
-    NoDescriptors& operator=(const NoDescriptors&) = delete;
-    ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &_before); }
-
-private:
-    rlimit _before {};
-};
 
 } // namespace
 
