@@ -176,6 +176,19 @@ TEST_F(ATextField, GivesTheKeyboardUpWhenItLeavesTheWindow)
     EXPECT_FALSE([field isFirstResponder]);
 }
 
+TEST_F(ATextField, GivesTheKeyboardUpWhenItsSuperviewGoes)
+{
+    UIView* holder = [[UIView alloc] init];
+    [window addSubview:holder];
+    [holder addSubview:field];
+    [field becomeFirstResponder];
+    [window release];
+    window = [[UIWindow alloc] init];
+    EXPECT_EQ([holder superview], nil);
+    EXPECT_FALSE([field isFirstResponder]);
+    [holder release];
+}
+
 TEST_F(ATextField, IsTypedIntoAndAsksWhatReturnDoes)
 {
     [field setDelegate:recorder];
