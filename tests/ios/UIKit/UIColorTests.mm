@@ -54,13 +54,16 @@ TEST_F(AColor, ThatIsNoNumberHasNoHue)
 
 TEST_F(AColor, IsOneObjectHoweverManyShowIt)
 {
-    UIView* view = [[[UIView alloc] init] autorelease];
+    UIView* view = [[UIView alloc] init];
     UIColor* color = [[UIColor colorWithWhite:0.1 alpha:1] retain];
     const auto before = [color retainCount];
     [view setBackgroundColor:color];
     EXPECT_EQ([view backgroundColor], color);
     EXPECT_EQ([color retainCount], before + 1);
     [view setBackgroundColor:nil];
+    EXPECT_EQ([color retainCount], before);
+    [view setBackgroundColor:color];
+    [view release];
     EXPECT_EQ([color retainCount], before);
     [color release];
 }

@@ -93,8 +93,9 @@ TEST_F(AControl, SendsAnActionOnceThatIsAddedTwice)
     [control addTarget:recorder action:@selector(ended) forControlEvents:UIControlEventTouchCancel];
     [control sendActionsForControlEvents:UIControlEventTouchDown | UIControlEventTouchCancel];
     EXPECT_THAT(calls, ElementsAre("ended"));
+    [control sendActionsForControlEvents:UIControlEventTouchDown];
     [control sendActionsForControlEvents:UIControlEventTouchCancel];
-    EXPECT_THAT(calls, ElementsAre("ended", "ended"));
+    EXPECT_THAT(calls, ElementsAre("ended", "ended", "ended"));
 }
 
 TEST_F(AControl, DoesNotRetainItsTarget)
@@ -120,6 +121,9 @@ TEST_F(AControl, OfASliderClampsItsValueAndTellsNobody)
     [slider setMaximumValue:2];
     EXPECT_EQ([slider minimumValue], 2);
     EXPECT_EQ([slider value], 2);
+    [slider setMinimumValue:20];
+    EXPECT_EQ([slider maximumValue], 20);
+    EXPECT_EQ([slider value], 20);
     EXPECT_THAT(calls, IsEmpty());
 }
 

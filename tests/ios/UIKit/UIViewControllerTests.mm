@@ -120,6 +120,18 @@ TEST_F(AController, HoldsWhomItPresentsUntilItDismissesHim)
     [sheet release];
 }
 
+TEST_F(AController, TakesWhomItPresentsAlongWhenItGoes)
+{
+    UIViewController* sheet = [[UIViewController alloc] init];
+    [controller presentViewController:sheet animated:NO completion:nil];
+    [controller release];
+    controller = nil;
+    EXPECT_EQ([[sheet view] superview], nil);
+    EXPECT_EQ([sheet retainCount], 1u);
+    [sheet dismissViewControllerAnimated:NO completion:nil];
+    [sheet release];
+}
+
 class AnAlert : public testing::Test {
 protected:
     AnAlert() { takeTrace(); }
