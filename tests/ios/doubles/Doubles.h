@@ -15,31 +15,31 @@ void resetUIKit();
 void advanceClock(double seconds);
 
 /// Red, green, blue, alpha.
-using Components = std::array<CGFloat, 4>;
+using Components = std::array<::CGFloat, 4>;
 
 // How a view is seen: on its way to what it is while it is animated.
-CGRect shownFrame(UIView*);
+::CGRect shownFrame(::UIView*);
 /// All zero without a background.
-Components shownBackground(UIView*);
-CGFloat shownAlpha(UIView*);
+Components shownBackground(::UIView*);
+::CGFloat shownAlpha(::UIView*);
 
 /// The alert that is shown; nil when none is.
-UIAlertView* currentAlert();
+::UIAlertView* currentAlert();
 /// Presses a button of the alert that is shown. False when none is or it has no such button.
 bool pressAlertButton(NSInteger index);
 
 /// What URLs can be opened: those with one of these schemes.
-void setSchemesThatOpen(NSArray* schemes);
+void setSchemesThatOpen(::NSArray* schemes);
 
 /// Presses a row and lets go of it: it is selected instead of any other one, and the delegate is told. False
 /// for a row that is not on view.
-bool tapRow(UITableView*, NSIndexPath*);
+bool tapRow(::UITableView*, ::NSIndexPath*);
 /// Swipes a row to the left and presses its button. False when the data source does not let it be deleted.
-bool swipeToDelete(UITableView*, NSIndexPath*);
+bool swipeToDelete(::UITableView*, ::NSIndexPath*);
 
-void flip(UISwitch*);
+void flip(::UISwitch*);
 /// Puts more text behind what is in the field. It takes the keyboard for that.
-void type(UITextField*, NSString* text);
-void pressReturn(UITextField*);
+void type(::UITextField*, ::NSString* text);
+void pressReturn(::UITextField*);
 
 } // namespace brimsound::doubles

@@ -4,6 +4,7 @@
 #include "platform/ios/CoreGraphics/Geometry.h"
 #include "platform/ios/Foundation/Peer.h"
 #include "platform/ios/Foundation/PropertyListConversion.h"
+#include "platform/ios/UIKit/NativeView.h"
 #include "settings/tweak.h"
 #include "tests/ios/doubles/AppSupport/MediaServer.h"
 #include "tests/ios/doubles/CoreFoundation/NotificationCenter.h"
@@ -25,6 +26,7 @@
 namespace brimsound::tests {
 
 using ios::nativeOf;
+using ios::nativeView;
 
 namespace {
 
@@ -99,7 +101,7 @@ struct TestPlatform::Device {
     Turn turn;
     TemporaryFolder root;
     std::optional<NoDescriptors> noDescriptors;
-    UIWindow* window = [[UIWindow alloc] initWithFrame:CGRectMake(0, 0, 320, 568)];
+    UIWindow* window = [[UIWindow alloc] initWithFrame:ios::native(CGRect { {}, { 320, 568 } })];
 };
 
 TestPlatform::TestPlatform()
@@ -266,18 +268,18 @@ std::string TestPlatform::preferencesFile() const
 
 CGRect shownFrame(const UIView& view)
 {
-    return ios::ours(doubles::shownFrame(nativeOf(view)));
+    return ios::ours(doubles::shownFrame(nativeView(view)));
 }
 
 std::vector<CGFloat> shownBackground(const UIView& view)
 {
-    const auto components = doubles::shownBackground(nativeOf(view));
+    const auto components = doubles::shownBackground(nativeView(view));
     return { components.begin(), components.end() };
 }
 
 CGFloat shownAlpha(const UIView& view)
 {
-    return doubles::shownAlpha(nativeOf(view));
+    return doubles::shownAlpha(nativeView(view));
 }
 
 void putIntoAnApp(PSListController& controller)
