@@ -1,0 +1,45 @@
+"""Builds the device's package anew, from a copy of the sources elsewhere.
+
+    ReproducibilityTests.py BUILD
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
+
+
+def output(*command, **options):
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True, **options).stdout
+
+
+def copy_sources(folder):
+    for name in output("git", "-C", SOURCE, "ls-files", "-co", "--exclude-standard").splitlines():
+        if (SOURCE / name).exists():
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(SOURCE / name, folder / name)
+
+
+class AnotherBuild(unittest.TestCase):
+    def test_gives_the_same_bytes(self):
+        environment = dict(os.environ, SOURCE_DATE_EPOCH="1700000000")
+        first = pathlib.Path(output(SOURCE / "scripts/deb", build, env=environment).strip()).read_bytes()
+        # Neither the place nor who may read there shows in the result.
+        self.addCleanup(os.umask, os.umask(0o077))
+        with tempfile.TemporaryDirectory() as name:
+            folder = pathlib.Path(name)
+            copy_sources(folder)
+            output("cmake", "--preset", "ios", cwd=folder)
+            output("cmake", "--build", "--preset", "ios", cwd=folder)
+            second = output(folder / "scripts/deb", folder / "build/ios", env=environment).strip()
+            self.assertTrue(pathlib.Path(second).read_bytes() == first, "the packages differ")
+
+
+if __name__ == "__main__":
+    build = pathlib.Path(sys.argv.pop(1)).resolve()
+    unittest.main()
