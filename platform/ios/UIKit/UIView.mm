@@ -3,6 +3,8 @@
 #include "platform/ios/CoreGraphics/Geometry.h"
 #include "platform/ios/UIKit/NativeView.h"
 
+#include <cmath>
+
 using brimsound::ios::existingObjectOf;
 using brimsound::ios::ours;
 
@@ -74,6 +76,17 @@ using ios::nativeView;
 using ios::objectOf;
 using ios::retainedObjectOf;
 
+namespace {
+
+/// The platform raises for a view that is to be where no number says.
+bool isOfNumbers(const CGRect& frame)
+{
+    return !std::isnan(frame.origin.x) && !std::isnan(frame.origin.y) && !std::isnan(frame.size.width)
+        && !std::isnan(frame.size.height);
+}
+
+} // namespace
+
 UIView::UIView(const CGRect& frame)
     : UIView(ios::peer([[BRView alloc] initWithFrame:native(frame)]))
 {
@@ -93,7 +106,8 @@ CGRect UIView::frame() const
 
 void UIView::setFrame(const CGRect& frame)
 {
-    [nativeView(*this) br_baseSetFrame:native(frame)];
+    if (isOfNumbers(frame))
+        [nativeView(*this) br_baseSetFrame:native(frame)];
 }
 
 CGRect UIView::bounds() const

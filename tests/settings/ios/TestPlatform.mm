@@ -72,8 +72,8 @@ private:
 struct TestPlatform::Device {
     Device()
     {
-        const auto preferences = file().parent_path();
-        std::filesystem::create_directories(preferences);
+        std::filesystem::create_directories(file().parent_path());
+        installBundle();
         doubles::setDeviceRoot(root.path());
         doubles::carryOutCommands(false);
         doubles::setPreferredLanguages({ "en" });
@@ -94,6 +94,14 @@ struct TestPlatform::Device {
         [window setRootViewController:nil];
         [window release];
         doubles::setDeviceRoot({});
+    }
+
+    void installBundle() const
+    {
+        const auto bundles = root.path() / "Library/PreferenceBundles";
+        std::filesystem::create_directories(bundles);
+        std::filesystem::create_directory_symlink(
+            [[[::NSBundle mainBundle] resourcePath] UTF8String], bundles / "BrimsoundSettings.bundle");
     }
 
     std::filesystem::path file() const { return root.path() / std::string(preferencesPath).substr(1); }

@@ -1,3 +1,5 @@
+#include "tests/ios/doubles/UIKit/UIWindowState.h"
+
 #import <UIKit/UIKit.h>
 
 @implementation UIScreen
@@ -10,7 +12,10 @@
 
 - (CGRect)bounds
 {
-    return CGRectMake(0, 0, 320, 568);
+    // A screen is as large as the window that fills it.
+    UIWindow* const window = brimsound::doubles::currentKeyWindow();
+    const CGSize size = window ? [window bounds].size : CGSizeMake(320, 568);
+    return CGRectMake(0, 0, size.width, size.height);
 }
 
 - (CGFloat)scale
