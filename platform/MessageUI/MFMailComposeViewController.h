@@ -24,6 +24,9 @@ public:
     /// The bytes are sent as they are, under that type ("text/plain") and file name.
     void addAttachmentDataMimeTypeFileName(
         NSData data, const std::string& mimeType, const std::string& fileName);
+
+protected:
+    explicit MFMailComposeViewController(Peer*);
 };
 
 } // namespace brimsound

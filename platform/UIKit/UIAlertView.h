@@ -21,6 +21,9 @@ public:
     void show();
 
     void layoutSubviews() override;
+
+protected:
+    explicit UIAlertView(Peer*);
 };
 
 } // namespace brimsound

@@ -56,8 +56,13 @@ void ComposerPeer::finish(MFMailComposeResult result, const NSError* error)
 using desktop::ComposerPeer;
 using desktop::peerOf;
 
+MFMailComposeViewController::MFMailComposeViewController(Peer* peer)
+    : UIViewController(peer)
+{
+}
+
 MFMailComposeViewController::MFMailComposeViewController()
-    : UIViewController(new ComposerPeer)
+    : MFMailComposeViewController(new ComposerPeer)
 {
     peerOf(*this).composer = this;
 }

@@ -128,9 +128,14 @@ using desktop::AlertPeer;
 using desktop::peerOf;
 using desktop::TextButton;
 
+UIAlertView::UIAlertView(Peer* peer)
+    : UIView(peer)
+{
+}
+
 UIAlertView::UIAlertView(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
     const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles)
-    : UIView(new AlertPeer)
+    : UIAlertView(new AlertPeer)
 {
     auto& peer = peerOf(*this);
     peer.title = title;

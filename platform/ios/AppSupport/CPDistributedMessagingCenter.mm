@@ -1,6 +1,7 @@
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
 
 #include "platform/AppSupport/rocketbootstrap.h"
+#include "platform/ios/Foundation/NativeError.h"
 #include "platform/ios/Foundation/NativeText.h"
 #include "platform/ios/Foundation/Peer.h"
 #include "platform/ios/Foundation/PropertyListConversion.h"
@@ -30,7 +31,7 @@ PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveRepl
                                                                         userInfo:ios::nativeDictionary(userInfo)
                                                                            error:&nativeError];
     if (nativeError) {
-        error = NSError { ios::textOf([nativeError domain]), ios::textOf([nativeError localizedDescription]) };
+        error = ios::errorOf(nativeError);
         return {};
     }
     const auto value = ios::valueOf(reply);

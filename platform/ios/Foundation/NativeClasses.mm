@@ -1,12 +1,15 @@
 // Which of our classes belongs to a native object that the platform made.
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
+#include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/Preferences/PSSpecifier.h"
+#include "platform/UIKit/UIAlertView.h"
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UIViewController.h"
 #include "platform/ios/Foundation/Peer.h"
 
 #import <AppSupport/CPDistributedMessagingCenter.h>
+#import <MessageUI/MessageUI.h>
 #import <Preferences/PSSpecifier.h>
 #import <UIKit/UIKit.h>
 
@@ -37,11 +40,13 @@ NSObject* make(id native)
 {
     // Derived classes before those that they derive from.
     static const std::array classes {
+        NativeClass { [::UIAlertView class], makeFor<UIAlertView> },
         NativeClass { [::UITableViewCell class], makeFor<UITableViewCell> },
         NativeClass { [::UITableView class], makeFor<UITableView> },
         NativeClass { [::UILabel class], makeFor<UILabel> },
         NativeClass { [::UIImageView class], makeFor<UIImageView> },
         NativeClass { [::UIView class], makeFor<UIView> },
+        NativeClass { [::MFMailComposeViewController class], makeFor<MFMailComposeViewController> },
         NativeClass { [::UIViewController class], makeFor<UIViewController> },
         NativeClass { [::UIColor class], makeFor<UIColor> },
         NativeClass { [::UIFont class], makeFor<UIFont> },

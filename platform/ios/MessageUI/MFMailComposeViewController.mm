@@ -1,5 +1,6 @@
 #include "platform/MessageUI/MFMailComposeViewController.h"
 
+#include "platform/ios/Foundation/NativeError.h"
 #include "platform/ios/Foundation/NativeText.h"
 #include "platform/ios/Foundation/Peer.h"
 
@@ -19,11 +20,10 @@
           didFinishWithResult:(MFMailComposeResult)result
                         error:(NSError*)nativeError
 {
-    using namespace brimsound::ios;
-    const brimsound::NSError error { textOf([nativeError domain]), textOf([nativeError localizedDescription]) };
+    const auto error = brimsound::ios::errorOf(nativeError);
     _delegate->mailComposeControllerDidFinishWithResultError(
-        *objectOf<brimsound::MFMailComposeViewController>(composer),
-        static_cast<brimsound::MFMailComposeResult>(result), nativeError ? &error : nullptr);
+        *brimsound::ios::objectOf<brimsound::MFMailComposeViewController>(composer),
+        static_cast<brimsound::MFMailComposeResult>(result), error ? &*error : nullptr);
 }
 
 @end
@@ -49,8 +49,13 @@ id orPlaceholder(id native)
 
 } // namespace
 
+MFMailComposeViewController::MFMailComposeViewController(Peer* peer)
+    : UIViewController(peer)
+{
+}
+
 MFMailComposeViewController::MFMailComposeViewController()
-    : UIViewController(ios::peer(orPlaceholder([[::MFMailComposeViewController alloc] init])))
+    : MFMailComposeViewController(ios::peer(orPlaceholder([[::MFMailComposeViewController alloc] init])))
 {
 }
 

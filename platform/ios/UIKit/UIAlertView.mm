@@ -49,9 +49,14 @@ Peer* makePeer(const std::string& title, const std::string& message, UIAlertView
 
 } // namespace
 
+UIAlertView::UIAlertView(Peer* peer)
+    : UIView(peer)
+{
+}
+
 UIAlertView::UIAlertView(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
     const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles)
-    : UIView(makePeer(title, message, delegate, cancelButtonTitle, otherButtonTitles))
+    : UIAlertView(makePeer(title, message, delegate, cancelButtonTitle, otherButtonTitles))
 {
 }
 

@@ -1,15 +1,49 @@
 // The bundle's principal class: what the Settings app instantiates.
+#include "platform/ios/Foundation/Peer.h"
+#include "platform/MessageUI/MFMailComposeViewController.h"
+#include "platform/UIKit/UIAlertView.h"
+#include "platform/ios/Foundation/NativeError.h"
 #include "platform/ios/Preferences/BRListController.h"
 #include "settings/BrimsoundSettings.h"
 
-@interface BrimsoundSettingsListController : BRListController
+#import <MessageUI/MessageUI.h>
+
+using brimsound::ios::objectOf;
+
+@interface BrimsoundSettingsListController
+    : BRListController <UIAlertViewDelegate, MFMailComposeViewControllerDelegate>
 @end
 
+namespace {
+
+brimsound::BrimsoundSettingsListController& controllerOf(BrimsoundSettingsListController* native)
+{
+    return *brimsound::ios::existingObjectOf<brimsound::BrimsoundSettingsListController>(native);
+}
+
+} // namespace
+
+// What else it answers stands in the method table of our class.
 @implementation BrimsoundSettingsListController
 
 + (brimsound::PSListController*)newController
 {
     return new brimsound::BrimsoundSettingsListController;
+}
+
+- (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)index
+{
+    controllerOf(self).alertViewClickedButtonAtIndex(*objectOf<brimsound::UIAlertView>(alert), index);
+}
+
+- (void)mailComposeController:(MFMailComposeViewController*)composer
+          didFinishWithResult:(MFMailComposeResult)result
+                        error:(NSError*)nativeError
+{
+    const auto error = brimsound::ios::errorOf(nativeError);
+    controllerOf(self).mailComposeControllerDidFinishWithResultError(
+        *objectOf<brimsound::MFMailComposeViewController>(composer),
+        static_cast<brimsound::MFMailComposeResult>(result), error ? &*error : nullptr);
 }
 
 @end

@@ -1,0 +1,21 @@
+// Errors as the platform and as the product hold them.
+#pragma once
+
+#include "platform/Foundation/NSError.h"
+#include "platform/ios/Foundation/NativeText.h"
+
+#import <Foundation/Foundation.h>
+
+#include <optional>
+
+namespace brimsound::ios {
+
+/// Nothing for nil.
+inline std::optional<NSError> errorOf(::NSError* native)
+{
+    if (!native)
+        return std::nullopt;
+    return NSError { textOf([native domain]), textOf([native localizedDescription]) };
+}
+
+} // namespace brimsound::ios
