@@ -1,14 +1,11 @@
-# Cross-building for the device, arm64 with iOS 9.0 or later, with clang and lld. Against an SDK where SDKROOT, a CMake
-# or an environment variable, names one; else against the stand-ins in platform/ios/sysroot.
+# Cross-building for the device, arm64 with iOS 9.0 or later, with clang and lld.
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 
 set(ios_sysroot ${CMAKE_CURRENT_LIST_DIR}/../platform/ios/sysroot)
 cmake_path(NORMAL_PATH ios_sysroot)
 
-if(NOT SDKROOT)
-  set(SDKROOT $ENV{SDKROOT})
-endif()
+set(SDKROOT "$ENV{SDKROOT}" CACHE PATH "The SDK to build against; without one, the stand-ins in platform/ios/sysroot")
 # CMake's own checks read this file anew.
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
 
@@ -21,6 +18,8 @@ add_compile_options(
 )
 if(SDKROOT)
   set(CMAKE_OSX_SYSROOT ${SDKROOT})
+  # What later systems have something better for is all that iOS 9 has.
+  add_compile_options(-Wno-deprecated-declarations)
 else()
   set(CMAKE_OSX_SYSROOT ${ios_sysroot}/stubs)
   add_compile_options(-nostdlibinc "SHELL:-isystem ${ios_sysroot}/libc")
