@@ -14,9 +14,12 @@ set(settings_test_sources
   SwitchTests.cpp
   UIImageEqualizerTests.cpp
   invertPixelsTests.cpp
+  store/ExchangeTests.cpp
   store/preferencesTests.cpp
   store/presetsTests.cpp
   ../support/Alike.cpp
   ../support/Images.cpp
 )
 list(TRANSFORM settings_test_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
+# Where the files are that each platform writes.
+set(settings_test_definitions WRITTEN_FILES="${CMAKE_CURRENT_LIST_DIR}/store")
