@@ -9,6 +9,19 @@ namespace brimsound {
 
 using ios::retainedObjectOf;
 
+namespace {
+
+/// Takes over the reference that came with the native color's making. What is autoreleased would stay until
+/// the end of the turn, in which a drag makes many.
+RetainPtr<UIColor> adopted(::UIColor* native)
+{
+    auto color = retainedObjectOf<UIColor>(native);
+    [native release];
+    return color;
+}
+
+} // namespace
+
 UIColor::UIColor(Peer* peer)
     : NSObject(peer)
 {
@@ -17,21 +30,21 @@ UIColor::UIColor(Peer* peer)
 RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
 {
-    return retainedObjectOf<UIColor>([::UIColor colorWithRed:red green:green blue:blue alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithRed:red green:green blue:blue alpha:alpha]);
 }
 
 RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
     CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
 {
-    return retainedObjectOf<UIColor>([::UIColor colorWithHue:hue
-                                                  saturation:saturation
-                                                  brightness:brightness
-                                                       alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithHue:hue
+                                       saturation:saturation
+                                       brightness:brightness
+                                            alpha:alpha]);
 }
 
 RetainPtr<UIColor> UIColor::colorWithWhiteAlpha(CGFloat white, CGFloat alpha)
 {
-    return retainedObjectOf<UIColor>([::UIColor colorWithWhite:white alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithWhite:white alpha:alpha]);
 }
 
 RetainPtr<UIColor> UIColor::blackColor()

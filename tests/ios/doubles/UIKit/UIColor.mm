@@ -5,15 +5,6 @@
 
 using brimsound::doubles::Components;
 
-namespace {
-
-UIColor* gray(CGFloat white, CGFloat alpha)
-{
-    return [UIColor colorWithRed:white green:white blue:white alpha:alpha];
-}
-
-} // namespace
-
 @implementation UIColor
 
 Components brimsound::doubles::componentsOf(UIColor* color)
@@ -24,21 +15,22 @@ Components brimsound::doubles::componentsOf(UIColor* color)
     return components;
 }
 
-+ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha
+- (instancetype)initWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha
 {
-    UIColor* const color = [[[self alloc] init] autorelease];
+    self = [super init];
     // Up to iOS 9 there are no colors beyond this range.
-    std::ranges::transform(Components { red, green, blue, alpha }, color->_components,
-        [](CGFloat component) { return std::clamp(component, 0.0, 1.0); });
-    return color;
+    if (self)
+        std::ranges::transform(Components { red, green, blue, alpha }, _components,
+            [](CGFloat component) { return std::clamp(component, 0.0, 1.0); });
+    return self;
 }
 
 // Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
 
-+ (UIColor*)colorWithHue:(CGFloat)hue
-              saturation:(CGFloat)saturation
-              brightness:(CGFloat)brightness
-                   alpha:(CGFloat)alpha
+- (instancetype)initWithHue:(CGFloat)hue
+                 saturation:(CGFloat)saturation
+                 brightness:(CGFloat)brightness
+                      alpha:(CGFloat)alpha
 {
     // Each component stands at the brightness for a third of the circle, and goes down and up beside it.
     const auto component = [&](double peakOfFall) {
@@ -46,22 +38,41 @@ Components brimsound::doubles::componentsOf(UIColor* color)
         const double below = std::clamp(std::min(sixth, 4 - sixth), 0.0, 1.0);
         return brightness * (1 - saturation * below);
     };
-    return [self colorWithRed:component(5) green:component(3) blue:component(1) alpha:alpha];
+    return [self initWithRed:component(5) green:component(3) blue:component(1) alpha:alpha];
+}
+
+- (instancetype)initWithWhite:(CGFloat)white alpha:(CGFloat)alpha
+{
+    return [self initWithRed:white green:white blue:white alpha:alpha];
+}
+
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha
+{
+    return [[[self alloc] initWithRed:red green:green blue:blue alpha:alpha] autorelease];
+}
+
++ (UIColor*)colorWithHue:(CGFloat)hue
+              saturation:(CGFloat)saturation
+              brightness:(CGFloat)brightness
+                   alpha:(CGFloat)alpha
+{
+    return [[[self alloc] initWithHue:hue saturation:saturation brightness:brightness
+                                alpha:alpha] autorelease];
 }
 
 + (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha
 {
-    return gray(white, alpha);
+    return [[[self alloc] initWithWhite:white alpha:alpha] autorelease];
 }
 
 + (UIColor*)blackColor
 {
-    return gray(0, 1);
+    return [self colorWithWhite:0 alpha:1];
 }
 
 + (UIColor*)whiteColor
 {
-    return gray(1, 1);
+    return [self colorWithWhite:1 alpha:1];
 }
 
 + (UIColor*)yellowColor
@@ -71,12 +82,12 @@ Components brimsound::doubles::componentsOf(UIColor* color)
 
 + (UIColor*)lightGrayColor
 {
-    return gray(2.0 / 3, 1);
+    return [self colorWithWhite:2.0 / 3 alpha:1];
 }
 
 + (UIColor*)clearColor
 {
-    return gray(0, 0);
+    return [self colorWithWhite:0 alpha:0];
 }
 
 - (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha

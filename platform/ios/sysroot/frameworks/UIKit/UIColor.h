@@ -11,6 +11,13 @@
 }
 #endif
 
+- (instancetype)initWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
+- (instancetype)initWithHue:(CGFloat)hue
+                 saturation:(CGFloat)saturation
+                 brightness:(CGFloat)brightness
+                      alpha:(CGFloat)alpha;
+- (instancetype)initWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
+
 + (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 + (UIColor*)colorWithHue:(CGFloat)hue
               saturation:(CGFloat)saturation
