@@ -1,5 +1,7 @@
 #include "tests/ios/doubles/UIKit/UIWindowState.h"
 
+#include "tests/ios/doubles/UIKit/UIWindowState.h"
+
 #import <UIKit/UIKit.h>
 
 @implementation UIScreen
