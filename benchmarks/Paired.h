@@ -11,6 +11,15 @@
 
 namespace brimsound::bench {
 
+/// What that share of the times does not exceed, 0.5 for the median.
+inline double percentile(std::vector<double> times, double share)
+{
+    const auto nth
+        = times.begin() + static_cast<std::ptrdiff_t>(share * static_cast<double>(times.size() - 1));
+    std::nth_element(times.begin(), nth, times.end());
+    return *nth;
+}
+
 /// Times of two actions that are carried out in turn, so that both meet the same noise. The benchmark's own
 /// time is that of the pair; what counts are the counters: medians and 99th percentiles in microseconds and
 /// their ratios, ours by the bare one.
@@ -41,14 +50,6 @@ private:
         const auto start = std::chrono::steady_clock::now();
         action();
         return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
-    }
-
-    static double percentile(std::vector<double> times, double share)
-    {
-        const auto nth
-            = times.begin() + static_cast<std::ptrdiff_t>(share * static_cast<double>(times.size() - 1));
-        std::nth_element(times.begin(), nth, times.end());
-        return *nth;
     }
 
     std::vector<double> _ours;

@@ -1,5 +1,6 @@
-// The preferences file, against plain libplist.
+// The preferences file, against plain libplist, and Python's plistlib beside.
 #include "benchmarks/Paired.h"
+#include "benchmarks/PythonPlistlib.h"
 #include "benchmarks/World.h"
 #include "settings/store/preferences.h"
 
@@ -26,9 +27,17 @@ void reading(benchmark::State& state)
     const World world;
     write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
     const auto file = world.preferencesFile();
+    PythonPlistlib python(file);
+    std::vector<double> pythonTimes;
+    const auto bare = [&] { benchmark::DoNotOptimize(nodesOf(bytesOf(file))); };
     Paired().run(
-        state, [] { benchmark::DoNotOptimize(get_preferences()); },
-        [&] { benchmark::DoNotOptimize(nodesOf(bytesOf(file))); });
+        state, [] { benchmark::DoNotOptimize(get_preferences()); }, bare,
+        [&] {
+            pythonTimes.push_back(python.read());
+            // So that not the bare one alone finds the caches cold.
+            bare();
+        });
+    state.counters["python_p50_us"] = percentile(pythonTimes, 0.5);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(reading)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond)->MinTime(1);
@@ -40,18 +49,25 @@ void writing(benchmark::State& state)
     write_preferences(preferences);
     const auto file = world.preferencesFile();
     const auto nodes = nodesOf(bytesOf(file));
+    PythonPlistlib python(file);
+    std::vector<double> pythonTimes;
     auto copy = preferences;
+    const auto bare = [&] {
+        char* bytes = nullptr;
+        std::uint32_t size = 0;
+        plist_to_bin(nodes.get(), &bytes, &size);
+        writeBare(file, std::string(bytes, size));
+        std::free(bytes);
+    };
     // The pane hands over what it has, so the copy is not part of it.
     Paired().run(
-        state, [&] { write_preferences(std::move(copy)); },
+        state, [&] { write_preferences(std::move(copy)); }, bare,
         [&] {
-            char* bytes = nullptr;
-            std::uint32_t size = 0;
-            plist_to_bin(nodes.get(), &bytes, &size);
-            writeBare(file, std::string(bytes, size));
-            std::free(bytes);
-        },
-        [&] { copy = preferences; });
+            pythonTimes.push_back(python.write());
+            copy = preferences;
+            bare();
+        });
+    state.counters["python_p50_us"] = percentile(pythonTimes, 0.5);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(writing)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond)->MinTime(1);

@@ -13,7 +13,7 @@ test_packages=(
     locales python3 xvfb xdotool
 )
 # What the benchmarks take besides those that run the pane.
-bench_packages=(libbenchmark-dev libcairo2-dev python3)
+bench_packages=(libbenchmark-dev libcairo2-dev python3 xvfb)
 # What it takes to build the device's bundle and its package. Another release of libc++ cannot be there at the same time.
 ios_packages=(cmake ninja-build clang-14 lld-14 llvm-14 libc++-14-dev dpkg git python3)
 
