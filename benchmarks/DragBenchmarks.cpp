@@ -1,11 +1,9 @@
 // The live path: from a drag event to the media server's reply, and to the picture.
 #include "benchmarks/Paired.h"
 #include "benchmarks/World.h"
-#include "desktop/brimsound/PaneHost.h"
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/Qt/Snapshot.h"
-#include "platform/desktop/UIKit/SliderPeer.h"
-#include "settings/store/preferences.h"
+#include "tests/support/HeldSlider.h"
 
 #include <QImage>
 #include <QPainter>
@@ -17,31 +15,6 @@ namespace {
 constexpr CGSize windowSize { 320, 568 };
 constexpr double scale = 2;
 
-/// A pane scrolled to its sliders, one of which is held.
-class HeldSlider {
-public:
-    HeldSlider()
-        : _host(windowSize)
-    {
-        _host.window().layOut();
-        auto& slider = this->slider();
-        _host.window().touchDown({ placeFor(slider.value()), desktop::Pointer::Mouse });
-    }
-
-    void dragTo(double value) { _host.window().touchMove(placeFor(value)); }
-    desktop::Window& window() { return _host.window(); }
-    bool isHeld() { return _host.window().isTouched(); }
-
-private:
-    UISlider& slider() { return *(*_host.controller()->sliders())[2]; }
-    CGPoint placeFor(double value)
-    {
-        return desktop::convertToWindow(desktop::peerOf(slider()).thumbCentre(value), slider());
-    }
-
-    desktop::PaneHost _host;
-};
-
 double nextValue(double value)
 {
     return value >= 11 ? -11 : value + 0.5;
@@ -51,7 +24,7 @@ double nextValue(double value)
 void draggingABand(benchmark::State& state)
 {
     const World world;
-    HeldSlider held;
+    tests::HeldSlider held(windowSize);
     double value = 0;
     const std::vector<double> values(11, 1.5);
     Paired().run(
@@ -62,7 +35,7 @@ BENCHMARK(draggingABand)->Unit(benchmark::kMicrosecond)->MinTime(3);
 void paintingTheWindow(benchmark::State& state)
 {
     const World world;
-    HeldSlider held;
+    tests::HeldSlider held(windowSize);
     for (auto _ : state)
         benchmark::DoNotOptimize(desktop::pictureOf(held.window(), scale));
 }
@@ -72,7 +45,7 @@ BENCHMARK(paintingTheWindow)->Unit(benchmark::kMillisecond);
 void paintingADragStep(benchmark::State& state)
 {
     const World world;
-    HeldSlider held;
+    tests::HeldSlider held(windowSize);
     desktop::PaneWidget widget(held.window());
     QImage picture(
         QSize(static_cast<int>(windowSize.width * scale), static_cast<int>(windowSize.height * scale)),

@@ -42,8 +42,11 @@ void BrimsoundSettingsListController::sendToMediaServer()
     for (const auto& slider : *_sliders)
         values.emplace_back(slider->value());
 
+    PropertyList::Dictionary userInfo;
+    userInfo.set(valsKey, std::move(values));
+
     std::optional<NSError> error;
-    _center->sendMessageAndReceiveReplyName(equalizerSendMessage, { { valsKey, std::move(values) } }, error);
+    _center->sendMessageAndReceiveReplyName(equalizerSendMessage, userInfo, error);
     if (error) {
         logLine("ERROR SENDING TO MEDIA SERVER " + error->localizedDescription);
         openCenter();

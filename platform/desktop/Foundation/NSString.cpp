@@ -9,7 +9,9 @@ std::string stringWithFormat(const char* format, double number)
 {
     static const locale_t unlocalised = newlocale(LC_ALL_MASK, "C", nullptr);
     const locale_t before = uselocale(unlocalised);
-    std::string text(32, '\0');
+    // As much as a string holds without memory of its own, which is enough for a caption.
+    std::string text;
+    text.resize(text.capacity());
     const auto length = static_cast<std::size_t>(std::snprintf(text.data(), text.size(), format, number));
     if (length >= text.size()) {
         text.resize(length + 1);
