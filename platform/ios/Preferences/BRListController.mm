@@ -15,10 +15,11 @@ using brimsound::ios::valueOf;
 
 namespace {
 
-/// The object that belongs to the controller, which has been initialised.
-brimsound::PSListController& controllerOf(BRListController* native)
+/// The object that belongs to the controller. Null while its superclass tears it down, which may ask it for
+/// things still.
+brimsound::PSListController* controllerOf(BRListController* native)
 {
-    return *existingObjectOf<brimsound::PSListController>(native);
+    return existingObjectOf<brimsound::PSListController>(native);
 }
 
 } // namespace
@@ -32,7 +33,7 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (id)initForContentSize:(CGSize)size
 {
-    auto* controller = existingObjectOf<brimsound::PSListController>(self);
+    auto* controller = controllerOf(self);
     if (!controller)
         controller = brimsound::ios::newControllerFor(self);
     if (controller->initForContentSize(ours(size)))
@@ -44,7 +45,7 @@ brimsound::PSListController& controllerOf(BRListController* native)
 // Some versions of the Settings app know of no content size, and the framework comes by here in either case.
 - (id)init
 {
-    return existingObjectOf(self) ? [super init] : [self initForContentSize:[[UIScreen mainScreen] bounds].size];
+    return controllerOf(self) ? [super init] : [self initForContentSize:[[UIScreen mainScreen] bounds].size];
 }
 
 - (id)br_baseInitForContentSize:(CGSize)size
@@ -60,9 +61,10 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (NSArray*)specifiers
 {
-    if (!_specifiers) {
+    auto* controller = controllerOf(self);
+    if (!_specifiers && controller) {
         NSMutableArray* natives = [[NSMutableArray alloc] init];
-        for (const auto& specifier : controllerOf(self).specifiers())
+        for (const auto& specifier : controller->specifiers())
             [natives addObject:nativeOf(*specifier)];
         _specifiers = natives;
     }
@@ -76,13 +78,15 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (void)reloadSpecifiers
 {
-    brimsound::ios::forgetSpecifiers(controllerOf(self));
+    if (auto* controller = controllerOf(self))
+        brimsound::ios::forgetSpecifiers(*controller);
     [super reloadSpecifiers];
 }
 
 - (void)suspend
 {
-    controllerOf(self).suspend();
+    if (auto* controller = controllerOf(self))
+        controller->suspend();
 }
 
 - (void)br_baseSuspend
@@ -92,7 +96,10 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (id)readPreferenceValue:(PSSpecifier*)specifier
 {
-    return nativeValue(controllerOf(self).readPreferenceValue(*objectOf<brimsound::PSSpecifier>(specifier)));
+    auto* controller = controllerOf(self);
+    if (!controller || !specifier)
+        return nil;
+    return nativeValue(controller->readPreferenceValue(*objectOf<brimsound::PSSpecifier>(specifier)));
 }
 
 - (id)br_baseReadPreferenceValue:(PSSpecifier*)specifier
@@ -102,8 +109,10 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier*)specifier
 {
-    controllerOf(self).setPreferenceValueSpecifier(
-        valueOf(value).value_or(brimsound::PropertyList()), *objectOf<brimsound::PSSpecifier>(specifier));
+    auto* controller = controllerOf(self);
+    if (controller && specifier)
+        controller->setPreferenceValueSpecifier(
+            valueOf(value).value_or(brimsound::PropertyList()), *objectOf<brimsound::PSSpecifier>(specifier));
 }
 
 - (void)br_baseSetPreferenceValue:(id)value specifier:(PSSpecifier*)specifier
@@ -113,7 +122,10 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (UITableViewCell*)tableView:(UITableView*)table cellForRowAtIndexPath:(NSIndexPath*)path
 {
-    const auto cell = controllerOf(self).tableViewCellForRowAtIndexPath(
+    auto* controller = controllerOf(self);
+    if (!controller)
+        return [super tableView:table cellForRowAtIndexPath:path];
+    const auto cell = controller->tableViewCellForRowAtIndexPath(
         *objectOf<brimsound::UITableView>(table), ours(path));
     return [[nativeOf(cell.get()) retain] autorelease];
 }
@@ -125,14 +137,16 @@ brimsound::PSListController& controllerOf(BRListController* native)
 
 - (CGFloat)tableView:(UITableView*)table heightForRowAtIndexPath:(NSIndexPath*)path
 {
-    return controllerOf(self).tableViewHeightForRowAtIndexPath(
-        *objectOf<brimsound::UITableView>(table), ours(path));
+    auto* controller = controllerOf(self);
+    return controller ? controller->tableViewHeightForRowAtIndexPath(
+               *objectOf<brimsound::UITableView>(table), ours(path))
+                      : 0;
 }
 
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path
 {
-    controllerOf(self).tableViewDidSelectRowAtIndexPath(
-        *objectOf<brimsound::UITableView>(table), ours(path));
+    if (auto* controller = controllerOf(self))
+        controller->tableViewDidSelectRowAtIndexPath(*objectOf<brimsound::UITableView>(table), ours(path));
 }
 
 - (void)br_baseTableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path

@@ -16,9 +16,9 @@ using brimsound::ios::objectOf;
 
 namespace {
 
-brimsound::BrimsoundSettingsListController& controllerOf(BrimsoundSettingsListController* native)
+brimsound::BrimsoundSettingsListController* controllerOf(BrimsoundSettingsListController* native)
 {
-    return *brimsound::ios::existingObjectOf<brimsound::BrimsoundSettingsListController>(native);
+    return brimsound::ios::existingObjectOf<brimsound::BrimsoundSettingsListController>(native);
 }
 
 } // namespace
@@ -33,17 +33,20 @@ brimsound::BrimsoundSettingsListController& controllerOf(BrimsoundSettingsListCo
 
 - (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)index
 {
-    controllerOf(self).alertViewClickedButtonAtIndex(*objectOf<brimsound::UIAlertView>(alert), index);
+    if (auto* controller = controllerOf(self))
+        controller->alertViewClickedButtonAtIndex(*objectOf<brimsound::UIAlertView>(alert), index);
 }
 
 - (void)mailComposeController:(MFMailComposeViewController*)composer
           didFinishWithResult:(MFMailComposeResult)result
                         error:(NSError*)nativeError
 {
+    auto* controller = controllerOf(self);
     const auto error = brimsound::ios::errorOf(nativeError);
-    controllerOf(self).mailComposeControllerDidFinishWithResultError(
-        *objectOf<brimsound::MFMailComposeViewController>(composer),
-        static_cast<brimsound::MFMailComposeResult>(result), error ? &*error : nullptr);
+    if (controller)
+        controller->mailComposeControllerDidFinishWithResultError(
+            *objectOf<brimsound::MFMailComposeViewController>(composer),
+            static_cast<brimsound::MFMailComposeResult>(result), error ? &*error : nullptr);
 }
 
 @end
