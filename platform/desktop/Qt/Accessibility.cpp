@@ -26,6 +26,14 @@ public:
         return kind == QAccessible::Name && text.isEmpty() ? QGuiApplication::applicationDisplayName() : text;
     }
 
+    QAccessible::State state() const override
+    {
+        auto state = QAccessibleWidget::state();
+        // One thing has the keyboard.
+        state.focused = state.focused && !focusedAmong(children());
+        return state;
+    }
+
     QAccessibleInterface* child(int index) const override { return children().value(index); }
     int childCount() const override { return static_cast<int>(children().size()); }
     int indexOfChild(const QAccessibleInterface* child) const override
@@ -57,6 +65,14 @@ QAccessibleInterface* makeRoot(const QString&, QObject* object)
 {
     auto* widget = dynamic_cast<PaneWidget*>(object);
     return widget ? new RootInterface(*widget, widget->accessibility()) : nullptr;
+}
+
+/// What a text field says that can be got at and has no editor, which would tell for itself.
+QString textOf(const UIView& view)
+{
+    const auto self = peerOf(view).accessible();
+    const bool tells = self.role == AccessibleRole::TextField && isReachable(view);
+    return tells ? QString::fromStdString(self.value) : QString();
 }
 
 void remove(QAccessibleInterface* interface)
@@ -142,17 +158,17 @@ void Accessibility::changed(UIView& view, AccessibleChange what)
         send(QAccessibleValueChangeEvent(
             interfaceOf(view), interfaceOf(view)->valueInterface()->currentValue()));
         break;
+    case AccessibleChange::TextWillChange:
+        if (const auto text = textOf(view); !text.isEmpty())
+            send(QAccessibleTextRemoveEvent(interfaceOf(view), 0, text));
+        break;
     case AccessibleChange::TextChanged:
-        send(QAccessibleValueChangeEvent(interfaceOf(view), interfaceOf(view)->text(QAccessible::Value)));
+        if (const auto text = textOf(view); !text.isEmpty())
+            send(QAccessibleTextInsertEvent(interfaceOf(view), 0, text));
         break;
-    case AccessibleChange::StateChanged: {
-        QAccessible::State changedState;
-        const bool isSwitch = peerOf(view).accessible().role == AccessibleRole::Switch;
-        changedState.checked = isSwitch;
-        changedState.selected = !isSwitch;
-        send(QAccessibleStateChangeEvent(interfaceOf(view), changedState));
+    case AccessibleChange::StateChanged:
+        sendStateOf(view);
         break;
-    }
     case AccessibleChange::Shown:
         sendForEach(QAccessible::ObjectShow);
         break;
@@ -163,10 +179,26 @@ void Accessibility::changed(UIView& view, AccessibleChange what)
         send({ interfaceOf(view), QAccessible::Alert });
         break;
     case AccessibleChange::FocusMoved:
-        // An editor that lies over the view tells for itself.
-        if (peerOf(view).accessible().role != AccessibleRole::None)
+        // A text field gets an editor, which tells for itself.
+        if (const auto role = peerOf(view).accessible().role;
+            role != AccessibleRole::None && role != AccessibleRole::TextField)
             send({ interfaceOf(view), QAccessible::Focus });
         break;
+    }
+}
+
+void Accessibility::sendStateOf(UIView& view)
+{
+    const auto self = peerOf(view).accessible();
+    if (self.role == AccessibleRole::Switch) {
+        QAccessible::State changedState;
+        changedState.checked = true;
+        QAccessibleStateChangeEvent event(interfaceOf(view), changedState);
+        deliver(&event);
+    } else if (self.role == AccessibleRole::Row) {
+        QAccessibleEvent event(
+            interfaceOf(view), self.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+        deliver(&event);
     }
 }
 

@@ -40,6 +40,7 @@ public:
 private:
     void setListening(bool);
     void changed(UIView&, AccessibleChange);
+    void sendStateOf(UIView&);
     void forget(const UIView&);
 
     QWidget& _widget;

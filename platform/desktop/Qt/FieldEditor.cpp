@@ -32,6 +32,7 @@ FieldEditor::FieldEditor(QWidget& around, UITextField& field)
 {
     auto& peer = peerOf(field);
     peer.hasEditor = true;
+    setAccessibleName(QString::fromStdString(peer.accessibleName()));
     setFrame(false);
     setMaxLength(std::numeric_limits<int>::max());
     if (peer.font)

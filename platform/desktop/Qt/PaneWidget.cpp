@@ -211,6 +211,17 @@ void PaneWidget::keyReleaseEvent(QKeyEvent* event)
         _window.keyReleased(*key);
 }
 
+void PaneWidget::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    // Qt tells readers of the widget as soon as this is done; where in it the keyboard is they hear after
+    // that.
+    QTimer::singleShot(0, this, [this] {
+        if (auto* part = _window.focus().part())
+            accessibleChanged(*part, AccessibleChange::FocusMoved);
+    });
+}
+
 void PaneWidget::focusOutEvent(QFocusEvent* event)
 {
     _window.releaseKeys();

@@ -209,6 +209,8 @@ void* ViewInterface::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::ValueInterface && accessible().range)
         return static_cast<QAccessibleValueInterface*>(this);
+    if (type == QAccessible::TextInterface && accessible().role == AccessibleRole::TextField)
+        return static_cast<QAccessibleTextInterface*>(&_fieldText);
     if (type == QAccessible::ActionInterface && !actionNames().isEmpty())
         return static_cast<QAccessibleActionInterface*>(this);
     return nullptr;

@@ -1,6 +1,7 @@
 // A view as a screen reader sees it.
 #pragma once
 
+#include "platform/desktop/Qt/FieldText.h"
 #include "platform/desktop/UIKit/Accessible.h"
 
 #include <QAccessibleInterface>
@@ -50,6 +51,7 @@ private:
 
     Accessibility& _accessibility;
     UIView& _view;
+    FieldText _fieldText { *this };
 };
 
 /// The children of a view as interfaces, in reading order.

@@ -36,15 +36,18 @@ bool isLeaf(AccessibleRole role)
     return false;
 }
 
+bool isCoveredBySibling(const UIView& view)
+{
+    const auto& siblings = view.superview()->subviews();
+    const auto self = std::ranges::find(siblings, &view, &RetainPtr<UIView>::get);
+    return std::any_of(self + 1, siblings.end(), [](const auto& front) { return coversSuperview(*front); });
+}
+
 /// Whether the view shows among its siblings and none of them covers it.
 bool isShown(const UIView& view)
 {
     const auto& peer = peerOf(view);
-    if (peer.hidden || peer.alpha < faintest || peer.ignoresTouches())
-        return false;
-    const auto& siblings = view.superview()->subviews();
-    const auto self = std::ranges::find(siblings, &view, &RetainPtr<UIView>::get);
-    return std::none_of(self + 1, siblings.end(), [](const auto& front) { return coversSuperview(*front); });
+    return !peer.hidden && peer.alpha >= faintest && !peer.ignoresTouches() && !isCoveredBySibling(view);
 }
 
 void addAccessible(UIView& view, std::vector<UIView*>& found)
@@ -120,6 +123,15 @@ bool isReachable(const UIView& view)
         ancestor = superview;
     }
     return dynamic_cast<const Window*>(ancestor) != nullptr;
+}
+
+bool isCovered(const UIView& view)
+{
+    for (const auto* ancestor = &view; ancestor->superview(); ancestor = ancestor->superview()) {
+        if (isCoveredBySibling(*ancestor))
+            return true;
+    }
+    return false;
 }
 
 std::string captionOf(const UISlider& slider)

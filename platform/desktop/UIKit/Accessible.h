@@ -56,6 +56,8 @@ struct Accessible {
 
 enum class AccessibleChange : std::uint8_t {
     ValueChanged,
+    /// The text of a field is about to change, and has changed.
+    TextWillChange,
     TextChanged,
     StateChanged,
     /// The view was put into the window.
@@ -78,6 +80,9 @@ UIView* accessibleParent(const UIView&);
 
 /// Whether the user can get at the view: it is in the window, not hidden and not covered.
 bool isReachable(const UIView&);
+
+/// Whether something lies over the view, or over a view around it, and keeps the user from it.
+bool isCovered(const UIView&);
 
 /// The label at the left of a slider names it: one in the same strip of the same superview.
 std::string captionOf(const UISlider&);

@@ -132,6 +132,13 @@ void Focus::forgetWithin(const UIView& tree)
 
 void Focus::refresh()
 {
+    // What covers the view that had the keyboard gets it, so that keys and readers go on there.
+    if (!view() && std::ranges::any_of(_views, [](const auto* former) { return isCovered(*former); })) {
+        if (auto* stop = tabStopBeside(_window, nullptr, Direction::Next)) {
+            giveTo(*stop);
+            return;
+        }
+    }
     auto* now = view();
     if (_keyed && _keyed != now)
         releaseKeys();

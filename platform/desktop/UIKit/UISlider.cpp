@@ -119,12 +119,14 @@ Accessible SliderPeer::accessible() const
     const auto& slider = static_cast<const UISlider&>(*view);
     const auto sliders = slidersBeside(*view);
     const bool held = std::ranges::any_of(sliders, [](auto* other) { return peerOf(*other).isTracking; });
-    // Rounded first, as a small negative value would read "-0.0".
-    const double shown = std::round(static_cast<double>(value) * 10) / 10;
+    // Rounded, and without the sign of a zero, which would read "-0.0".
+    const double shown = std::round(static_cast<double>(value) * 10) / 10 + 0.0;
     return { .role = AccessibleRole::Slider,
         .name = held ? heldCaption : captionOf(slider),
-        .value = stringWithFormat("%.1f", shown + 0.0) + " dB",
-        .range = AccessibleRange { value, minimum, maximum, accessibleStep },
+        // Readers that take the number, not the words, say this after it.
+        .description = "dB",
+        .value = stringWithFormat("%.1f", shown) + " dB",
+        .range = AccessibleRange { shown, minimum, maximum, accessibleStep },
         .focusable = true };
 }
 

@@ -64,12 +64,18 @@ void TextFieldPeer::draw(Canvas& canvas) const
     canvas.restore();
 }
 
+std::string TextFieldPeer::accessibleName() const
+{
+    // No label says what belongs in. What has all its words capitalized is the name of something.
+    return autocapitalizationType == UITextAutocapitalizationType::Words ? "Name" : "";
+}
+
 Accessible TextFieldPeer::accessible() const
 {
     // The editor speaks for itself.
     if (hasEditor)
         return {};
-    return { .role = AccessibleRole::TextField, .value = text, .focusable = true };
+    return { .role = AccessibleRole::TextField, .name = accessibleName(), .value = text, .focusable = true };
 }
 
 } // namespace desktop
@@ -92,6 +98,7 @@ void UITextField::setText(const std::string& text)
 {
     if (peerOf(*this).text == text)
         return;
+    desktop::accessibleChanged(*this, desktop::AccessibleChange::TextWillChange);
     peerOf(*this).text = text;
     desktop::setNeedsDisplay(*this);
     desktop::accessibleChanged(*this, desktop::AccessibleChange::TextChanged);

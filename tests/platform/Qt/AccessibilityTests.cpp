@@ -13,9 +13,11 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFocusEvent>
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <memory>
 
 namespace brimsound::tests {
@@ -150,8 +152,10 @@ TEST_F(AnAccessiblePane, AnnouncesASlidersValueInDecibels)
     EXPECT_EQ(value.minimumValue(), -12.0);
     EXPECT_EQ(value.maximumValue(), 12.0);
     EXPECT_GT(value.minimumStepSize().toDouble(), 0);
+    EXPECT_EQ(find("170")->text(QAccessible::Description), "dB");
     sliders[1]->setValue(-0.01f);
     EXPECT_EQ(find("170")->text(QAccessible::Value), "0.0 dB");
+    EXPECT_FALSE(std::signbit(value.currentValue().toDouble()));
 }
 
 TEST_F(AnAccessiblePane, KeepsTheNamesWhileTheLabelsShowValues)
@@ -279,6 +283,27 @@ TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIs)
     EXPECT_FALSE(find("170")->state().focused);
 }
 
+TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIsWhenItComesToTheWindow)
+{
+    window->keyPressed(desktop::Key::Tab);
+    takeSent();
+    QFocusEvent comes(QEvent::FocusIn);
+    QApplication::sendEvent(widget.get(), &comes);
+    QApplication::processEvents();
+    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::Focus, QString("Pre"))));
+}
+
+TEST_F(AnAccessiblePane, HasTheKeyboardItselfOnlyWhileNoViewHas)
+{
+    widget->activateWindow();
+    widget->setFocus();
+    QApplication::processEvents();
+    ASSERT_TRUE(widget->hasFocus());
+    EXPECT_TRUE(root().state().focused);
+    window->keyPressed(desktop::Key::Tab);
+    EXPECT_FALSE(root().state().focused);
+}
+
 TEST_F(AnAccessiblePane, GivesTheKeyboardToWhateverIsAskedFor)
 {
     find("170")->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
@@ -295,15 +320,23 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
 {
     const auto field = make<UITextField>(CGRectMake(5, 100, 200, 30));
     field->setText("Rock");
+    field->setAutocapitalizationType(UITextAutocapitalizationType::Words);
     window->addSubview(*field);
     ASSERT_EQ(root().childCount(), 3);
     auto& interface = *root().child(2);
     EXPECT_EQ(interface.role(), QAccessible::EditableText);
     EXPECT_EQ(interface.text(QAccessible::Value), "Rock");
     EXPECT_TRUE(interface.state().editable);
+    auto* text = interface.textInterface();
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->text(1, 3), "oc");
+    EXPECT_EQ(text->text(0, 99), "Rock");
     takeSent();
-    field->setText("Jazz");
-    EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::ValueChanged, QString())));
+    field->setText("Jazz!");
+    EXPECT_EQ(text->characterCount(), 5);
+    EXPECT_THAT(takeSent(),
+        ElementsAre(std::pair(QAccessible::TextRemoved, QString("Name")),
+            std::pair(QAccessible::TextInserted, QString("Name"))));
 
     interface.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     EXPECT_TRUE(field->isFirstResponder());
@@ -312,8 +345,11 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
     auto& editor = *root().child(2);
     EXPECT_NE(&editor, &interface);
     EXPECT_EQ(editor.role(), QAccessible::EditableText);
+    EXPECT_EQ(editor.text(QAccessible::Name), "Name");
     ASSERT_TRUE(editor.textInterface());
-    EXPECT_EQ(editor.textInterface()->text(0, 4), "Jazz");
+    EXPECT_EQ(editor.textInterface()->text(0, 5), "Jazz!");
+    EXPECT_THAT(takeSent(), Not(Contains(std::pair(QAccessible::Focus, QString("Name")))));
+
     field->resignFirstResponder();
     QApplication::processEvents();
     EXPECT_EQ(root().child(2), &interface);
@@ -442,7 +478,7 @@ TEST(AnAccessibleList, TellsOfItsRowsAndHasThemPressedAndDeleted)
     QAccessible::setActive(true);
     takeSent();
     second.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::StateChanged, QString("Row 1"))));
+    EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::SelectionAdd, QString("Row 1"))));
     QAccessible::setActive(false);
     EXPECT_TRUE(second.state().selected);
     EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 1 }));

@@ -314,12 +314,31 @@ TEST_F(TheKeyboardUnderAPanel, TouchesBesideThePanelByEscape)
     EXPECT_THAT(hideAllLog->take(), ElementsAre("down", "up inside"));
 }
 
+TEST_F(TheKeyboardUnderAPanel, GoesToThePanelThatCoversWhereItWas)
+{
+    panel->setHidden(true);
+    press(Key::Tab);
+    panel->setHidden(false);
+    window->layOut();
+    EXPECT_EQ(window->focus().view(), toggle.get());
+    EXPECT_TRUE(hasRing(*toggle));
+}
+
+TEST_F(TheKeyboardUnderAPanel, IsNowhereWhenItWasNowhereBefore)
+{
+    panel->setHidden(true);
+    window->layOut();
+    panel->setHidden(false);
+    window->layOut();
+    EXPECT_EQ(window->focus().view(), nullptr);
+}
+
 TEST_F(TheKeyboardUnderAPanel, IsBackInThePaneWhenThePanelFades)
 {
     panel->setHidden(true);
     press(Key::Tab);
     panel->setHidden(false);
-    EXPECT_EQ(press(Key::Tab), toggle.get());
+    EXPECT_EQ(press(Key::Tab), cancel.get());
     panel->setUserInteractionEnabled(false);
     UIView::animateWithDurationAnimations(0.5, [&] { panel->setAlpha(0); });
     window->layOut();

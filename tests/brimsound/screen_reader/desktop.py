@@ -1,0 +1,179 @@
+"""A desktop of a test's own: a session bus, a screen that nobody sees, and the pane in its window on it.
+
+It has to be there before the accessibility library looks around, so make it before importing reader.
+"""
+import json
+import os
+import pathlib
+import plistlib
+import queue
+import shutil
+import subprocess
+import tempfile
+import threading
+import time
+
+from gi.repository import Gio, GLib
+
+PATIENCE = 20
+# What a test starts ends with it, however it ends.
+DEPENDENT = ("setpriv", "--pdeathsig", "TERM", "--")
+
+
+class Lines:
+    """What a program prints, line by line as JSON."""
+
+    def __init__(self, stream):
+        self._lines = queue.Queue()
+        self._thread = threading.Thread(target=self._read, args=(stream,), daemon=True)
+        self._thread.start()
+
+    def _read(self, stream):
+        for line in stream:
+            self._lines.put(json.loads(line))
+
+    def next(self, wanted=lambda line: True):
+        """The next line that is wanted; those before it are dropped."""
+        while True:
+            line = self._lines.get(timeout=PATIENCE)
+            if wanted(line):
+                return line
+
+    def take(self):
+        """All that came so far."""
+        lines = []
+        while not self._lines.empty():
+            lines.append(self._lines.get())
+        return lines
+
+
+class Program:
+    """A program that runs as long as this is entered, with what it prints."""
+
+    def __init__(self, *command, **options):
+        self._process = subprocess.Popen((*DEPENDENT, *command), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                         text=True, **options)
+        self.lines = Lines(self._process.stdout)
+
+    def say(self, line):
+        self._process.stdin.write(line + "\n")
+        self._process.stdin.flush()
+
+    def end(self):
+        """Ends the program when its standard input does not. Its exit status."""
+        self._process.stdin.close()
+        try:
+            status = self._process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            self._process.kill()
+            status = self._process.wait()
+        self._process.stdout.close()
+        return status
+
+    def terminate(self):
+        self._process.terminate()
+        return self.end()
+
+
+class Desktop:
+    """Everything that lasts from test to test."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="brimsound-reader-"))
+        self._programs = []
+        for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "AT_SPI_BUS_ADDRESS", "NO_AT_BRIDGE"):
+            os.environ.pop(name, None)
+        os.environ.update(HOME=str(self.folder), XDG_RUNTIME_DIR=str(self.folder),
+                          XDG_CONFIG_HOME=str(self.folder), XDG_CACHE_HOME=str(self.folder),
+                          XDG_DATA_HOME=str(self.folder), XDG_CURRENT_DESKTOP="X-Generic", LC_ALL="C.UTF-8")
+        number = self._start("Xvfb", "-displayfd", "1", "-screen", "0", "900x1200x24", "-nolisten", "tcp")
+        os.environ["DISPLAY"] = ":" + number
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start("dbus-daemon", "--session", "--nofork",
+                                                             "--print-address")
+        self._bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        self._bus.set_exit_on_close(False)
+        self._listen()
+
+    def _listen(self):
+        """Tells all programs that a screen reader is there, as one does that starts."""
+        self._bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+                            GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled",
+                                                   GLib.Variant("b", True))),
+                            None, Gio.DBusCallFlags.NONE, -1, None)
+
+    def wait_for(self, name):
+        """Waits until somebody owns the name on the session bus."""
+        deadline = time.monotonic() + PATIENCE
+        while not self._bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                      "NameHasOwner", GLib.Variant("(s)", (name,)), None,
+                                      Gio.DBusCallFlags.NONE, -1, None).unpack()[0]:
+            if time.monotonic() > deadline:
+                raise TimeoutError(f"nobody took the name {name}")
+            time.sleep(0.01)
+
+    def post(self, name):
+        """Posts a notification as another process does."""
+        self._bus.emit_signal(None, "/com/quorvix/brimsound", "com.quorvix.brimsound.DarwinNotify", "Posted",
+                              GLib.Variant("(s)", (name,)))
+        self._bus.flush_sync()
+
+    def _start(self, *command):
+        """Starts a program that prints one line when it is ready. That line."""
+        program = subprocess.Popen((*DEPENDENT, *command), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self._programs.append(program)
+        return program.stdout.readline().strip()
+
+    def end(self):
+        for program in reversed(self._programs):
+            program.terminate()
+            program.wait(PATIENCE)
+            program.stdout.close()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+
+class Pane:
+    """The pane in its window with its media server, both on a device of their own."""
+
+    def __init__(self, desktop, preferences=None):
+        self.desktop = desktop
+        self.root = pathlib.Path(tempfile.mkdtemp(dir=desktop.folder))
+        self._file = self.root / "var/mobile/Library/Preferences/com.quorvix.brimsound.plist"
+        if preferences is not None:
+            self.write(preferences)
+        self.server = Program(os.environ["MEDIASERVERD"], "--print", "--root", self.root)
+        desktop.wait_for("com.quorvix.brimsound")
+        self.errors = open(self.root / "errors", "w+", encoding="utf-8")
+        # The script stays silent, and lets the trace be read.
+        self.program = Program(os.environ["BRIMSOUND"], "--root", self.root, "--script", "-",
+                               stderr=self.errors)
+
+    def write(self, preferences):
+        self._file.parent.mkdir(parents=True, exist_ok=True)
+        self._file.write_bytes(plistlib.dumps(preferences, fmt=plistlib.FMT_BINARY))
+
+    def preferences(self):
+        return plistlib.loads(self._file.read_bytes())
+
+    @staticmethod
+    def activate():
+        """Gives the keyboard to the window, which a desktop's window manager does."""
+        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Brimsound",
+                        "windowfocus", "--sync"], check=True, timeout=PATIENCE)
+
+    @staticmethod
+    def press_keys(*keys):
+        """Presses keys on the keyboard, one after the other."""
+        subprocess.run(["xdotool", "key", *keys], check=True, timeout=PATIENCE)
+
+    def effects(self):
+        """What came out of the pane so far, without the lines of its log."""
+        return [line for line in self.program.lines.take() if line["effect"] != "log"]
+
+    def end(self):
+        """What the pane wrote to standard error."""
+        self.program.end()
+        self.server.terminate()
+        self.errors.seek(0)
+        text = self.errors.read()
+        self.errors.close()
+        return text

@@ -1,0 +1,124 @@
+"""A screen reader, as far as the pane can tell: it listens to every event, looks around, and acts for its user.
+
+To be imported when there is a desktop.
+"""
+import time
+
+import pyatspi
+from gi.repository import GLib
+
+from desktop import PATIENCE
+
+
+class Heard:
+    """An event, with what its source said about itself when it came."""
+
+    def __init__(self, event):
+        self.type = event.type
+        self.detail = event.detail1
+        self.data = event.any_data
+        try:
+            self.role = event.source.getRole()
+            self.name = event.source.name
+        except (GLib.Error, LookupError):
+            # It is gone already.
+            self.role = self.name = None
+
+    def __repr__(self):
+        return f"{self.type} {self.detail} {self.role} {self.name!r}"
+
+
+class Reader:
+    def __init__(self):
+        self._events = []
+        for kind in ("object:state-changed:checked", "object:state-changed:focused",
+                     "object:state-changed:showing", "object:property-change:accessible-value",
+                     "object:text-changed:insert"):
+            pyatspi.Registry.registerEventListener(lambda event: self._events.append(Heard(event)), kind)
+
+    @staticmethod
+    def pump():
+        """Lets events come in. Whether there were any."""
+        return GLib.MainContext.default().iteration(False)
+
+    @classmethod
+    def wait_until(cls, condition):
+        """What the condition returns once that is true; raises TimeoutError when it stays false."""
+        deadline = time.monotonic() + PATIENCE
+        while not (result := condition()):
+            if time.monotonic() > deadline:
+                raise TimeoutError
+            if not cls.pump():
+                time.sleep(0.01)
+        return result
+
+    def forget(self):
+        """Drops what was heard until now."""
+        while self.pump():
+            pass
+        self._events.clear()
+
+    def hears(self, kind, name, detail=None):
+        """Waits for an event of that type, like "object:state-changed:checked", from the one with that name.
+
+        It is heard once. Raises AssertionError when it does not come.
+        """
+        def matching():
+            for index, event in enumerate(self._events):
+                if event.type == kind and event.name == name and detail in (None, event.detail):
+                    return self._events.pop(index)
+            return None
+        try:
+            return self.wait_until(matching)
+        except TimeoutError:
+            raise AssertionError(f"{kind} {detail} of {name!r} was not heard, but {self._events}") from None
+
+    def window(self):
+        """The pane's window; waits for it."""
+        def found():
+            for application in pyatspi.Registry.getDesktop(0):
+                if application and application.name == "brimsound" and application.childCount:
+                    return application[0]
+            return None
+        return self.wait_until(found)
+
+    def all(self, role):
+        """All of that role in reading order."""
+        return pyatspi.findAllDescendants(self.window(), lambda one: one.getRole() == role)
+
+    def find(self, role, name):
+        """The one of that role with that name; waits for it."""
+        def found():
+            return next((one for one in self.all(role) if one.name == name), None)
+        try:
+            return self.wait_until(found)
+        except TimeoutError:
+            names = [one.name for one in self.all(role)]
+            raise AssertionError(f"there is no {name!r}, but {names}") from None
+
+    def focused(self):
+        """The innermost that has the keyboard; None when nothing has."""
+        found = pyatspi.findAllDescendants(self.window(), lambda one: has_state(one, pyatspi.STATE_FOCUSED))
+        return found[-1] if found else None
+
+
+def has_state(one, state):
+    # What changed may have been kept from before.
+    one.clearCache()
+    return one.getState().contains(state)
+
+
+def actions(one):
+    action = one.queryAction()
+    return [action.getName(index) for index in range(action.nActions)]
+
+
+def do(one, name):
+    """Has the action of that name done."""
+    one.queryAction().doAction(actions(one).index(name))
+
+
+def value(slider):
+    """Value, minimum, maximum and smallest step of a slider."""
+    slider = slider.queryValue()
+    return (slider.currentValue, slider.minimumValue, slider.maximumValue, slider.minimumIncrement)
