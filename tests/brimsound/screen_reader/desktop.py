@@ -161,6 +161,12 @@ class Pane:
                         "windowfocus", "--sync"], check=True, timeout=PATIENCE)
 
     @staticmethod
+    def deactivate():
+        """Takes the keyboard from the window: it goes to where the pointer is, which is beside it."""
+        pointer_root = "1"
+        subprocess.run(["xdotool", "windowfocus", pointer_root], check=True, timeout=PATIENCE)
+
+    @staticmethod
     def press_keys(*keys):
         """Presses keys on the keyboard, one after the other."""
         subprocess.run(["xdotool", "key", *keys], check=True, timeout=PATIENCE)

@@ -61,17 +61,27 @@ class Reader:
     def hears(self, kind, name, detail=None):
         """Waits for an event of that type, like "object:state-changed:checked", from the one with that name.
 
-        It is heard once. Raises AssertionError when it does not come.
+        It is heard once: it and those before it are dropped. Raises AssertionError when it does not come.
         """
-        def matching():
+        def was_heard():
             for index, event in enumerate(self._events):
                 if event.type == kind and event.name == name and detail in (None, event.detail):
-                    return self._events.pop(index)
-            return None
+                    del self._events[:index + 1]
+                    return True
+            return False
+        self._wait_to_hear(was_heard, f"{kind} {detail} of {name!r}")
+
+    def hears_all(self, kind, names):
+        """Waits for events of that type from all with those names, in any order, and drops nothing."""
+        def were_heard():
+            return set(names) <= {event.name for event in self._events if event.type == kind}
+        self._wait_to_hear(were_heard, f"{kind} of {names}")
+
+    def _wait_to_hear(self, condition, what):
         try:
-            return self.wait_until(matching)
+            self.wait_until(condition)
         except TimeoutError:
-            raise AssertionError(f"{kind} {detail} of {name!r} was not heard, but {self._events}") from None
+            raise AssertionError(f"{what} was not heard, but {self._events}") from None
 
     def window(self):
         """The pane's window; waits for it."""

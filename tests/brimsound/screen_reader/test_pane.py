@@ -4,7 +4,7 @@ import unittest
 import pyatspi
 
 from case import PaneTest
-from reader import actions, do, value
+from reader import actions, do, has_state, value
 
 CAPTIONS = ["Pre", "60", "170", "310", "600", "1K", "3K", "6K", "12K", "14K", "16K"]
 FINISHED = "com.quorvix.brimsound.settingsfinishnotify"
@@ -64,6 +64,17 @@ class ThePane(PaneTest):
             self.assertEqual(self.reader.focused().name, name)
         self.assertNotState(self.reader.window(), pyatspi.STATE_FOCUSED)
 
+    def test_tells_where_the_keyboard_is_when_it_comes_back_to_the_window(self):
+        do(self.reader.find(pyatspi.ROLE_SLIDER, "170"), "SetFocus")
+        self.reader.hears("object:state-changed:focused", "170", 1)
+        self.pane.deactivate()
+        self.reader.wait_until(lambda: not has_state(self.reader.window(), pyatspi.STATE_ACTIVE))
+        self.pane.activate()
+        # First the window, which is Qt's doing, and then what in it has the keyboard.
+        self.reader.hears("object:state-changed:focused", "Brimsound", 1)
+        self.reader.hears("object:state-changed:focused", "170", 1)
+        self.assertEqual(self.reader.focused().name, "170")
+
     def test_tells_of_every_value_that_a_key_sets(self):
         slider = self.reader.find(pyatspi.ROLE_SLIDER, "170")
         do(slider, "SetFocus")
@@ -77,8 +88,7 @@ class ThePane(PaneTest):
         self.pane.write({"PREAMP": -1, "PEAKING_EQ_VALUES": [0] * 9 + [2.5]})
         self.reader.forget()
         self.pane.desktop.post(FINISHED)
-        for name in CAPTIONS:
-            self.reader.hears("object:property-change:accessible-value", name)
+        self.reader.hears_all("object:property-change:accessible-value", CAPTIONS)
         self.assertEqual([value(slider)[0] for slider in self.reader.all(pyatspi.ROLE_SLIDER)],
                          [-1] + [0] * 9 + [2.5])
 
