@@ -34,7 +34,6 @@ FieldEditor::FieldEditor(QWidget& around, UITextField& field)
     peer.hasEditor = true;
     setAccessibleName(QString::fromStdString(peer.accessibleName()));
     setFrame(false);
-    setMaxLength(std::numeric_limits<int>::max());
     if (peer.font)
         setFont(qFont(*peer.font));
     auto colors = palette();
@@ -53,6 +52,11 @@ FieldEditor::~FieldEditor()
     auto& peer = peerOf(*_field);
     peer.hasEditor = false;
     setNeedsDisplay(*_field);
+}
+
+void FieldEditor::liftLengthLimit()
+{
+    setMaxLength(std::numeric_limits<int>::max());
 }
 
 void FieldEditor::follow()

@@ -17,6 +17,10 @@ public:
 
     const UITextField& field() const { return *_field; }
 
+    /// Lets more be typed than Qt's 32,767 characters. Qt tells readers of the caret then: one that hears of
+    /// it before the editor has the keyboard does not say what the field is.
+    void liftLengthLimit();
+
     /// Takes over the field's place and text, as the field has them now.
     void follow();
     /// Whether the editor shows the text. While the field moves or fades it shows the text itself.

@@ -245,6 +245,7 @@ void PaneWidget::lendEditor()
         _editor->show();
         setFocusProxy(_editor.get());
         _editor->setFocus();
+        _editor->liftLengthLimit();
     }
 }
 

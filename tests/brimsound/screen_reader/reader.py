@@ -33,7 +33,7 @@ class Reader:
         self._events = []
         for kind in ("object:state-changed:checked", "object:state-changed:focused",
                      "object:state-changed:showing", "object:property-change:accessible-value",
-                     "object:text-changed:insert"):
+                     "object:text-changed:insert", "object:text-caret-moved"):
             pyatspi.Registry.registerEventListener(lambda event: self._events.append(Heard(event)), kind)
 
     @staticmethod

@@ -95,7 +95,9 @@ class AUserWhoHears(PaneTest):
 
     def test_saves_a_preset_and_chooses_it_again(self):
         do(self.open_presets(), "Press")
+        # Only after it: a reader that hears of the caret first does not say what the field is.
         self.reader.hears("object:state-changed:focused", "Name", 1)
+        self.reader.hears("object:text-caret-moved", "Name")
         field = self.reader.find(pyatspi.ROLE_TEXT, "Name")
         self.assertState(field, pyatspi.STATE_EDITABLE, pyatspi.STATE_FOCUSED)
         self.pane.press_keys("M", "y")
