@@ -184,7 +184,7 @@ TEST_F(LettingGoOfASlider, WritesTheFileThenTellsEveryoneOnce)
     pane.drag(3, 4.5f);
     pane.lift(3);
     EXPECT_THAT(pane.trace(), ElementsAre(equalizerSend, equalizerSend, writesFile, postsFinished));
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("PEAKING_EQ_VALUES", "PRESETS", "PREAMP"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "PEAKING_EQ_VALUES", "PRESETS", "PREAMP" }));
     EXPECT_THAT(
         floatsIn(storedPreferences(), "PEAKING_EQ_VALUES"), ElementsAre(0, 0, 4.5f, 0, 0, 0, 0, 0, 0, 0));
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
@@ -240,9 +240,9 @@ TEST_F(LettingGoOfASlider, KeepsTheSelectedPresetForThePreampAndDropsItForABand)
     store({ { "SELECTED_PRESET", "Rock" }, { "ENABLED", false } });
     const Pane pane(platform);
     pane.lift(0);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("SELECTED_PRESET", "ENABLED", "PREAMP"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "SELECTED_PRESET", "ENABLED", "PREAMP" }));
     pane.lift(3);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("ENABLED", "PREAMP"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "ENABLED", "PREAMP" }));
     EXPECT_EQ(*storedPreferences().find("ENABLED"), PropertyList(false));
 }
 
@@ -252,7 +252,7 @@ TEST_F(LettingGoOfASlider, StoresNoGainsInAFileThatHasNone)
     const Pane pane(platform);
     pane.drag(3, 4.5f);
     pane.lift(3);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("ENABLED", "PREAMP"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "ENABLED", "PREAMP" }));
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
 }
 

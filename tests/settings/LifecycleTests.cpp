@@ -130,6 +130,7 @@ TEST_F(ClosingThePane, LetsGoOfEverythingItHeld)
     };
     // The content view and this test hold one each; the lists are still the cell's.
     controller = nullptr;
+    platform.endTurn();
     EXPECT_THAT(counts(), ElementsAre(3, 3, 2, 1));
 }
 

@@ -122,4 +122,11 @@ std::vector<std::string> keysOf(const PropertyList::Dictionary& dictionary)
     return keys;
 }
 
+testing::Matcher<std::vector<std::string>> areKeys(const std::vector<std::string>& keys)
+{
+    if (TestPlatform::dictionariesKeepTheirOrder)
+        return testing::ElementsAreArray(keys);
+    return testing::UnorderedElementsAreArray(keys);
+}
+
 } // namespace brimsound::tests

@@ -4,6 +4,8 @@
 #include "settings/BrimsoundSettings.h"
 #include "tests/settings/TestPlatform.h"
 
+#include <gmock/gmock.h>
+
 #include <string>
 #include <vector>
 
@@ -64,5 +66,7 @@ PropertyList::Dictionary storedPreferences();
 /// The gains array under the key; empty when there is none.
 std::vector<float> floatsIn(const PropertyList::Dictionary&, const std::string& key);
 std::vector<std::string> keysOf(const PropertyList::Dictionary&);
+/// Matches those keys of a dictionary, in that order where dictionaries have one.
+testing::Matcher<std::vector<std::string>> areKeys(const std::vector<std::string>&);
 
 } // namespace brimsound::tests

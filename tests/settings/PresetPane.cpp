@@ -6,6 +6,12 @@
 
 namespace brimsound::tests {
 
+std::size_t rowOf(const std::string& name, const PlaylistSaver& panel)
+{
+    const auto names = keysOf(panel.presetDict());
+    return static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
+}
+
 PresetPane::PresetPane(TestPlatform& platform, CGSize window)
     : _platform(platform)
     , _controller(openController(window.width))
@@ -28,16 +34,7 @@ RetainPtr<UITableViewCell> PresetPane::cell(const NSIndexPath& indexPath) const
 
 std::vector<std::string> PresetPane::names() const
 {
-    std::vector<std::string> names;
-    for (const auto& entry : panel().presetDict())
-        names.push_back(entry.key);
-    return names;
-}
-
-std::size_t PresetPane::rowOf(const std::string& name) const
-{
-    const auto all = names();
-    return static_cast<std::size_t>(std::ranges::find(all, name) - all.begin());
+    return keysOf(panel().presetDict());
 }
 
 void PresetPane::choose(const std::string& name) const

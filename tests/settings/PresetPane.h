@@ -10,6 +10,9 @@
 
 namespace brimsound::tests {
 
+/// Where the preset is in the panel's list; behind all others where it is not.
+std::size_t rowOf(const std::string& name, const PlaylistSaver&);
+
 /// Opens a pane in the platform's window, sliders and all. Gestures on the panel go through its data source
 /// and delegate methods, as a table calls them.
 class PresetPane {
@@ -31,7 +34,7 @@ public:
 
     /// The names in the list, in its order.
     std::vector<std::string> names() const;
-    std::size_t rowOf(const std::string& name) const;
+    std::size_t rowOf(const std::string& name) const { return tests::rowOf(name, panel()); }
     /// A row's cell, asked for anew.
     RetainPtr<UITableViewCell> cell(const NSIndexPath&) const;
     RetainPtr<UITableViewCell> cellNamed(const std::string& name) const { return cell({ 1, rowOf(name) }); }

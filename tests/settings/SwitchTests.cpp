@@ -101,7 +101,7 @@ TEST_F(ASwitch, ForTheEqualizerWritesTheFileAndOffersARespring)
     call("setEnabled:", false);
     EXPECT_THAT(platform.takeTrace(),
         ElementsAre(writesFile, showsAlert("In order to disable the equalizer, you will need to respring.")));
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("PEAKING_EQ_VALUES", "PRESETS", "ENABLED"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "PEAKING_EQ_VALUES", "PRESETS", "ENABLED" }));
     EXPECT_EQ(*storedPreferences().find("ENABLED"), PropertyList(false));
     platform.answerAlert(0);
 
@@ -161,7 +161,7 @@ TEST_F(ASwitch, KeepsWhatElseTheFileHolds)
     platform.writePreferencesFile(
         PropertyList(PropertyList::Dictionary { { "SELECTED_PRESET", "Rock" }, { "PREAMP", 2.5f } }));
     call("setFilterDisabled:", true);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("SELECTED_PRESET", "PREAMP", "FILTER_DISABLED"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "SELECTED_PRESET", "PREAMP", "FILTER_DISABLED" }));
 }
 
 TEST_F(ASwitch, ForAutoPreampCountsForTheOpenPaneAtOnce)

@@ -20,6 +20,9 @@ public:
     TestPlatform& operator=(const TestPlatform&) = delete;
     ~TestPlatform();
 
+    /// Whether dictionaries have the order of the file and of insertion; else they have one of their own.
+    static const bool dictionariesKeepTheirOrder;
+
     /// What the pane did to the outside world since the last call, in order: "message NAME" ("message NAME
     /// failed"), "post NAME", "deliver NAME", "write PATH", "log TEXT".
     std::vector<std::string> takeTrace();
@@ -30,6 +33,8 @@ public:
     void deliverNotifications();
     void postFromAnotherProcess(const std::string& name);
 
+    /// Ends a turn of the main loop, at which objects are let go of that were to last for the turn.
+    void endTurn();
     /// Lets time pass for whatever moves.
     void passTime(double seconds);
 

@@ -62,6 +62,8 @@ struct TestPlatform::Device {
     RecordingEffects effects;
 };
 
+const bool TestPlatform::dictionariesKeepTheirOrder = true;
+
 TestPlatform::TestPlatform()
     : _device(std::make_unique<Device>())
 {
@@ -93,6 +95,8 @@ void TestPlatform::postFromAnotherProcess(const std::string& name)
 {
     _device->bus.postFromAnotherProcess(name);
 }
+
+void TestPlatform::endTurn() { }
 
 void TestPlatform::passTime(double seconds)
 {

@@ -106,11 +106,13 @@ struct TestPlatform::Device {
 
     std::filesystem::path file() const { return root.path() / std::string(preferencesPath).substr(1); }
 
-    Turn turn;
+    std::optional<Turn> turn { std::in_place };
     TemporaryFolder root;
     std::optional<NoDescriptors> noDescriptors;
     UIWindow* window = [[UIWindow alloc] initWithFrame:ios::native(CGRect { {}, { 320, 568 } })];
 };
+
+const bool TestPlatform::dictionariesKeepTheirOrder = false;
 
 TestPlatform::TestPlatform()
     : _device(std::make_unique<Device>())
@@ -141,6 +143,12 @@ void TestPlatform::deliverNotifications()
 void TestPlatform::postFromAnotherProcess(const std::string& name)
 {
     doubles::postFromAnotherProcess(name);
+}
+
+void TestPlatform::endTurn()
+{
+    _device->turn.reset();
+    _device->turn.emplace();
 }
 
 void TestPlatform::passTime(double seconds)

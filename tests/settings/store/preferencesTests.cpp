@@ -18,7 +18,7 @@ protected:
     void expectFresh(const char* situation)
     {
         const auto preferences = get_preferences();
-        EXPECT_THAT(keysOf(preferences), ElementsAre("PEAKING_EQ_VALUES", "PRESETS")) << situation;
+        EXPECT_THAT(keysOf(preferences), areKeys({ "PEAKING_EQ_VALUES", "PRESETS" })) << situation;
         EXPECT_EQ(floatsIn(preferences, "PEAKING_EQ_VALUES"), std::vector<float>(10, 0.0f)) << situation;
         for (const auto& gain : *preferences.find("PEAKING_EQ_VALUES")->asArray())
             EXPECT_TRUE(gain.asReal()) << situation;
@@ -104,7 +104,7 @@ TEST_F(WritingThePreferences, MakesTheFileWithWhatFreshOnesHoldAndTheChange)
     auto preferences = get_preferences();
     preferences.set("ENABLED", false);
     write_preferences(preferences);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("PEAKING_EQ_VALUES", "PRESETS", "ENABLED"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "PEAKING_EQ_VALUES", "PRESETS", "ENABLED" }));
     EXPECT_THAT(platform.takeTrace(), ElementsAre(writesFile));
 }
 
@@ -140,7 +140,7 @@ TEST_F(WritingThePreferences, ReplacesAnUnreadableFileByFreshOnes)
     auto preferences = get_preferences();
     preferences.set("ENABLED", true);
     write_preferences(preferences);
-    EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("PEAKING_EQ_VALUES", "PRESETS", "ENABLED"));
+    EXPECT_THAT(keysOf(storedPreferences()), areKeys({ "PEAKING_EQ_VALUES", "PRESETS", "ENABLED" }));
 }
 
 } // namespace
