@@ -1,0 +1,50 @@
+// Formatted text as the device's Foundation makes it: with a decimal point in every language.
+#import <Foundation/Foundation.h>
+#import <objc/runtime.h>
+
+#include <clocale>
+#include <cstdarg>
+
+namespace {
+
+/// The C library's own language, for this thread and as long as it lives.
+class NoLanguage {
+public:
+    NoLanguage() = default;
+    NoLanguage(const NoLanguage&) = delete;
+    NoLanguage& operator=(const NoLanguage&) = delete;
+    ~NoLanguage()
+    {
+        uselocale(_before);
+        freelocale(_none);
+    }
+
+private:
+    locale_t _none = newlocale(LC_ALL_MASK, "C", nullptr);
+    locale_t _before = uselocale(_none);
+};
+
+NSString* stringWithFormat(id self, SEL, NSString* format, ...)
+{
+    const NoLanguage language;
+    va_list arguments;
+    va_start(arguments, format);
+    NSString* text = [[[self alloc] initWithFormat:format arguments:arguments] autorelease];
+    va_end(arguments);
+    return text;
+}
+
+} // namespace
+
+@interface Formatting : NSObject
+@end
+
+@implementation Formatting
+
++ (void)load
+{
+    const Method method = class_getClassMethod([NSString class], @selector(stringWithFormat:));
+    method_setImplementation(method, reinterpret_cast<IMP>(stringWithFormat));
+}
+
+@end
