@@ -59,6 +59,8 @@ std::vector<float> storedGains(const std::string& name)
 
 class ThePresetList : public testing::Test {
 protected:
+    ThePresetList() { _notificationsToSkip = 0; }
+
     void storePresets(const PropertyList& presets) { store(preferencesWithPresets(presets)); }
     void store(const PropertyList::Dictionary& preferences) { platform.writePreferencesFile(preferences); }
 

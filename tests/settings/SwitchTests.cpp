@@ -21,6 +21,7 @@ class Switch : public testing::Test {
 protected:
     Switch()
     {
+        _notificationsToSkip = 0;
         _versionBefore = kCFCoreFoundationVersionNumber;
         platform.takeTrace();
     }
