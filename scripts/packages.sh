@@ -12,6 +12,7 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
     locales python3 xvfb xdotool
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
+    libgnustep-base-dev libpng-dev
 )
 # What the benchmarks take besides those that run the pane.
 bench_packages=(libbenchmark-dev libcairo2-dev python3 xvfb)
