@@ -82,6 +82,8 @@ void BrimsoundSettingsListController::buildSliders(BRSliderCell& cell, CGFloat s
             updateSliderColor(*slider);
         }
 
+        slider->setAccessibilityLabel(*FREQUENCY_STRS[i]);
+
         auto label = make<UILabel>();
         label->setText(*FREQUENCY_STRS[i]);
         label->setTextAlignment(NSTextAlignment::Center);

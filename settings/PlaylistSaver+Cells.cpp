@@ -109,6 +109,8 @@ void PlaylistSaver::showPreset(UITableViewCell& cell, std::size_t row) const
 void PlaylistSaver::showCurves(UITableViewCell& cell, const TenGains& gains, bool isSelected) const
 {
     auto& background = static_cast<SBEqualizerBackgroundView&>(*cell.backgroundView());
+    // What the curve tells the eye.
+    cell.setAccessibilityTraits(isSelected ? UIAccessibilityTraitSelected : UIAccessibilityTraitNone);
     background.setSaturation(paleSaturation + addedSaturation * static_cast<float>(isSelected));
     if (auto* pressedCurve = pressedCurveOf(cell)) {
         pressedCurve->setColor(_blackBarColor);

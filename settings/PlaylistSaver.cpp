@@ -79,6 +79,7 @@ PlaylistSaver::PlaylistSaver(PlaylistSaverDelegate& delegate)
     _tableView
         = make<UITableView>(CGRectMake(0, 0, panel.width, panel.height - barHeight), UITableViewStyle::Plain);
     _tableView->setSeparatorColor(UIColor::clearColor());
+    _tableView->setAccessibilityLabel(localized("Presets", "Presets"));
     _tableView->setDelegate(this);
     _tableView->setDataSource(this);
 
@@ -152,6 +153,7 @@ void PlaylistSaver::buildNameStrip()
     newPlaylistField->setKeyboardAppearance(UIKeyboardAppearance::Dark);
     newPlaylistField->setFont(boldFont());
     newPlaylistField->setTextColor(UIColor::blackColor());
+    newPlaylistField->setAccessibilityLabel(localized("NAME", "Name"));
     newPlaylistField->setDelegate(this);
     newPlaylistField->setReturnKeyType(UIReturnKeyType::Done);
     newPlaylistField->setAutocapitalizationType(UITextAutocapitalizationType::Words);

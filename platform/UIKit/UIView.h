@@ -4,9 +4,11 @@
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/Foundation/NSObject.h"
 #include "platform/QuartzCore/CALayer.h"
+#include "platform/UIKit/UIAccessibility.h"
 #include "platform/UIKit/UIColor.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace brimsound {
@@ -58,6 +60,13 @@ public:
     void setTag(long);
     /// The view itself or the first one in it, depth first, that has the tag; null when there is none.
     UIView* viewWithTag(long);
+
+    /// What a screen reader calls the view; empty (as at first) for one that says so itself.
+    std::string accessibilityLabel() const;
+    void setAccessibilityLabel(const std::string&);
+    /// At first none.
+    UIAccessibilityTraits accessibilityTraits() const;
+    void setAccessibilityTraits(UIAccessibilityTraits);
 
     /// Whether the view can be what the keyboard types into; here it cannot.
     virtual bool canBecomeFirstResponder() const { return false; }

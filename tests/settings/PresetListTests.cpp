@@ -279,6 +279,18 @@ TEST_F(ARow, OfTheSelectedPresetHasAStrongerCurve)
     EXPECT_THAT(saturationsOf(backgroundCurve(*pane.cell({ 0, 0 }))), Each(DoubleNear(0.1, 1e-6)));
 }
 
+TEST_F(ARow, TellsAScreenReaderWhichPresetIsSelected)
+{
+    auto preferences = preferencesWithPresets(twoPresets());
+    preferences.set(selectedPresetKey, "Yours");
+    store(preferences);
+    const PresetPane pane(platform);
+    pane.showPresets();
+    EXPECT_EQ(pane.cellNamed("Yours")->accessibilityTraits(), UIAccessibilityTraitSelected);
+    EXPECT_EQ(pane.cellNamed("Mine")->accessibilityTraits(), UIAccessibilityTraitNone);
+    EXPECT_EQ(pane.cell({ 0, 0 })->accessibilityTraits(), UIAccessibilityTraitNone);
+}
+
 TEST_F(ARow, IsNotSelectedForANameThatOnlyLooksAlike)
 {
     auto preferences = preferencesWithPresets(twoPresets());

@@ -187,6 +187,8 @@ TEST_F(ThePanel, HasItsLooks)
     EXPECT_EQ(views.field.font()->pointSize(), 18);
     EXPECT_EQ(componentsOf(views.field.textColor()), black);
     EXPECT_EQ(views.field.keyboardAppearance(), UIKeyboardAppearance::Dark);
+    EXPECT_EQ(views.field.accessibilityLabel(), "Name");
+    EXPECT_EQ(pane.list().accessibilityLabel(), "Presets");
     EXPECT_EQ(views.field.returnKeyType(), UIReturnKeyType::Done);
     EXPECT_EQ(views.field.autocapitalizationType(), UITextAutocapitalizationType::Words);
     EXPECT_EQ(componentsOf(pane.list().separatorColor())[3], 0);

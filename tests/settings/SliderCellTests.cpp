@@ -92,6 +92,7 @@ TEST_F(TheSliderRow, CaptionsEverySlider)
         ElementsAre("Pre", "60", "170", "310", "600", "1K", "3K", "6K", "12K", "14K", "16K"));
     for (std::size_t i = 0; i < 11; ++i) {
         const auto& label = pane.label(i);
+        EXPECT_EQ(pane.slider(i).accessibilityLabel(), label.text());
         EXPECT_EQ(label.textAlignment(), NSTextAlignment::Center);
         EXPECT_EQ(label.font()->pointSize(), 10);
         EXPECT_EQ(label.font()->fontName(), UILabel().font()->fontName());

@@ -95,7 +95,7 @@ TEST_F(ThePane, HasEveryTextInTheStringsTable)
     const auto bundle = NSBundle::bundleForClass("BrimsoundSettingsListController");
     const auto plist = readPropertyListFile(bundle.pathForResource("BrimsoundSettings", "plist").value());
     ASSERT_TRUE(plist && plist->asDictionary());
-    std::vector<std::string> keys { "PRE", "SAVE", "CANCEL",
+    std::vector<std::string> keys { "PRE", "SAVE", "CANCEL", "NAME",
         *plist->asDictionary()->find("title")->asString() };
     for (const auto& item : *plist->asDictionary()->find("items")->asArray()) {
         for (const auto* key : { "label", "footerText" }) {

@@ -32,7 +32,7 @@ FieldEditor::FieldEditor(QWidget& around, UITextField& field)
 {
     auto& peer = peerOf(field);
     peer.hasEditor = true;
-    setAccessibleName(QString::fromStdString(peer.accessibleName()));
+    setAccessibleName(QString::fromStdString(peer.accessibilityLabel));
     setFrame(false);
     if (peer.font)
         setFont(qFont(*peer.font));

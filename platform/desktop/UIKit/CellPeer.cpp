@@ -177,7 +177,7 @@ Accessible CellPeer::accessible() const
     if (selectionStyle == UITableViewCellSelectionStyle::None || !textLabel)
         return {};
     Accessible self { .role = AccessibleRole::Button, .name = textLabel->text(), .focusable = true };
-    self.selected = isSelected;
+    self.selected = isSelected || (accessibilityTraits & UIAccessibilityTraitSelected) != 0;
     if (const auto* table = dynamic_cast<const UITableView*>(superview)) {
         const auto& tablePeer = peerOf(*table);
         if (tablePeer.style == UITableViewStyle::Plain)

@@ -278,6 +278,7 @@ Accessible TablePeer::accessible() const
     }
     const bool grouped = style == UITableViewStyle::Grouped;
     return { .role = grouped ? AccessibleRole::Table : AccessibleRole::List,
+        .name = accessibilityLabel,
         .description = texts,
         .focusable = !grouped && !cells.empty() };
 }

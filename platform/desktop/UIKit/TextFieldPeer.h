@@ -31,9 +31,6 @@ struct TextFieldPeer : ControlPeer {
     void draw(Canvas&) const override;
     Accessible accessible() const override;
 
-    /// What to call the field, with or without its editor.
-    std::string accessibleName() const;
-
     UITextField& field() const { return static_cast<UITextField&>(*view); }
     /// Puts the text where the caret is: at the end.
     void type(const std::string&);

@@ -122,7 +122,9 @@ Accessible SliderPeer::accessible() const
     // Rounded, and without the sign of a zero, which would read "-0.0".
     const double shown = std::round(static_cast<double>(value) * 10) / 10 + 0.0;
     return { .role = AccessibleRole::Slider,
-        .name = held ? heldCaption : captionOf(slider),
+        .name = !accessibilityLabel.empty() ? accessibilityLabel
+            : held                          ? heldCaption
+                                            : captionOf(slider),
         // Readers that take the number, not the words, say this after it.
         .description = "dB",
         .value = stringWithFormat("%.1f", shown) + " dB",

@@ -64,18 +64,14 @@ void TextFieldPeer::draw(Canvas& canvas) const
     canvas.restore();
 }
 
-std::string TextFieldPeer::accessibleName() const
-{
-    // No label says what belongs in. What has all its words capitalized is the name of something.
-    return autocapitalizationType == UITextAutocapitalizationType::Words ? "Name" : "";
-}
-
 Accessible TextFieldPeer::accessible() const
 {
     // The editor speaks for itself.
     if (hasEditor)
         return {};
-    return { .role = AccessibleRole::TextField, .name = accessibleName(), .value = text, .focusable = true };
+    return {
+        .role = AccessibleRole::TextField, .name = accessibilityLabel, .value = text, .focusable = true
+    };
 }
 
 } // namespace desktop

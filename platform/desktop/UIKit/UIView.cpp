@@ -199,6 +199,26 @@ void UIView::setTag(long tag)
     peerOf(*this).tag = tag;
 }
 
+std::string UIView::accessibilityLabel() const
+{
+    return peerOf(*this).accessibilityLabel;
+}
+
+void UIView::setAccessibilityLabel(const std::string& label)
+{
+    peerOf(*this).accessibilityLabel = label;
+}
+
+UIAccessibilityTraits UIView::accessibilityTraits() const
+{
+    return peerOf(*this).accessibilityTraits;
+}
+
+void UIView::setAccessibilityTraits(UIAccessibilityTraits traits)
+{
+    peerOf(*this).accessibilityTraits = traits;
+}
+
 UIView* UIView::viewWithTag(long tag)
 {
     if (this->tag() == tag)

@@ -38,6 +38,8 @@ struct ViewPeer : Peer {
     bool needsLayout = true;
     bool userInteractionEnabled = true;
     long tag = 0;
+    std::string accessibilityLabel;
+    UIAccessibilityTraits accessibilityTraits = UIAccessibilityTraitNone;
     /// Null while the view looks as it is.
     std::shared_ptr<Animation> animation;
 

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIView.h"
 
 #include "platform/ios/CoreGraphics/Geometry.h"
+#include "platform/ios/Foundation/NativeText.h"
 #include "platform/ios/UIKit/NativeView.h"
 
 #include <cmath>
@@ -211,6 +212,27 @@ long UIView::tag() const
 void UIView::setTag(long tag)
 {
     [nativeView(*this) setTag:tag];
+}
+
+std::string UIView::accessibilityLabel() const
+{
+    return ios::textOf([nativeView(*this) accessibilityLabel]);
+}
+
+void UIView::setAccessibilityLabel(const std::string& label)
+{
+    // None, and not an empty one, has the platform find a label itself.
+    [nativeView(*this) setAccessibilityLabel:label.empty() ? nil : ios::nativeText(label)];
+}
+
+UIAccessibilityTraits UIView::accessibilityTraits() const
+{
+    return [nativeView(*this) accessibilityTraits];
+}
+
+void UIView::setAccessibilityTraits(UIAccessibilityTraits traits)
+{
+    [nativeView(*this) setAccessibilityTraits:traits];
 }
 
 UIView* UIView::viewWithTag(long tag)

@@ -70,6 +70,7 @@ class AUserWhoHears(PaneTest):
         window = self.reader.window()
         self.assertEqual([child.getRole() for child in window],
                          [pyatspi.ROLE_LIST, pyatspi.ROLE_PUSH_BUTTON])
+        self.assertEqual(window[0].name, "Presets")
         rows = list(window[0])
         self.assertEqual([row.name for row in rows][:4], ["Save", *BUILT_IN])
         for row in rows:
@@ -115,6 +116,13 @@ class AUserWhoHears(PaneTest):
         self.wait_for_gains([0, 1, 2] + [0] * 8)
         self.reader.wait_until(lambda: self.pane.preferences().get("SELECTED_PRESET") == "My")
         self.assertEqual(self.pane.preferences()["PEAKING_EQ_VALUES"], [1, 2] + [0] * 8)
+
+    def test_tells_which_preset_was_chosen(self):
+        self.choose("Full bass")
+        self.open_presets()
+        for row in list(self.reader.all(pyatspi.ROLE_LIST)[0]):
+            selected = row.getState().contains(pyatspi.STATE_SELECTED)
+            self.assertEqual(selected, row.name == "Full bass", row.name)
 
     def choose(self, preset):
         self.open_presets()

@@ -320,7 +320,7 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
 {
     const auto field = make<UITextField>(CGRectMake(5, 100, 200, 30));
     field->setText("Rock");
-    field->setAutocapitalizationType(UITextAutocapitalizationType::Words);
+    field->setAccessibilityLabel("Name");
     window->addSubview(*field);
     ASSERT_EQ(root().childCount(), 3);
     auto& interface = *root().child(2);

@@ -272,6 +272,26 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
     _viewState->tag = tag;
 }
 
+- (NSString*)accessibilityLabel
+{
+    return _viewState->accessibilityLabel;
+}
+
+- (void)setAccessibilityLabel:(NSString*)label
+{
+    assignCopied(_viewState->accessibilityLabel, label);
+}
+
+- (UIAccessibilityTraits)accessibilityTraits
+{
+    return _viewState->accessibilityTraits;
+}
+
+- (void)setAccessibilityTraits:(UIAccessibilityTraits)traits
+{
+    _viewState->accessibilityTraits = traits;
+}
+
 - (UIView*)viewWithTag:(NSInteger)tag
 {
     if (_viewState->tag == tag)

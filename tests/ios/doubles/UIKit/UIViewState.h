@@ -18,6 +18,9 @@ struct UIViewState {
     CALayer* layer = nil;
     CGFloat alpha = 1;
     NSInteger tag = 0;
+    /// Retained.
+    NSString* accessibilityLabel = nil;
+    UIAccessibilityTraits accessibilityTraits = 0;
     bool isHidden = false;
     bool clipsToBounds = false;
     bool isUserInteractionEnabled = true;

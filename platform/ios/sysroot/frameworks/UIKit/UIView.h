@@ -8,6 +8,8 @@
 @class UIColor;
 @class UIWindow;
 
+typedef uint64_t UIAccessibilityTraits;
+
 @interface UIView : UIResponder
 #if defined(GNUSTEP)
 {
@@ -38,6 +40,9 @@
 @property (nonatomic) BOOL clipsToBounds;
 @property (nonatomic, getter=isUserInteractionEnabled) BOOL userInteractionEnabled;
 @property (nonatomic, readonly, retain) CALayer* layer;
+
+@property (nonatomic, copy) NSString* accessibilityLabel;
+@property (nonatomic) UIAccessibilityTraits accessibilityTraits;
 
 @property (nonatomic) NSInteger tag;
 - (UIView*)viewWithTag:(NSInteger)tag;
