@@ -13,7 +13,7 @@ namespace brimsound::desktop {
 namespace {
 
 // In bytes without the line feed. A file without line feeds may have no end either.
-constexpr qint64 longestLine = 64 * 1024;
+constexpr qint64 longestLine = qint64 { 64 } * 1024;
 
 } // namespace
 
