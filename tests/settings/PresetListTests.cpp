@@ -24,7 +24,8 @@ PropertyList::Array rising()
 
 PropertyList::Array level(float gain)
 {
-    return PropertyList::Array(10, gain);
+    PropertyList::Array gains(10, gain);
+    return gains;
 }
 
 PropertyList::Dictionary twoPresets()

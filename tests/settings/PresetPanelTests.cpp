@@ -10,7 +10,6 @@ namespace {
 
 using testing::Contains;
 using testing::DoubleNear;
-using testing::ElementsAre;
 
 using Components = std::array<CGFloat, 4>;
 

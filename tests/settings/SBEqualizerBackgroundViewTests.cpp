@@ -3,9 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <numeric>
 
@@ -332,7 +332,7 @@ TEST(TheGainsOfACurve, AreACopyOfItsOwn)
         view->setGains(gains.data());
         gains.fill(12);
     }
-    EXPECT_EQ(std::memcmp(view->gains(), rising.data(), sizeof rising), 0);
+    EXPECT_TRUE(std::equal(rising.begin(), rising.end(), view->gains()));
     view->setFrame(CGRectMake(0, 0, 100, 100));
     EXPECT_EQ(view->subviews()[4]->frame().size.height, 50);
 }
@@ -352,7 +352,7 @@ TEST(TheGainsOfACurve, KeepTheirBufferUntilTheyAreSetToNull)
     view->setGains(nullptr);
     EXPECT_EQ(view->gains(), nullptr);
     view->setGains(rising.data());
-    EXPECT_EQ(std::memcmp(view->gains(), rising.data(), sizeof rising), 0);
+    EXPECT_TRUE(std::equal(rising.begin(), rising.end(), view->gains()));
 }
 
 TEST(TheGainsOfACurve, SetToTheBufferItselfAreLaidOutAgain)
@@ -373,7 +373,7 @@ TEST(TheGainsOfACurve, OutliveTheViewForWhomeverTheyWereHandedTo)
     auto view = curve(rising.data());
     const auto* const buffer = view->gains();
     view = nullptr;
-    EXPECT_EQ(std::memcmp(buffer, rising.data(), sizeof rising), 0);
+    EXPECT_TRUE(std::equal(rising.begin(), rising.end(), buffer));
 }
 
 TEST(TheBarsOfACurve, AreMadeOnce)
@@ -437,7 +437,7 @@ TEST(AnimatedGains, AreStoredAtOnce)
     TestPlatform platform;
     const auto view = curve();
     view->setGainsAnimated(rising.data(), Animated::Yes);
-    EXPECT_EQ(std::memcmp(view->gains(), rising.data(), sizeof rising), 0);
+    EXPECT_TRUE(std::equal(rising.begin(), rising.end(), view->gains()));
     view->setGainsAnimated(nullptr, Animated::Yes);
     EXPECT_EQ(view->gains(), nullptr);
     platform.passTime(1);
