@@ -42,15 +42,16 @@ TEST_F(ThePrincipalClass, AnswersEverySelector)
 {
     PSListController* controller = open();
     for (const char* selector : { "initForContentSize:", "gotNotification", "specifiers",
-             "tableView:cellForRowAtIndexPath:", "updateSliderColor:", "sendToMediaServer", "sliderChanged:",
-             "sliderStopped:", "reportIssue:", "mailComposeController:didFinishWithResult:error:",
-             "updateBlackBar", "showActivator:", "tableView:heightForRowAtIndexPath:",
-             "setPreferenceValue:specifier:", "readPreferenceValue:", "visitWebsite:", "showPresets:",
-             "playlistSaver:selectedPreset:", "visitTwitter:", "respring:", "showAlertViewWithMessage:",
-             "enabled", "setEnabled:", "enabledCC", "setEnabledCC:", "varDisabled:", "varEnabled:",
-             "setVar:value:", "autoPreamp", "setAutoPreamp:", "filterDisabled", "setFilterDisabled:",
-             "checkingDisabled", "setCheckingDisabled:", "alertView:clickedButtonAtIndex:", "writeSettings",
-             "sendSettings", "suspend", "dealloc", "settings", "setSettings:" })
+             "tableView:cellForRowAtIndexPath:", "updateSliderColor:", "sendToMediaServer",
+             "sliderChanged:", "sliderStopped:", "reportIssue:",
+             "mailComposeController:didFinishWithResult:error:", "updateBlackBar",
+             "showActivator:", "tableView:heightForRowAtIndexPath:", "setPreferenceValue:specifier:",
+             "readPreferenceValue:", "visitWebsite:", "showPresets:", "playlistSaver:selectedPreset:",
+             "visitTwitter:", "respring:", "showAlertViewWithMessage:", "enabled", "setEnabled:", "enabledCC",
+             "setEnabledCC:", "varDisabled:", "varEnabled:", "setVar:value:", "autoPreamp",
+             "setAutoPreamp:", "filterDisabled", "setFilterDisabled:", "checkingDisabled",
+             "setCheckingDisabled:", "alertView:clickedButtonAtIndex:", "writeSettings", "sendSettings",
+             "suspend", "dealloc", "settings", "setSettings:" })
         EXPECT_TRUE([controller respondsToSelector:sel_registerName(selector)]) << selector;
     [controller release];
 }
@@ -61,7 +62,7 @@ TEST_F(ThePrincipalClass, AnswersWhatItsSpecifiersName)
     int named = 0;
     for (PSSpecifier* specifier in [controller specifiers]) {
         EXPECT_EQ([specifier target], controller);
-        for (NSString* key in [NSArray arrayWithObjects:@"get", @"set", @"action", nil]) {
+        for (NSString *key in [NSArray arrayWithObjects:@"get", @"set", @"action", nil]) {
             const auto selector = selectorIn(specifier, key);
             if (selector.empty())
                 continue;

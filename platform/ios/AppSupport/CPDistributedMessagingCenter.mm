@@ -27,9 +27,10 @@ PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveRepl
     const std::string& name, const PropertyList::Dictionary& userInfo, std::optional<NSError>& error)
 {
     ::NSError* nativeError = nil;
-    ::NSDictionary* reply = [ios::nativeOf(*this) sendMessageAndReceiveReplyName:ios::nativeText(name)
-                                                                        userInfo:ios::nativeDictionary(userInfo)
-                                                                           error:&nativeError];
+    ::NSDictionary* reply =
+        [ios::nativeOf(*this) sendMessageAndReceiveReplyName:ios::nativeText(name)
+                                                    userInfo:ios::nativeDictionary(userInfo)
+                                                       error:&nativeError];
     if (nativeError) {
         error = ios::errorOf(nativeError);
         return {};

@@ -27,8 +27,8 @@ struct Observer {
 }
 
 /// The native observer is ours; the product's is in it.
-void delivered(::CFNotificationCenterRef center, void* observer, ::CFStringRef name, const void*,
-    ::CFDictionaryRef)
+void delivered(
+    ::CFNotificationCenterRef center, void* observer, ::CFStringRef name, const void*, ::CFDictionaryRef)
 {
     const auto* ours = static_cast<const Observer*>(observer);
     const auto text = ios::textOf((::NSString*)name);
@@ -56,8 +56,7 @@ void CFNotificationCenterPostNotification(CFNotificationCenterRef center, const 
     const void* object, const PropertyList::Dictionary* userInfo, bool deliverImmediately)
 {
     ::CFNotificationCenterPostNotification(nativeOf(center), nativeName(name), object,
-        userInfo ? (::CFDictionaryRef)ios::nativeDictionary(*userInfo) : NULL,
-        deliverImmediately);
+        userInfo ? (::CFDictionaryRef)ios::nativeDictionary(*userInfo) : NULL, deliverImmediately);
 }
 
 } // namespace brimsound

@@ -10,7 +10,8 @@ using ios::textOf;
 NSBundle NSBundle::bundleForClass(std::string_view className)
 {
     Class native = NSClassFromString(nativeText(className));
-    return NSBundle(textOf([native ? [::NSBundle bundleForClass:native] : [::NSBundle mainBundle] bundlePath]));
+    return NSBundle(
+        textOf([native ? [::NSBundle bundleForClass:native] : [::NSBundle mainBundle] bundlePath]));
 }
 
 NSBundle::NSBundle(std::string path)

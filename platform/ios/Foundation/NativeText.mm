@@ -10,8 +10,7 @@ std::string textOf(::NSString* native)
 
 ::NSString* nativeText(std::string_view text)
 {
-    return [[[::NSString alloc] initWithBytes:text.data()
-                                       length:text.size()
+    return [[[::NSString alloc] initWithBytes:text.data() length:text.size()
                                      encoding:NSUTF8StringEncoding] autorelease];
 }
 

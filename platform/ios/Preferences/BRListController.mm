@@ -125,8 +125,8 @@ brimsound::PSListController* controllerOf(BRListController* native)
     auto* controller = controllerOf(self);
     if (!controller)
         return [super tableView:table cellForRowAtIndexPath:path];
-    const auto cell = controller->tableViewCellForRowAtIndexPath(
-        *objectOf<brimsound::UITableView>(table), ours(path));
+    const auto cell
+        = controller->tableViewCellForRowAtIndexPath(*objectOf<brimsound::UITableView>(table), ours(path));
     return [[nativeOf(cell.get()) retain] autorelease];
 }
 
@@ -138,9 +138,9 @@ brimsound::PSListController* controllerOf(BRListController* native)
 - (CGFloat)tableView:(UITableView*)table heightForRowAtIndexPath:(NSIndexPath*)path
 {
     auto* controller = controllerOf(self);
-    return controller ? controller->tableViewHeightForRowAtIndexPath(
-               *objectOf<brimsound::UITableView>(table), ours(path))
-                      : 0;
+    return controller
+        ? controller->tableViewHeightForRowAtIndexPath(*objectOf<brimsound::UITableView>(table), ours(path))
+        : 0;
 }
 
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path

@@ -1,8 +1,8 @@
 // The bundle's principal class: what the Settings app instantiates.
-#include "platform/ios/Foundation/Peer.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/UIKit/UIAlertView.h"
 #include "platform/ios/Foundation/NativeError.h"
+#include "platform/ios/Foundation/Peer.h"
 #include "platform/ios/Preferences/BRListController.h"
 #include "settings/BrimsoundSettings.h"
 

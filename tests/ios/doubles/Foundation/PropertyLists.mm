@@ -11,8 +11,8 @@ Read originalRead = nullptr;
 Write originalWrite = nullptr;
 
 /// Nil for bytes that are none, where GNUstep's raises.
-id readList(id self, SEL selector, NSData* data, NSPropertyListReadOptions options, NSPropertyListFormat* format,
-    NSError** error)
+id readList(id self, SEL selector, NSData* data, NSPropertyListReadOptions options,
+    NSPropertyListFormat* format, NSError** error)
 {
     @try {
         return originalRead(self, selector, data, options, format, error);
@@ -42,8 +42,8 @@ NSString* unescaped(NSString* xml)
     return text;
 }
 
-NSData* writeList(id self, SEL selector, id list, NSPropertyListFormat format, NSPropertyListWriteOptions options,
-    NSError** error)
+NSData* writeList(id self, SEL selector, id list, NSPropertyListFormat format,
+    NSPropertyListWriteOptions options, NSError** error)
 {
     NSData* data = originalWrite(self, selector, list, format, options, error);
     if (!data || format != NSPropertyListXMLFormat_v1_0)
