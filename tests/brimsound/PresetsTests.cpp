@@ -7,7 +7,6 @@
 namespace brimsound::tests {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
