@@ -151,7 +151,7 @@ TEST_F(ABitmapContext, GivesPicturesThatStayAsTheyAre)
 
 TEST(ABitmapContextWithLongRows, LeavesTheirEndsAlone)
 {
-    Bytes bytes(3 * 12, 9);
+    Bytes bytes(36, 9);
     const auto context = CGBitmapContextCreate(bytes.data(), 2, 3, 12);
     CGContextDrawImage(context.get(), CGRectMake(0, 0, 2, 3), imageOf(1, 1, red)->CGImage());
     const auto picture = UIImage::imageWithCGImage(CGBitmapContextCreateImage(context.get()).get());

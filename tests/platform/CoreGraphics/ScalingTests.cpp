@@ -98,8 +98,8 @@ TEST(DrawingAnImage, WiderAndLowerDoesBoth)
     }));
     const auto drawn = drawnAt(8, 2, *image);
     EXPECT_NEAR(drawn[0], 10, 1) << "the mean of 0 and 20";
-    EXPECT_NEAR(drawn[7 * 4], 110, 1);
-    EXPECT_NEAR(drawn[8 * 4], 50, 1) << "the mean of 40 and 60";
+    EXPECT_NEAR(drawn[28], 110, 1);
+    EXPECT_NEAR(drawn[32], 50, 1) << "the mean of 40 and 60";
 }
 
 TEST(DrawingAnImage, InItsOwnSizeChangesNothing)
