@@ -402,8 +402,8 @@ TEST_F(AFieldInAPaneWidget, IsDrawnOnceByWhoeverHasToAndIsInEveryPicture)
     field->becomeFirstResponder();
     ASSERT_TRUE(editor());
     editor()->setReadOnly(true); // Without a caret.
-    EXPECT_NEAR(darkPixelsIn(widget.grab().toImage(), place), alone, alone / 10);
-    EXPECT_NEAR(darkPixelsIn(desktop::pictureOf(*window, 1), place), alone, alone / 10);
+    EXPECT_NEAR(darkPixelsIn(widget.grab().toImage(), place), alone, 0.1 * alone);
+    EXPECT_NEAR(darkPixelsIn(desktop::pictureOf(*window, 1), place), alone, 0.1 * alone);
     editor()->hide();
     EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 0);
 }
