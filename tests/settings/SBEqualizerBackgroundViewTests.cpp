@@ -261,6 +261,20 @@ TEST(AColorThatCannotBeSplit, IsNoMatterWithoutASaturation)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
+TEST(AnInfiniteGain, LeavesTheOtherBarsInTheirPlaces)
+{
+    constexpr auto infinity = std::numeric_limits<float>::infinity();
+    for (const float gain : { infinity, -infinity }) {
+        Gains gains = rising;
+        gains[3] = gain;
+        const auto view = curve(gains.data());
+        for (std::size_t i = 0; i < gains.size(); ++i) {
+            if (i != 3)
+                EXPECT_EQ(framesOf(*view)[i], framesOf(*curve(rising.data()))[i]) << i;
+        }
+    }
+}
+
 TEST(AFixedColor, IsTakenAtOnceAndMovesNothing)
 {
     const auto view = curve(rising.data());

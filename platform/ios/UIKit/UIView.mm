@@ -79,11 +79,11 @@ using ios::retainedObjectOf;
 
 namespace {
 
-/// The platform raises for a view that is to be where no number says.
-bool isOfNumbers(const CGRect& frame)
+/// The platform raises for a view whose middle is where no number says, as that of an endless one may be.
+bool isFinite(const CGRect& frame)
 {
-    return !std::isnan(frame.origin.x) && !std::isnan(frame.origin.y) && !std::isnan(frame.size.width)
-        && !std::isnan(frame.size.height);
+    return std::isfinite(frame.origin.x) && std::isfinite(frame.origin.y) && std::isfinite(frame.size.width)
+        && std::isfinite(frame.size.height);
 }
 
 } // namespace
@@ -107,7 +107,7 @@ CGRect UIView::frame() const
 
 void UIView::setFrame(const CGRect& frame)
 {
-    if (isOfNumbers(frame))
+    if (isFinite(frame))
         [nativeView(*this) br_baseSetFrame:native(frame)];
 }
 
