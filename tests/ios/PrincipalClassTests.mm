@@ -133,6 +133,15 @@ TEST_F(ThePrincipalClass, HandsASwitchToThePane)
     [controller release];
 }
 
+TEST_F(ThePrincipalClass, ShowsNoMailWhereThereIsNothingToShowItOver)
+{
+    PSListController* controller = open();
+    ASSERT_EQ([controller rootController], nil);
+    [controller performSelector:@selector(reportIssue:) withObject:[[controller specifiers] objectAtIndex:0]];
+    EXPECT_FALSE(platform.composedMail());
+    [controller release];
+}
+
 TEST_F(ThePrincipalClass, AnswersNothingBeforeItIsInitialised)
 {
     // The class learns its selectors with the first controller.

@@ -99,7 +99,9 @@ UITableView& PSListController::table()
 
 UIViewController& PSListController::rootController() const
 {
-    return *objectOf<UIViewController>([nativeOf(*this) rootController]);
+    id root = [nativeOf(*this) rootController];
+    // Whoever shows the pane may have given it none. What is presented from one that is nowhere is not shown.
+    return *objectOf<UIViewController>(root ? root : [[[::UIViewController alloc] init] autorelease]);
 }
 
 PropertyList PSListController::readPreferenceValue(PSSpecifier& specifier)
