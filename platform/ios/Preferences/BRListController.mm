@@ -50,7 +50,9 @@ brimsound::PSListController* controllerOf(BRListController* native)
 
 - (id)br_baseInitForContentSize:(CGSize)size
 {
-    return [super initForContentSize:size];
+    return [PSListController instancesRespondToSelector:@selector(initForContentSize:)]
+        ? [super initForContentSize:size]
+        : [super init];
 }
 
 - (void)dealloc
