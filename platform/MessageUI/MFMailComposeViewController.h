@@ -15,7 +15,7 @@ class MFMailComposeViewController : public UIViewController {
 public:
     MFMailComposeViewController();
 
-    /// Not retained; null for none.
+    /// Not retained, or for no longer than the sheet stands; null for none.
     void setMailComposeDelegate(MFMailComposeViewControllerDelegate*);
 
     void setSubject(const std::string&);

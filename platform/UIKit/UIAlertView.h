@@ -13,7 +13,8 @@ namespace brimsound {
 class UIAlertView : public UIView {
 public:
     /// initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:. An empty title is none. The
-    /// delegate is not retained; null for none. The cancel button is button 0, the others follow.
+    /// delegate is not retained, or for no longer than the alert waits for its answer; null for none. The
+    /// cancel button is button 0, the others follow.
     UIAlertView(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
         const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles);
 

@@ -122,6 +122,27 @@ TEST_F(LivingTogether, APaneThatClosesLeavesNothingBehind)
     [center release];
 }
 
+TEST_F(LivingTogether, AnAlertHearsOfItsAnswerWhenThePaneIsGone)
+{
+    inOneTurn([] { openController()->setEnabled(false); });
+    platform.takeTrace();
+    inOneTurn([&] { EXPECT_TRUE(platform.answerAlert(1)); });
+    EXPECT_THAT(platform.takeTrace(), testing::Contains("shell killall mediaserverd"));
+    EXPECT_EQ(_activeController, nullptr) << "the alert held it";
+}
+
+TEST_F(LivingTogether, AMailIsTakenAwayWhenThePaneIsGone)
+{
+    inOneTurn([&] {
+        const auto controller = openController();
+        controller->reportIssue(*controller->specifiers().front());
+    });
+    EXPECT_TRUE(platform.composedMail());
+    inOneTurn([&] { platform.cancelMail(); });
+    EXPECT_FALSE(platform.composedMail());
+    EXPECT_EQ(_activeController, nullptr) << "the composer held it";
+}
+
 TEST_F(LivingTogether, APaneThatShowedPresetsLeavesTheirCycleAlone)
 {
     BrimsoundSettingsListController* controller = nullptr;

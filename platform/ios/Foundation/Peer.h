@@ -35,6 +35,12 @@ inline id nativeOf(const NSObject* object)
     return object ? nativeOf(*object) : nil;
 }
 
+/// The native object of something that is an object of ours in another of its roles; nil where it is none.
+template <typename Role> id nativeInRole(const Role* role)
+{
+    return nativeOf(dynamic_cast<const NSObject*>(role));
+}
+
 /// The object whose peer this is, made for it if there was none; null for nil. Not retained.
 NSObject* objectOf(id native);
 

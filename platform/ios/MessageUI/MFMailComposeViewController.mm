@@ -7,14 +7,22 @@
 #import <MessageUI/MessageUI.h>
 #import <objc/runtime.h>
 
-/// Hands the outcome to a delegate of ours. The composer holds it.
+/// Hands the outcome to a delegate of ours. The composer holds it, and with it the delegate, which might be
+/// gone before the outcome otherwise: the app can leave a pane while the composer stays.
 @interface BRMailComposeDelegate : NSObject <MFMailComposeViewControllerDelegate> {
 @public
     brimsound::MFMailComposeViewControllerDelegate* _delegate;
+    id _nativeDelegate;
 }
 @end
 
 @implementation BRMailComposeDelegate
+
+- (void)dealloc
+{
+    [_nativeDelegate release];
+    [super dealloc];
+}
 
 - (void)mailComposeController:(MFMailComposeViewController*)composer
           didFinishWithResult:(MFMailComposeResult)result
@@ -68,6 +76,7 @@ void MFMailComposeViewController::setMailComposeDelegate(MFMailComposeViewContro
     if (delegate) {
         native = [[[BRMailComposeDelegate alloc] init] autorelease];
         native->_delegate = delegate;
+        native->_nativeDelegate = [ios::nativeInRole(delegate) retain];
     }
     [composer setMailComposeDelegate:native];
     objc_setAssociatedObject(composer, &delegateKey, native, OBJC_ASSOCIATION_RETAIN_NONATOMIC);

@@ -6,14 +6,22 @@
 #import <UIKit/UIKit.h>
 #import <objc/runtime.h>
 
-/// Hands the answer to a delegate of ours. The alert holds it.
+/// Hands the answer to a delegate of ours. The alert holds it, and with it the delegate, which might be gone
+/// before the answer otherwise: the app can leave a pane while the alert stays.
 @interface BRAlertViewDelegate : NSObject <UIAlertViewDelegate> {
 @public
     brimsound::UIAlertViewDelegate* _delegate;
+    id _nativeDelegate;
 }
 @end
 
 @implementation BRAlertViewDelegate
+
+- (void)dealloc
+{
+    [_nativeDelegate release];
+    [super dealloc];
+}
 
 - (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)index
 {
@@ -35,6 +43,7 @@ Peer* makePeer(const std::string& title, const std::string& message, UIAlertView
     if (delegate) {
         native = [[[BRAlertViewDelegate alloc] init] autorelease];
         native->_delegate = delegate;
+        native->_nativeDelegate = [ios::nativeInRole(delegate) retain];
     }
     ::UIAlertView* alert = [[::UIAlertView alloc] initWithTitle:title.empty() ? nil : ios::nativeText(title)
                                                         message:ios::nativeText(message)
