@@ -269,8 +269,9 @@ TEST(AnInfiniteGain, LeavesTheOtherBarsInTheirPlaces)
         gains[3] = gain;
         const auto view = curve(gains.data());
         for (std::size_t i = 0; i < gains.size(); ++i) {
-            if (i != 3)
+            if (i != 3) {
                 EXPECT_EQ(framesOf(*view)[i], framesOf(*curve(rising.data()))[i]) << i;
+            }
         }
     }
 }
