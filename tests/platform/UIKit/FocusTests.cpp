@@ -24,7 +24,6 @@ using desktop::Key;
 using desktop::KeyStroke;
 using desktop::Pointer;
 using desktop::Window;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -11,7 +11,6 @@ namespace {
 
 using desktop::Clock;
 using desktop::Pointer;
-using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -13,7 +13,6 @@ using desktop::Key;
 using desktop::KeyStroke;
 using desktop::Pointer;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Writes down the texts of the fields whose return key was pressed.
 class Reader : public UITextFieldDelegate {
