@@ -90,7 +90,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 NSIndexPath* path(NSInteger section, NSInteger row)
 {
