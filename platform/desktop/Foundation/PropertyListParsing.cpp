@@ -114,16 +114,27 @@ std::optional<PropertyList> fromNode(plist_t node)
     }
 }
 
+// Null when the bytes are neither the binary format nor XML. The library's newer releases guess at more
+// formats when they are asked for any.
+plist_t parse(std::span<const std::byte> contents)
+{
+    const auto* bytes = reinterpret_cast<const char*>(contents.data());
+    const auto length = static_cast<std::uint32_t>(contents.size());
+    plist_t parsed = nullptr;
+    if (plist_is_binary(bytes, length))
+        plist_from_bin(bytes, length, &parsed);
+    else
+        plist_from_xml(bytes, length, &parsed);
+    return parsed;
+}
+
 } // namespace
 
 std::optional<PropertyList> parsePropertyList(std::span<const std::byte> contents)
 {
     if (!isWithinBounds(contents))
         return std::nullopt;
-    plist_t parsed = nullptr;
-    plist_from_memory(
-        reinterpret_cast<const char*>(contents.data()), static_cast<std::uint32_t>(contents.size()), &parsed);
-    const PlistNode node(parsed);
+    const PlistNode node(parse(contents));
     return node ? fromNode(node.get()) : std::nullopt;
 }
 
