@@ -1,0 +1,53 @@
+#include "desktop/engine/audio/FilterResponse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace brimsound::audio {
+
+double detuning(double frequency, double rate, double centerTangent)
+{
+    const double ratio = std::tan(std::numbers::pi * frequency / rate) / centerTangent;
+    const double difference = ratio - 1 / ratio;
+    return difference * difference;
+}
+
+BellResponse bellResponse(double detuning, double gain, double inverseQ)
+{
+    const double linear = std::pow(10, gain / 20);
+    const double width = inverseQ * inverseQ;
+    const double numerator = width * linear;
+    const double denominator = width / linear;
+    return {
+        .decibels = 10 * std::log10((detuning + numerator) / (detuning + denominator)),
+        .slope = 0.5 * (numerator / (detuning + numerator) + denominator / (detuning + denominator)),
+    };
+}
+
+double responseAt(const FilterTargets& targets, double frequency)
+{
+    double sum = 0;
+    for (std::size_t band = 0; band < targets.bands; ++band) {
+        const double x = detuning(frequency, targets.rate, targets.tangents[band]);
+        // A bell does nothing at 0 Hz and at half the rate.
+        if (std::isfinite(x))
+            sum += bellResponse(x, targets.gains[band], targets.inverseQ[band]).decibels;
+    }
+    return sum;
+}
+
+double maximumResponse(const FilterTargets& targets)
+{
+    constexpr int points = 200;
+    constexpr double lowest = 20;
+    const double highest = std::min(20000.0, targets.rate / 2);
+    double maximum = responseAt(targets, lowest);
+    for (int point = 1; point < points; ++point) {
+        const double frequency = lowest * std::pow(highest / lowest, point / (points - 1.0));
+        maximum = std::max(maximum, responseAt(targets, frequency));
+    }
+    return maximum;
+}
+
+} // namespace brimsound::audio
