@@ -32,7 +32,7 @@ double inverseQ(std::size_t band, double rate)
 {
     const double angle = 2 * std::numbers::pi * centers[band] / rate;
     // Just below half the rate a bell would become so wide that it covers every other band.
-    constexpr double mostWidening = 2;
+    constexpr double mostWidening = 2.5;
     const double widening = std::min(angle / std::sin(angle), mostWidening);
     return 2 * std::sinh(0.5 * std::numbers::ln2 * bandwidth(band) * widening);
 }

@@ -43,6 +43,8 @@ double maximumResponse(const FilterTargets& targets)
     constexpr double lowest = 20;
     const double highest = std::min(20000.0, targets.rate / 2);
     double maximum = responseAt(targets, lowest);
+    for (std::size_t band = 0; band < targets.bands; ++band)
+        maximum = std::max(maximum, responseAt(targets, centers[band]));
     for (int point = 1; point < points; ++point) {
         const double frequency = lowest * std::pow(highest / lowest, point / (points - 1.0));
         maximum = std::max(maximum, responseAt(targets, frequency));

@@ -25,8 +25,9 @@ BellResponse bellResponse(double detuning, double gain, double inverseQ);
 /// The gain in dB at a frequency in Hz, without the preamp.
 double responseAt(const FilterTargets&, double frequency);
 
-/// The highest gain in dB at 200 frequencies, evenly spaced on a logarithmic scale from 20 Hz to 20 kHz or
-/// half the rate. Without the preamp: the headroom that is left is -(preamp + maximum).
+/// The highest gain in dB at the centers and at 200 frequencies between them, evenly spaced on a logarithmic
+/// scale from 20 Hz to 20 kHz or half the rate. Without the preamp: the headroom that is left is -(preamp +
+/// maximum).
 double maximumResponse(const FilterTargets&);
 
 } // namespace brimsound::audio

@@ -80,6 +80,12 @@ TEST(TheMaximum, IsFoundBetweenTheSliders)
     EXPECT_NEAR(maximumResponse(targets), highest, 0.02);
 }
 
+TEST(TheMaximum, IsNoLowerThanANarrowBand)
+{
+    const auto targets = EqualizerDesign(192000).solve({ 0, 0, 0, 0, 0, 0, 0, 0, 0, 6 }, 0);
+    EXPECT_NEAR(maximumResponse(targets), 6, 0.05);
+}
+
 TEST(TheMaximum, IsNoHigherThanZeroWhenAllSlidersAreDown)
 {
     BandGains sliders;
