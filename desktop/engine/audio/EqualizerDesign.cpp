@@ -92,16 +92,21 @@ FilterTargets EqualizerDesign::solve(const BandGains& sliders, double preamp) co
     targets.gains = wanted;
 
     for (int round = 0; round < largestNumberOfRounds; ++round) {
+        std::array<double, bandCount> amplitudes {};
+        std::transform(
+            targets.gains.begin(), targets.gains.begin() + targets.bands, amplitudes.begin(), amplitude);
         auto missing = wanted;
         Matrix slopes {};
         double worst = 0;
         for (std::size_t center = 0; center < targets.bands; ++center) {
+            double power = 1;
             for (std::size_t band = 0; band < targets.bands; ++band) {
                 const auto bell
-                    = bellResponse(_detunings[center][band], targets.gains[band], targets.inverseQ[band]);
-                missing[center] -= bell.decibels;
+                    = bellResponse(_detunings[center][band], amplitudes[band], targets.inverseQ[band]);
+                power *= bell.power;
                 slopes[center][band] = bell.slope;
             }
+            missing[center] -= 10 * std::log10(power);
             worst = std::max(worst, std::abs(missing[center]));
         }
         if (worst < tolerance)

@@ -13,28 +13,32 @@ double detuning(double frequency, double rate, double centerTangent)
     return difference * difference;
 }
 
-BellResponse bellResponse(double detuning, double gain, double inverseQ)
+double amplitude(double gain)
 {
-    const double linear = std::pow(10, gain / 20);
+    return std::exp(gain * (std::numbers::ln10 / 20));
+}
+
+BellResponse bellResponse(double detuning, double amplitude, double inverseQ)
+{
     const double width = inverseQ * inverseQ;
-    const double numerator = width * linear;
-    const double denominator = width / linear;
+    const double numerator = width * amplitude;
+    const double denominator = width / amplitude;
     return {
-        .decibels = 10 * std::log10((detuning + numerator) / (detuning + denominator)),
+        .power = (detuning + numerator) / (detuning + denominator),
         .slope = 0.5 * (numerator / (detuning + numerator) + denominator / (detuning + denominator)),
     };
 }
 
 double responseAt(const FilterTargets& targets, double frequency)
 {
-    double sum = 0;
+    double power = 1;
     for (std::size_t band = 0; band < targets.bands; ++band) {
         const double x = detuning(frequency, targets.rate, targets.tangents[band]);
         // A bell does nothing at 0 Hz and at half the rate.
         if (std::isfinite(x))
-            sum += bellResponse(x, targets.gains[band], targets.inverseQ[band]).decibels;
+            power *= bellResponse(x, amplitude(targets.gains[band]), targets.inverseQ[band]).power;
     }
-    return sum;
+    return 10 * std::log10(power);
 }
 
 double maximumResponse(const FilterTargets& targets)

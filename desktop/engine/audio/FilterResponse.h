@@ -5,10 +5,11 @@
 
 namespace brimsound::audio {
 
-/// The gain in dB of one bell filter, and how it changes with the filter's gain.
+/// What one bell filter does to a frequency.
 struct BellResponse {
-    double decibels = 0;
-    /// The derivative with respect to the filter's gain, in dB per dB.
+    /// By how much it multiplies the power.
+    double power = 1;
+    /// How the response in dB changes with the filter's gain, in dB per dB.
     double slope = 0;
 };
 
@@ -16,11 +17,14 @@ struct BellResponse {
 /// rate). 0 at the center, infinite at 0 Hz.
 double detuning(double frequency, double rate, double centerTangent);
 
-/// The response of a bell at a detuning x:
-///     H = 10 log10((x + G / Q^2) / (x + 1 / (G Q^2))),   G = 10^(gain / 20)
-/// which is the magnitude of the peaking filter in R. Bristow-Johnson, "Cookbook formulae for audio EQ biquad
-/// filter coefficients" (W3C Audio EQ Cookbook). At x = 1 / Q^2 it is gain / 2 for every gain.
-BellResponse bellResponse(double detuning, double gain, double inverseQ);
+/// The factor that a gain in dB stands for: G = 10^(gain / 20).
+double amplitude(double gain);
+
+/// The response of a bell of gain G at a detuning x:
+///     power = (x + G / Q^2) / (x + 1 / (G Q^2))
+/// which is that of the peaking filter in R. Bristow-Johnson, "Cookbook formulae for audio EQ biquad filter
+/// coefficients" (W3C Audio EQ Cookbook). At x = 1 / Q^2 it is half the gain in dB, for every gain.
+BellResponse bellResponse(double detuning, double amplitude, double inverseQ);
 
 /// The gain in dB at a frequency in Hz, without the preamp.
 double responseAt(const FilterTargets&, double frequency);

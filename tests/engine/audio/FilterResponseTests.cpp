@@ -24,6 +24,11 @@ double cookbookDecibels(double center, double gain, double q, double frequency, 
     return 20 * std::log10(std::abs(numerator / denominator));
 }
 
+double bellDecibels(double detuning, double gain, double inverseQ)
+{
+    return 10 * std::log10(bellResponse(detuning, amplitude(gain), inverseQ).power);
+}
+
 FilterTargets oneBell(std::size_t band, double gain, double rate)
 {
     auto targets = EqualizerDesign(rate).solve({}, 0);
@@ -49,16 +54,15 @@ TEST(TheResponseOfABell, IsTheCookbooks)
 TEST(TheResponseOfABell, IsHalfTheGainWhereItsWidthIsMeasured)
 {
     for (const double gain : { -20.0, 3.0, 12.0 })
-        EXPECT_NEAR(bellResponse(0.7 * 0.7, gain, 0.7).decibels, gain / 2, 1e-12);
+        EXPECT_NEAR(bellDecibels(0.7 * 0.7, gain, 0.7), gain / 2, 1e-12);
 }
 
 TEST(TheSlopeOfABell, IsTheChangeOfTheResponse)
 {
     for (const double detuning : { 0.0, 0.3, 5.0 }) {
         constexpr double step = 1e-5;
-        const double change
-            = bellResponse(detuning, 6 + step, 0.8).decibels - bellResponse(detuning, 6 - step, 0.8).decibels;
-        EXPECT_NEAR(bellResponse(detuning, 6, 0.8).slope, change / (2 * step), 1e-6);
+        const double change = bellDecibels(detuning, 6 + step, 0.8) - bellDecibels(detuning, 6 - step, 0.8);
+        EXPECT_NEAR(bellResponse(detuning, amplitude(6), 0.8).slope, change / (2 * step), 1e-6);
     }
 }
 
