@@ -4,7 +4,7 @@
 run_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-wayland libplist-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
-    libpixman-1-dev libssl-dev nlohmann-json3-dev
+    libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
 # What the tests take besides.

@@ -14,14 +14,6 @@ namespace {
 
 constexpr auto dictionaryTypeName = "PropertyListDictionary";
 
-/// Takes the presets out of the preferences; the built-in ones where those have none.
-PropertyList::Dictionary takePresets(PropertyList::Dictionary& preferences)
-{
-    auto* value = preferences.find(presetsKey);
-    auto* presets = value ? value->asDictionary() : nullptr;
-    return presets && !presets->empty() ? std::move(*presets) : builtin_presets();
-}
-
 bool haveTheSameNames(const PropertyList::Dictionary& a, const PropertyList::Dictionary& b)
 {
     using Entry = PropertyListDictionary::Entry;
@@ -68,7 +60,7 @@ void PlaylistSaver::loadPresets()
 {
     logLine("getting preferences");
     auto preferences = get_preferences();
-    _presetDict = takePresets(preferences);
+    _presetDict = take_presets(preferences);
     const auto* selected = preferences.find(selectedPresetKey);
     const auto* name = selected ? selected->asString() : nullptr;
     _selectedPreset = name ? std::optional(*name) : std::nullopt;
@@ -123,7 +115,7 @@ bool PlaylistSaver::textFieldShouldReturn(UITextField* field)
 void PlaylistSaver::saveUnderName(const std::string& name)
 {
     auto preferences = get_preferences();
-    auto presets = takePresets(preferences);
+    auto presets = take_presets(preferences);
     PropertyList::Array gains;
     gains.reserve(_sliders.size());
     for (const auto& slider : _sliders)
@@ -145,7 +137,7 @@ void PlaylistSaver::tableViewCommitEditingStyleForRowAtIndexPath(
     if (!getObjectAtIndexForDictKey(indexPath.row, _presetDict, &name))
         return;
     auto preferences = get_preferences();
-    auto presets = takePresets(preferences);
+    auto presets = take_presets(preferences);
     presets.remove(*name);
     preferences.set(presetsKey, presets);
     writeAndAnnounce(std::move(preferences));

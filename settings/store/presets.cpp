@@ -1,8 +1,10 @@
 #include "settings/store/presets.h"
 
 #include "settings/Log.h"
+#include "settings/tweak.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brimsound {
 
@@ -59,6 +61,13 @@ PropertyList::Dictionary builtin_presets()
     for (const auto& preset : table)
         presets.set(preset.name, gains(preset.steps));
     return presets;
+}
+
+PropertyList::Dictionary take_presets(PropertyList::Dictionary& preferences)
+{
+    auto* value = preferences.find(presetsKey);
+    auto* presets = value ? value->asDictionary() : nullptr;
+    return presets && !presets->empty() ? std::move(*presets) : builtin_presets();
 }
 
 bool hasTenGains(const PropertyList& preset)

@@ -11,6 +11,10 @@ namespace brimsound {
 /// Sixteen presets in the order of the table, each a name with ten band gains in dB from 60 Hz up.
 PropertyList::Dictionary builtin_presets();
 
+/// Takes the presets out of the preferences: names, each with what should be ten gains. The built-in ones
+/// when the preferences have none.
+PropertyList::Dictionary take_presets(PropertyList::Dictionary& preferences);
+
 /// Band gains in dB, from 60 Hz up.
 using TenGains = std::array<float, 10>;
 

@@ -1,0 +1,67 @@
+// Arithmetic without subnormal numbers.
+#pragma once
+
+#include <cstdint>
+
+#if defined(__SSE2__)
+#include <xmmintrin.h>
+#endif
+
+namespace brimsound::audio {
+
+/// While one of these lives, numbers too small for full precision count as zero on this thread. Filters that
+/// ring out into silence end in such numbers, and a processor may take a hundred times as long for each. The
+/// thread's own mode is put back at the end. Does nothing on processors other than x86-64 and AArch64.
+class FlushDenormals {
+public:
+    FlushDenormals()
+        : _control(control())
+    {
+        setControl(_control | flushing);
+    }
+    ~FlushDenormals() { setControl(_control); }
+
+    FlushDenormals(const FlushDenormals&) = delete;
+    FlushDenormals& operator=(const FlushDenormals&) = delete;
+
+private:
+#if defined(__SSE2__)
+    using Control = std::uint32_t;
+    // MXCSR: flush to zero, denormals are zero.
+    static constexpr Control flushing = 0x8040;
+    static Control control()
+    {
+        return _mm_getcsr();
+    }
+    static void setControl(Control control)
+    {
+        _mm_setcsr(control);
+    }
+#elif defined(__aarch64__)
+    using Control = std::uint64_t;
+    // FPCR: flush to zero, for operands and results.
+    static constexpr Control flushing = 1U << 24;
+    static Control control()
+    {
+        Control control = 0;
+        asm volatile("mrs %0, fpcr" : "=r"(control));
+        return control;
+    }
+    static void setControl(Control control)
+    {
+        asm volatile("msr fpcr, %0" : : "r"(control) : "memory");
+    }
+#else
+    using Control = std::uint32_t;
+    static constexpr Control flushing = 0;
+    static Control control()
+    {
+        return 0;
+    }
+    static void setControl(Control) { }
+#endif
+
+    Control _control;
+};
+
+} // namespace brimsound::audio

@@ -1,0 +1,35 @@
+#include "desktop/render/Gains.h"
+
+#include "settings/store/preferences.h"
+#include "settings/store/presets.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace brimsound::render {
+
+audio::BandGains gainsOfPreset(const std::string& name)
+{
+    auto preferences = get_preferences();
+    const auto presets = take_presets(preferences);
+    const auto* preset = presets.find(name);
+    if (!preset)
+        throw std::runtime_error("there is no preset \"" + name + "\"");
+    if (!hasTenGains(*preset))
+        throw std::runtime_error("preset \"" + name + "\" is not ten gains");
+
+    audio::BandGains gains {};
+    std::ranges::transform(tenGains(name, *preset), gains.begin(), [](float gain) {
+        // As a slider does.
+        return std::isnan(gain) ? 0.0 : std::clamp<double>(gain, -audio::sliderLimit, audio::sliderLimit);
+    });
+    return gains;
+}
+
+double autoPreamp(const audio::BandGains& gains)
+{
+    return -std::max(-audio::sliderLimit, *std::ranges::max_element(gains));
+}
+
+} // namespace brimsound::render
