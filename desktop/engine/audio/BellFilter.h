@@ -6,41 +6,50 @@
 
 namespace brimsound::audio {
 
-/// The coefficients of a bell with a gain: A. Simper, "Solving the continuous SVF equations using trapezoidal
-/// integration and equivalent currents", Cytomic, 2013. With t = tan(pi center / rate), A = 10^(gain / 40)
-/// and k = 1 / (Q A), they are
-///     a1 = 1 / (1 + t (t + k)),   mix = k (A^2 - 1)
-/// and the response is exactly that of the peaking filter in the W3C Audio EQ Cookbook. Simper's a2 and a3
-/// are t a1 and t^2 a1, so any a1 between two good ones makes a stable filter too: coefficients may be
-/// interpolated.
-struct BellCoefficients {
-    double a1 = 1;
-    double mix = 0;
-
-    BellCoefficients() = default;
-    /// `gain` in dB. 0 dB makes a filter that passes everything unchanged, to the bit.
-    BellCoefficients(double gain, double tangent, double inverseQ)
-    {
-        const double amplitude = std::exp(gain * (std::numbers::ln10 / 40));
-        const double damping = inverseQ / amplitude;
-        a1 = 1 / (1 + tangent * (tangent + damping));
-        mix = damping * (amplitude * amplitude - 1);
-    }
+/// A bell's coefficients: A. Simper, "Solving the continuous SVF equations using trapezoidal integration and
+/// equivalent currents", Cytomic, 2013. With t = tan(pi center / rate), A = 10^(gain / 40) and k = 1 / (Q A)
+/// his are
+///     a1 = 1 / (1 + t (t + k)),   a2 = t a1,   a3 = t a2,   m1 = k (A^2 - 1)
+/// and the response is exactly that of the peaking filter in the W3C Audio EQ Cookbook. Any a1 between two
+/// good ones makes a stable filter too, so that coefficients may be interpolated.
+///
+/// `Number` is a double or a vector of them, one a channel.
+template <typename Number> struct BellCoefficients {
+    /// t
+    Number tangent {};
+    /// 2 a1
+    Number feedback {};
+    /// m1 a1: 0 at 0 dB, so that samples pass unchanged, to the bit.
+    Number mix {};
+    /// 1 + m1 a2
+    Number through {};
 };
 
-/// A bell's memory. `Sample` is a double or a vector of them, one a channel.
-template <typename Sample> struct BellFilter {
-    Sample s1 {};
-    Sample s2 {};
+/// `gain` in dB.
+inline BellCoefficients<double> bellCoefficients(double gain, double tangent, double inverseQ)
+{
+    const double amplitude = std::exp(gain * (std::numbers::ln10 / 40));
+    const double k = inverseQ / amplitude;
+    const double a1 = 1 / (1 + tangent * (tangent + k));
+    const double mix = k * (amplitude * amplitude - 1) * a1;
+    return { .tangent = tangent, .feedback = 2 * a1, .mix = mix, .through = 1 + mix * tangent };
+}
 
-    /// The next output. v1 and v2 are Simper's band-pass and low-pass; a2 and a3 are written out:
-    ///     v1 = a1 (s1 + t (x - s2)),   v2 = s2 + t v1,   s1 = 2 v1 - s1,   s2 = 2 v2 - s2
-    Sample next(Sample x, double a1, double mix, double tangent)
+/// A bell's memory.
+template <typename Number> struct BellFilter {
+    Number s1 {};
+    Number s2 {};
+
+    /// The next output. In Simper's terms:
+    ///     v1 = a1 (s1 + t (x - s2)),   v2 = s2 + t v1,   s1 = 2 v1 - s1,   s2 = 2 v2 - s2,   y = x + m1 v1
+    /// The order is such that y waits for one product and one sum of x alone: the next bell waits for y.
+    Number next(Number x, const BellCoefficients<Number>& bell)
     {
-        const Sample v1 = a1 * (s1 + tangent * (x - s2));
-        s1 = 2.0 * v1 - s1;
-        s2 = s2 + (2 * tangent) * v1;
-        return x + mix * v1;
+        const Number rest = s1 - bell.tangent * s2;
+        const Number twiceV1 = bell.feedback * (rest + bell.tangent * x);
+        s1 = twiceV1 - s1;
+        s2 = s2 + bell.tangent * twiceV1;
+        return bell.through * x + bell.mix * rest;
     }
 };
 

@@ -24,14 +24,17 @@ double bandwidth(std::size_t band)
     const double below = band > 0 ? centers[band] / centers[band - 1] : centers[1] / centers[0];
     const double above
         = band + 1 < bandCount ? centers[band + 1] / centers[band] : centers[band] / centers[band - 1];
-    const double widening = centers[band] <= 6000 ? 1.2 : 1;
-    return widening * 0.5 * std::log2(below * above);
+    const double overlap = centers[band] <= 6000 ? 1.2 : 1;
+    return overlap * 0.5 * std::log2(below * above);
 }
 
 double inverseQ(std::size_t band, double rate)
 {
     const double angle = 2 * std::numbers::pi * centers[band] / rate;
-    return 2 * std::sinh(0.5 * std::numbers::ln2 * bandwidth(band) * angle / std::sin(angle));
+    // Just below half the rate a bell would become so wide that it covers every other band.
+    constexpr double mostWidening = 2;
+    const double widening = std::min(angle / std::sin(angle), mostWidening);
+    return 2 * std::sinh(0.5 * std::numbers::ln2 * bandwidth(band) * widening);
 }
 
 double sliderGain(double gain)

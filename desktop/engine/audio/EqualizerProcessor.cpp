@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace brimsound::audio {
 
@@ -16,6 +17,13 @@ constexpr std::size_t stepLength = 16;
 // Full scale is 1.
 constexpr float largestSample = 1e6f;
 constexpr double largestState = 1e12;
+
+using Pair [[gnu::vector_size(16)]] = double;
+
+Pair pair(double both)
+{
+    return Pair { both, both };
+}
 
 // Null stands for silence.
 float sampleAt(const float* samples, std::size_t frame)
@@ -83,12 +91,32 @@ EqualizerProcessor::Coefficients EqualizerProcessor::coefficientsOfSmoothers() c
 {
     Coefficients coefficients;
     for (std::size_t band = 0; band < bandCount; ++band) {
-        const BellCoefficients bell(_gains[band].value(), _targets.tangents[band], _targets.inverseQ[band]);
-        coefficients.a1[band] = bell.a1;
-        coefficients.mix[band] = bell.mix;
+        const auto bell
+            = bellCoefficients(_gains[band].value(), _targets.tangents[band], _targets.inverseQ[band]);
+        coefficients.bells[band] = {
+            .tangent = pair(bell.tangent),
+            .feedback = pair(bell.feedback),
+            .mix = pair(bell.mix),
+            .through = pair(bell.through),
+        };
     }
-    coefficients.preamp = std::pow(10, _preamp.value() / 20);
+    coefficients.preamp = pair(std::exp(_preamp.value() * (std::numbers::ln10 / 20)));
     return coefficients;
+}
+
+EqualizerProcessor::Coefficients EqualizerProcessor::difference(
+    const Coefficients& end, const Coefficients& begin) noexcept
+{
+    Coefficients difference;
+    for (std::size_t band = 0; band < bandCount; ++band) {
+        difference.bells[band] = {
+            .feedback = end.bells[band].feedback - begin.bells[band].feedback,
+            .mix = end.bells[band].mix - begin.bells[band].mix,
+            .through = end.bells[band].through - begin.bells[band].through,
+        };
+    }
+    difference.preamp = end.preamp - begin.preamp;
+    return difference;
 }
 
 void EqualizerProcessor::beginStep() noexcept
@@ -137,15 +165,13 @@ void EqualizerProcessor::processStill(
 {
     auto filters = cascade;
     const auto coefficients = _coefficients;
-    const auto tangents = _targets.tangents;
     for (std::size_t frame = 0; frame < frames; ++frame) {
-        const auto [left, right] = channels.inputs(frame);
-        const Pair x { left, right };
+        const auto input = channels.inputs(frame);
+        const Pair x { input[0], input[1] };
         Pair y = x;
         for (std::size_t band = 0; band < bandCount; ++band)
-            y = filters[band].next(y, coefficients.a1[band], coefficients.mix[band], tangents[band]);
-        y = y * coefficients.preamp;
-        channels.write(frame, { left, right }, x, y);
+            y = filters[band].next(y, coefficients.bells[band]);
+        channels.write(frame, input, x, coefficients.preamp * y);
     }
     cascade = filters;
 }
@@ -154,18 +180,25 @@ void EqualizerProcessor::processMoving(
     Cascade& cascade, const Channels& channels, std::size_t frames) const noexcept
 {
     auto filters = cascade;
+    const auto begin = _coefficients;
+    const auto change = difference(_end, begin);
     for (std::size_t frame = 0; frame < frames; ++frame) {
-        const auto share = static_cast<double>(_position + frame + 1) / stepLength;
-        const auto between = [share](double begin, double end) { return begin + share * (end - begin); };
-        const auto [left, right] = channels.inputs(frame);
-        const Pair x { left, right };
+        const auto share = pair(static_cast<double>(_position + frame + 1) / stepLength);
+        const auto input = channels.inputs(frame);
+        const Pair x { input[0], input[1] };
         Pair y = x;
         for (std::size_t band = 0; band < bandCount; ++band) {
-            y = filters[band].next(y, between(_coefficients.a1[band], _end.a1[band]),
-                between(_coefficients.mix[band], _end.mix[band]), _targets.tangents[band]);
+            const auto& bell = begin.bells[band];
+            const auto& bellChange = change.bells[band];
+            y = filters[band].next(y,
+                {
+                    .tangent = bell.tangent,
+                    .feedback = bell.feedback + share * bellChange.feedback,
+                    .mix = bell.mix + share * bellChange.mix,
+                    .through = bell.through + share * bellChange.through,
+                });
         }
-        y = y * between(_coefficients.preamp, _end.preamp);
-        channels.write(frame, { left, right }, x, y);
+        channels.write(frame, input, x, (begin.preamp + share * change.preamp) * y);
     }
     cascade = filters;
 }

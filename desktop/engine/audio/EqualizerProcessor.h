@@ -44,14 +44,14 @@ private:
     using Cascade = std::array<BellFilter<Pair>, bandCount>;
 
     struct Coefficients {
-        std::array<double, bandCount> a1 {};
-        std::array<double, bandCount> mix {};
-        double preamp = 1;
+        std::array<BellCoefficients<Pair>, bandCount> bells;
+        Pair preamp {};
     };
     struct Channels;
 
     void beginStep() noexcept;
     Coefficients coefficientsOfSmoothers() const noexcept;
+    static Coefficients difference(const Coefficients& end, const Coefficients& begin) noexcept;
     void processStill(Cascade&, const Channels&, std::size_t frames) const noexcept;
     void processMoving(Cascade&, const Channels&, std::size_t frames) const noexcept;
     void clearPoison() noexcept;
@@ -63,7 +63,7 @@ private:
     double _share = 1;
     bool _settled = true;
 
-    // Where the step began and how much each sample changes; unless settled.
+    // Where the step began, and unless settled where it ends.
     Coefficients _coefficients;
     Coefficients _end;
     // How many samples of the step are done.
