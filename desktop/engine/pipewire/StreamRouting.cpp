@@ -48,6 +48,8 @@ void StreamRouting::streamChanged(std::uint32_t id, const StreamProperties& prop
 void StreamRouting::streamRemoved(std::uint32_t id)
 {
     _streams.erase(id);
+    // The session manager forgets them without a word, and the number may be another stream's soon.
+    _targets.erase(id);
 }
 
 void StreamRouting::metadataReady()

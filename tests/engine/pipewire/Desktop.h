@@ -1,0 +1,76 @@
+// A desktop with programs that play.
+#pragma once
+
+#include "tests/engine/pipewire/Engine.h"
+#include "tests/engine/pipewire/Levels.h"
+#include "tests/engine/pipewire/Recorder.h"
+#include "tests/engine/pipewire/SoundFile.h"
+#include "tests/engine/pipewire/SoundSystem.h"
+#include "tests/engine/pipewire/Wait.h"
+#include "tests/support/TemporaryRoot.h"
+
+#include <gmock/gmock.h>
+
+namespace brimsound::tests {
+
+/// A program that plays until this object goes; what it says is dropped.
+class Player : public desktop::ChildProcess {
+public:
+    explicit Player(const std::vector<std::string>& command)
+        : ChildProcess(quietly(command))
+    {
+    }
+
+private:
+    static std::vector<std::string> quietly(const std::vector<std::string>& command)
+    {
+        std::vector<std::string> arguments { "sh", "-c", "exec \"$@\" >/dev/null 2>&1", "sh" };
+        arguments.insert(arguments.end(), command.begin(), command.end());
+        return arguments;
+    }
+};
+
+/// A preamp of -6 dB tells the equalized sound from the sound as it is.
+inline constexpr double preampDecibels = -6;
+inline constexpr double equalizedLevel = sineLevel * 0.5011872;
+/// 1 dB above that; sound as it is would be far beyond.
+inline constexpr double equalizedLimit = equalizedLevel * 1.1220185;
+
+/// A test's own sound system, its preferences with a preamp of -6 dB, and a minute of a sine of 1 kHz to
+/// play.
+class ADesktop : public testing::Test {
+protected:
+    explicit ADesktop(SoundSystem::Devices devices = SoundSystem::Devices::All)
+        : system(devices)
+        , tone(system.folder() / "tone.wav")
+        , playTone { "pw-play", tone }
+    {
+        storePreferences(preamp(preampDecibels));
+        writeSound(tone, sine(60));
+    }
+
+    /// Whether the device comes to play at that level for a while.
+    static testing::AssertionResult comesTo(const Recorder& device, double wanted)
+    {
+        double found = 0;
+        const bool came = eventually([&] {
+            found = level(device.next(9600));
+            return found > wanted * 0.97 - 1e-4 && found < wanted * 1.03 + 1e-4;
+        });
+        return (came ? testing::AssertionSuccess() : testing::AssertionFailure())
+            << "the level is " << found << ", not " << wanted;
+    }
+
+    std::uint32_t nodeOf(const std::string& name)
+    {
+        eventually([&] { return system.node(name).has_value(); });
+        return system.node(name).value();
+    }
+
+    TemporaryRoot root;
+    SoundSystem system;
+    std::filesystem::path tone;
+    std::vector<std::string> playTone;
+};
+
+} // namespace brimsound::tests
