@@ -1,5 +1,6 @@
 // Where streams play, by what arrives at the devices.
 #include "tests/engine/pipewire/Desktop.h"
+#include "tests/engine/pipewire/EncodedStream.h"
 
 #include <csignal>
 
@@ -195,6 +196,18 @@ TEST_F(APlayingDesktop, LeavesTheFiltersOfOthersAlone)
     const Player playing({ "pw-play", "--target", "other.sink", tone });
     EXPECT_TRUE(comesTo(hw1, sineLevel));
     EXPECT_EQ(system.metadata(output, "target.object"), std::nullopt);
+}
+
+TEST_F(APlayingDesktop, LeavesEncodedStreamsAlone)
+{
+    engine.emplace();
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
+    const EncodedStream encoded;
+    const auto stream = nodeOf("encoded");
+    // What starts after it has been decided on later.
+    player.emplace(playTone);
+    ASSERT_TRUE(comesTo(hw1, equalizedLevel));
+    EXPECT_EQ(system.metadata(stream, "target.object"), std::nullopt);
 }
 
 TEST_F(APlayingDesktop, PlaysToTheLastDeviceWhenTheUserChoosesTheEqualizer)

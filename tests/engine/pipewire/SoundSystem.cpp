@@ -139,12 +139,12 @@ void SoundSystem::startSessionManager()
         "wireplumber does not start");
 }
 
-void SoundSystem::restartPipeWire()
+void SoundSystem::killPipeWire()
 {
-    _pulse.reset();
-    _sessionManager.reset();
-    _pipewire.reset();
-    startPipeWire();
+    for (auto* daemon : { &_pipewire, &_sessionManager, &_pulse }) {
+        (*daemon)->signal(SIGKILL);
+        daemon->reset();
+    }
 }
 
 void SoundSystem::killSessionManager()

@@ -32,8 +32,9 @@ public:
     const std::filesystem::path& folder() const { return _folder.path(); }
     TestBus& bus() { return _bus; }
 
-    /// Ends and starts everything but the bus.
-    void restartPipeWire();
+    /// Ends everything but the bus, as a crash of PipeWire would, and starts it.
+    void killPipeWire();
+    void startPipeWire();
     /// Ends the session manager alone, by a crash.
     void killSessionManager();
     void startSessionManager();
@@ -66,7 +67,6 @@ public:
         const std::string& value, const std::string& type);
 
 private:
-    void startPipeWire();
     void writeConfiguration(Devices);
     void start(std::optional<desktop::ChildProcess>& daemon, const std::string& program);
 
