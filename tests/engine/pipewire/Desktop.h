@@ -1,12 +1,12 @@
 // A desktop with programs that play.
 #pragma once
 
-#include "tests/engine/pipewire/Engine.h"
-#include "tests/engine/pipewire/Levels.h"
-#include "tests/engine/pipewire/Recorder.h"
-#include "tests/engine/pipewire/SoundFile.h"
-#include "tests/engine/pipewire/SoundSystem.h"
-#include "tests/engine/pipewire/Wait.h"
+#include "tests/support/sound/Engine.h"
+#include "tests/support/sound/Levels.h"
+#include "tests/support/sound/Recorder.h"
+#include "tests/support/sound/SoundFile.h"
+#include "tests/support/sound/SoundSystem.h"
+#include "tests/support/sound/Wait.h"
 #include "tests/support/TemporaryRoot.h"
 
 #include <gmock/gmock.h>

@@ -98,7 +98,6 @@ TEST_F(AFaultyDesktop, HasItsStreamsMovedAgainAfterTheSessionManagerWasKilled)
     const auto stream = nodeOf("pw-play");
     for (int round = 0; round < 2; ++round) {
         system.killSessionManager();
-        EXPECT_TRUE(comesTo(*hw1, equalizedLevel)) << "links stay while it is gone";
         system.startSessionManager();
         EXPECT_TRUE(eventually([&] { return system.metadata(stream, "target.object") == "brimsound"; }));
         EXPECT_TRUE(player->running());
@@ -106,7 +105,8 @@ TEST_F(AFaultyDesktop, HasItsStreamsMovedAgainAfterTheSessionManagerWasKilled)
     }
     EXPECT_LT(loudest(hw1->samples()), equalizedLimit);
 
-    // Some session managers link nothing then until PipeWire is started again.
+    // Some session managers take the links with them, and link devices like these again only after PipeWire
+    // was started again too.
     hw1.reset();
     player.reset();
     system.killPipeWire();

@@ -1,6 +1,6 @@
 // Where streams play, by what arrives at the devices.
 #include "tests/engine/pipewire/Desktop.h"
-#include "tests/engine/pipewire/EncodedStream.h"
+#include "tests/support/sound/EncodedStream.h"
 
 #include <csignal>
 

@@ -1,4 +1,4 @@
-#include "tests/engine/pipewire/EncodedStream.h"
+#include "tests/support/sound/EncodedStream.h"
 
 #include <spa/param/audio/iec958.h>
 #include <spa/param/format-utils.h>

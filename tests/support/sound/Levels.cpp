@@ -1,4 +1,4 @@
-#include "tests/engine/pipewire/Levels.h"
+#include "tests/support/sound/Levels.h"
 
 #include <algorithm>
 #include <cmath>

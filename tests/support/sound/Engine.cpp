@@ -1,4 +1,4 @@
-#include "tests/engine/pipewire/Engine.h"
+#include "tests/support/sound/Engine.h"
 
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
 #include "platform/CoreFoundation/CFNotificationCenter.h"
@@ -6,7 +6,7 @@
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
-#include "tests/engine/pipewire/Wait.h"
+#include "tests/support/sound/Wait.h"
 
 #include <csignal>
 #include <stdexcept>

@@ -1,6 +1,6 @@
-#include "tests/engine/pipewire/SoundSystem.h"
+#include "tests/support/sound/SoundSystem.h"
 
-#include "tests/engine/pipewire/Wait.h"
+#include "tests/support/sound/Wait.h"
 
 #include <csignal>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "tests/engine/pipewire/SoundFile.h"
+#include "tests/support/sound/SoundFile.h"
 
 #include <cmath>
 #include <cstdint>

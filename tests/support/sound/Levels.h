@@ -1,7 +1,7 @@
 // How loud captured sound is.
 #pragma once
 
-#include "tests/engine/pipewire/Recorder.h"
+#include "tests/support/sound/Recorder.h"
 
 #include <cstddef>
 #include <vector>

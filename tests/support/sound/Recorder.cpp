@@ -1,7 +1,7 @@
-#include "tests/engine/pipewire/Recorder.h"
+#include "tests/support/sound/Recorder.h"
 
 #include "desktop/engine/pipewire/ChannelLayout.h"
-#include "tests/engine/pipewire/Wait.h"
+#include "tests/support/sound/Wait.h"
 
 #include <spa/param/audio/format-utils.h>
 
