@@ -18,13 +18,6 @@ constexpr std::size_t stepLength = 16;
 constexpr float largestSample = 1e6f;
 constexpr double largestState = 1e12;
 
-using Pair [[gnu::vector_size(16)]] = double;
-
-Pair pair(double both)
-{
-    return Pair { both, both };
-}
-
 // Null stands for silence.
 float sampleAt(const float* samples, std::size_t frame)
 {
@@ -60,6 +53,11 @@ struct EqualizerProcessor::Channels {
             out[1][frame] = outputFor(inputs[1], x[1], y[1]);
     }
 };
+
+EqualizerProcessor::EqualizerProcessor() noexcept
+{
+    settle();
+}
 
 void EqualizerProcessor::set(const FilterTargets& targets) noexcept
 {
@@ -163,6 +161,7 @@ void EqualizerProcessor::process(
 void EqualizerProcessor::processStill(
     Cascade& cascade, const Channels& channels, std::size_t frames) const noexcept
 {
+    // Copies, which no output array can overlap.
     auto filters = cascade;
     const auto coefficients = _coefficients;
     for (std::size_t frame = 0; frame < frames; ++frame) {

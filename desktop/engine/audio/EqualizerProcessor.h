@@ -4,6 +4,7 @@
 #include "desktop/engine/audio/BellFilter.h"
 #include "desktop/engine/audio/FilterTargets.h"
 #include "desktop/engine/audio/GainSmoother.h"
+#include "desktop/engine/audio/Pair.h"
 
 #include <array>
 #include <cstddef>
@@ -22,6 +23,9 @@ constexpr unsigned maximumChannels = 8;
 /// set, settle and process take neither memory nor locks, and belong on one thread.
 class EqualizerProcessor {
 public:
+    /// Passes samples unchanged until targets are set.
+    EqualizerProcessor() noexcept;
+
     /// From the next step on the gains glide to these. The first targets, and those for another rate, are
     /// settled at once.
     void set(const FilterTargets&) noexcept;
@@ -39,8 +43,6 @@ public:
     void process(const float* const* in, float* const* out, unsigned channels, std::size_t frames) noexcept;
 
 private:
-    // Two channels side by side.
-    using Pair [[gnu::vector_size(16)]] = double;
     using Cascade = std::array<BellFilter<Pair>, bandCount>;
 
     struct Coefficients {

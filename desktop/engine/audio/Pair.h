@@ -1,0 +1,15 @@
+// Two channels side by side.
+#pragma once
+
+namespace brimsound::audio {
+
+/// Two numbers that are computed with at once: arithmetic on pairs is by element.
+using Pair [[gnu::vector_size(16)]] = double;
+
+/// The same number twice.
+inline Pair pair(double both)
+{
+    return Pair { both, both };
+}
+
+} // namespace brimsound::audio
