@@ -1,13 +1,13 @@
 // A desktop with programs that play.
 #pragma once
 
+#include "tests/support/TemporaryRoot.h"
 #include "tests/support/sound/Engine.h"
 #include "tests/support/sound/Levels.h"
 #include "tests/support/sound/Recorder.h"
 #include "tests/support/sound/SoundFile.h"
 #include "tests/support/sound/SoundSystem.h"
 #include "tests/support/sound/Wait.h"
-#include "tests/support/TemporaryRoot.h"
 
 #include <gmock/gmock.h>
 
