@@ -18,7 +18,7 @@ test_packages=(
 # What the benchmarks take besides those that run the pane.
 bench_packages=(
     libbenchmark-dev libcairo2-dev python3 xvfb
-    pipewire pipewire-bin wireplumber libpipewire-0.3-modules
+    pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules
 )
 # What it takes to build the device's bundle and its package. Another release of libc++ cannot be there at the same time.
 ios_packages=(cmake ninja-build clang-14 lld-14 llvm-14 libc++-14-dev dpkg git python3)

@@ -73,9 +73,7 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
         return events;
     }();
     static constexpr auto inputEvents = [] {
-        pw_stream_events events {};
-        events.version = PW_VERSION_STREAM_EVENTS;
-        events.param_changed = parameterChanged;
+        auto events = outputEvents;
         events.process = inputProcess;
         return events;
     }();
@@ -207,15 +205,15 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
 void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state now, const char*)
 {
     if (now == PW_STREAM_STATE_STREAMING)
-        static_cast<Side*>(side)->owner->_hasPlayed = true;
+        static_cast<Side*>(side)->hasPlayed = true;
 }
 
 void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)
 {
-    // Some session managers give the output the volume of an earlier run before it plays for the first time.
-    // What a mixer does to it later is the user's wish.
-    auto& output = *static_cast<Side*>(side);
-    if (output.owner->_hasPlayed)
+    // Some session managers give a node the volume of an earlier run before it plays for the first time. What
+    // a mixer does to it later is the user's wish.
+    auto& restored = *static_cast<Side*>(side);
+    if (restored.hasPlayed)
         return;
     const bool isVolume = id == SPA_PROP_volume || id == SPA_PROP_channelVolumes;
     if (!isVolume && id != SPA_PROP_mute)
@@ -227,7 +225,7 @@ void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_co
     const bool differs
         = std::any_of(control->values, control->values + count, [=](float value) { return value != wanted; });
     if (differs)
-        pw_stream_set_control(output.stream.get(), id, count, values.data(), 0);
+        pw_stream_set_control(restored.stream.get(), id, count, values.data(), 0);
 }
 
 } // namespace brimsound::engine

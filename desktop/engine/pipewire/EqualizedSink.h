@@ -47,6 +47,7 @@ private:
         Stream stream;
         Hook listener;
         Side* other = nullptr;
+        bool hasPlayed = false;
     };
 
     void open(Side&, pw_core*, const char* name, pw_properties*);
@@ -63,7 +64,6 @@ private:
     Settings _settings;
     Changes _changes;
     unsigned _rate = 0;
-    bool _hasPlayed = false;
     SoundChain _chain;
     Side _output;
     Side _input;
