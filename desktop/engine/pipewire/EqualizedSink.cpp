@@ -10,6 +10,7 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <utility>
 
 namespace brimsound::engine {
@@ -58,6 +59,24 @@ pw_buffer* newestBuffer(pw_stream* stream)
 
 } // namespace
 
+class EqualizedSink::Turn {
+public:
+    explicit Turn(EqualizedSink& sink)
+        : _sink(sink)
+    {
+        ++_sink._turns;
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    ~Turn() { --_sink._turns; }
+
+    // Counted before: either the end is seen here, or the turn is seen by the end.
+    bool mayPlay() const { return !_sink._closed; }
+
+private:
+    EqualizedSink& _sink;
+};
+
 EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings& settings, Changes changes)
     : _layout(std::move(layout))
     , _settings(settings)
@@ -88,6 +107,11 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
 
 EqualizedSink::~EqualizedSink()
 {
+    // PipeWire waits for the playing thread to leave a stream that ends, but each stream's turn uses the
+    // other one as well.
+    _closed = true;
+    while (_turns != 0)
+        std::this_thread::yield();
     // From here on the playing thread calls neither, and their listeners may go.
     for (const auto* side : { &_input, &_output }) {
         if (side->stream)
@@ -136,6 +160,9 @@ void EqualizedSink::design()
 void EqualizedSink::inputProcess(void* side)
 {
     const auto& input = *static_cast<Side*>(side);
+    const Turn turn(*input.owner);
+    if (!turn.mayPlay())
+        return;
     if (pw_stream_trigger_process(input.other->stream.get()) >= 0)
         return;
     // There is no device. The buffers go back, so that programs play on.
@@ -146,6 +173,9 @@ void EqualizedSink::inputProcess(void* side)
 void EqualizedSink::outputProcess(void* side)
 {
     const auto& output = *static_cast<Side*>(side);
+    const Turn turn(*output.owner);
+    if (!turn.mayPlay())
+        return;
     auto* inputStream = output.other->stream.get();
     auto* outputStream = output.stream.get();
     auto* in = newestBuffer(inputStream);

@@ -6,6 +6,7 @@
 #include "desktop/engine/pipewire/Pointers.h"
 #include "desktop/engine/pipewire/SoundChain.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -50,6 +51,9 @@ private:
         bool hasPlayed = false;
     };
 
+    /// While one lives on the playing thread, and says that it may, the streams are there.
+    class Turn;
+
     void open(Side&, pw_core*, const char* name, pw_properties*);
     void connect(Side&, pw_direction, unsigned flags, const pw_stream_events&);
     void design();
@@ -65,6 +69,8 @@ private:
     Changes _changes;
     unsigned _rate = 0;
     SoundChain _chain;
+    std::atomic<bool> _closed = false;
+    std::atomic<int> _turns = 0;
     Side _output;
     Side _input;
 };

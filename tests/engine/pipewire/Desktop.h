@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+#include <iostream>
+
 namespace brimsound::tests {
 
 /// A program that plays until this object goes; what it says is dropped.
@@ -47,6 +49,12 @@ protected:
     {
         storePreferences(preamp(preampDecibels));
         writeSound(tone, sine(60));
+    }
+
+    void TearDown() override
+    {
+        if (HasFailure())
+            std::cerr << system.report();
     }
 
     /// Whether the device comes to play at that level for a while.

@@ -202,6 +202,23 @@ void SoundSystem::moveStreamToDefault(std::uint32_t stream)
     setMetadata("default", stream, "target.object", "-1", "Spa:Id");
 }
 
+std::string SoundSystem::report()
+{
+    std::string report;
+    const auto add = [&](const std::string& name, std::optional<desktop::ChildProcess>& daemon) {
+        const auto status = daemon ? daemon->exitStatus(std::chrono::milliseconds(0)) : std::nullopt;
+        report += name
+            + (status        ? " ended with " + std::to_string(*status)
+                    : daemon ? " runs"
+                             : " was ended")
+            + "\n" + readFile(folder() / (name + ".log"));
+    };
+    add("pipewire", _pipewire);
+    add("wireplumber", _sessionManager);
+    add("pipewire-pulse", _pulse);
+    return report + outputOf({ "pw-link", "-l" }) + outputOf({ "pw-metadata" });
+}
+
 nlohmann::json SoundSystem::graph()
 {
     auto dump = Json::parse(outputOf({ "pw-dump" }), nullptr, false);

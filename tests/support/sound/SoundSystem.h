@@ -53,6 +53,9 @@ public:
     void moveStream(std::uint32_t stream, const std::string& sink);
     void moveStreamToDefault(std::uint32_t stream);
 
+    /// For a test that failed: which daemons run, what they said, and who plays to whom.
+    std::string report();
+
     /// The whole graph, as pw-dump tells it.
     nlohmann::json graph();
     /// A node by its name; nothing when there is none. Of several, the newest.
