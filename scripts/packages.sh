@@ -4,7 +4,7 @@
 run_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-wayland libplist-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
-    libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
+    libpipewire-0.3-dev libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
 # What the tests take besides.
@@ -13,9 +13,13 @@ test_packages=(
     locales python3 xvfb xdotool
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
+    pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng
 )
 # What the benchmarks take besides those that run the pane.
-bench_packages=(libbenchmark-dev libcairo2-dev python3 xvfb)
+bench_packages=(
+    libbenchmark-dev libcairo2-dev python3 xvfb
+    pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules
+)
 # What it takes to build the device's bundle and its package. The compiler, the linker, the tools and the standard library
 # are of one release of LLVM, the one that the Debian release has as its own.
 ios_packages=(cmake ninja-build clang lld llvm libc++-dev dpkg git python3)

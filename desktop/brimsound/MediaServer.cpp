@@ -36,9 +36,10 @@ bool isServed()
 
 } // namespace
 
-MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::path root)
+MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::path root, Sound sound)
     : _programFolder(std::move(programFolder))
     , _root(std::move(root))
+    , _sound(sound)
 {
     if (!isServed())
         start(firstPatience);
@@ -54,8 +55,10 @@ MediaServer::~MediaServer()
 
 void MediaServer::start(std::chrono::milliseconds patience)
 {
-    _process = std::make_unique<ChildProcess>(
-        std::vector<std::string> { _programFolder / "mediaserverd", "--root", _root });
+    std::vector<std::string> command { _programFolder / "mediaserverd", "--root", _root };
+    if (_sound == Sound::LeftAlone)
+        command.emplace_back("--silent");
+    _process = std::make_unique<ChildProcess>(std::move(command));
     _started = std::chrono::steady_clock::now();
     for (;;) {
         // Asked first: a server that ends because another pane's was faster leaves the name served.

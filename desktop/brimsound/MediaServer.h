@@ -15,8 +15,11 @@ namespace brimsound::desktop {
 /// takes its place.
 class MediaServer {
 public:
+    /// Whether the server equalizes the desktop's sound, or only answers.
+    enum class Sound { Equalized, LeftAlone };
+
     /// Comes back when a media server answers to the center's name. Throws std::runtime_error when none does.
-    MediaServer(std::filesystem::path programFolder, std::filesystem::path root);
+    MediaServer(std::filesystem::path programFolder, std::filesystem::path root, Sound);
     MediaServer(const MediaServer&) = delete;
     MediaServer& operator=(const MediaServer&) = delete;
     ~MediaServer();
@@ -29,6 +32,7 @@ private:
 
     const std::filesystem::path _programFolder;
     const std::filesystem::path _root;
+    const Sound _sound;
     /// Null while somebody else's serves.
     std::unique_ptr<ChildProcess> _process;
     std::chrono::steady_clock::time_point _started;

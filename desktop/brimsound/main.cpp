@@ -87,7 +87,10 @@ int run(int argc, char** argv, const Options& options)
         throw UsageError("without a display there is nothing to do but --script or --snapshot");
 
     const OwnBus bus;
-    MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot());
+    // A script is for trying the pane out, whatever plays meanwhile.
+    const auto sound = headless || !options.script.isEmpty() ? MediaServer::Sound::LeftAlone
+                                                             : MediaServer::Sound::Equalized;
+    MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot(), sound);
 
     Trace trace(stdout);
     if (!options.script.isEmpty())

@@ -1,6 +1,5 @@
 #include "desktop/mediaserverd/Equalizer.h"
 
-#include "platform/Foundation/PropertyListSerialization.h"
 #include "settings/tweak.h"
 
 #include <algorithm>
@@ -9,6 +8,9 @@
 namespace brimsound::mediaserver {
 
 namespace {
+
+/// In dB; the sliders go no further.
+constexpr float largestGain = 12;
 
 float finiteOrZero(float gain)
 {
@@ -33,16 +35,11 @@ std::optional<Gains> gainsOfMessage(const PropertyList::Dictionary& userInfo)
     return gains;
 }
 
-Gains gainsInPreferences()
+Gains gainsOfPreferences(const PropertyList::Dictionary& preferences)
 {
     Gains gains {};
-    const auto file = readPropertyListFile(preferencesPath);
-    const auto* preferences = file ? file->asDictionary() : nullptr;
-    if (!preferences)
-        return gains;
-
-    gains[0] = finiteOrZero(floatForKey(*preferences, preampKey));
-    const auto* value = preferences->find(peakingEqValuesKey);
+    gains[0] = finiteOrZero(floatForKey(preferences, preampKey));
+    const auto* value = preferences.find(peakingEqValuesKey);
     if (const auto* bands = value ? value->asArray() : nullptr) {
         const auto count = std::min(bands->size(), gains.size() - 1);
         for (std::size_t band = 0; band < count; ++band)
@@ -51,8 +48,10 @@ Gains gainsInPreferences()
     return gains;
 }
 
-void Equalizer::setGains(const Gains& gains)
+void Equalizer::setGains(Gains gains)
 {
+    for (auto& gain : gains)
+        gain = std::clamp(gain, -largestGain, largestGain);
     if (gains == _gains)
         return;
     _gains = gains;

@@ -15,14 +15,15 @@ using Gains = std::array<float, 11>;
 /// The gains of an "equalizer_send" message's user info; nothing unless "vals" is eleven finite numbers.
 std::optional<Gains> gainsOfMessage(const PropertyList::Dictionary& userInfo);
 
-/// The gains in the preferences file. What is missing, or no finite number, is 0 dB.
-Gains gainsInPreferences();
+/// The gains in the preferences. What is missing, or no finite number, is 0 dB.
+Gains gainsOfPreferences(const PropertyList::Dictionary&);
 
 /// Starts with every gain at 0 dB.
 class Equalizer {
 public:
     const Gains& gains() const { return _gains; }
-    void setGains(const Gains&);
+    /// Gains beyond 12 dB count as 12 dB.
+    void setGains(Gains);
 
     /// Called after the gains changed.
     std::function<void(const Gains&)> onChange;

@@ -1,35 +1,44 @@
-// The equalizer's engine as other programs see it: takes the live gains, and rereads the preferences when
-// told to.
+// The equalizer's engine: takes the live gains, rereads the preferences when told to, and plays with them.
+#include "desktop/engine/SoundEngine.h"
 #include "desktop/mediaserverd/Equalizer.h"
 #include "desktop/mediaserverd/MessagingServer.h"
+#include "desktop/mediaserverd/Output.h"
+#include "desktop/mediaserverd/Preferences.h"
 #include "platform/CoreFoundation/CFNotificationCenter.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "platform/desktop/process/StandardStreams.h"
 #include "settings/tweak.h"
 
-#include <nlohmann/json.hpp>
 #include <systemd/sd-event.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <getopt.h>
 #include <memory>
+#include <stdexcept>
 
 using namespace brimsound;
 using namespace brimsound::mediaserver;
 
 namespace {
 
-constexpr auto usage = R"(Usage: mediaserverd [--print] [--root DIR]
+constexpr auto usage = R"(Usage: mediaserverd [--print] [--root DIR] [--silent]
 
-Answers the equalizer's live messages on the session bus, and rereads the
-preferences when they changed.
+Equalizes what programs play through PipeWire. Answers the equalizer's live
+messages on the session bus, and rereads the preferences when they changed.
 
-  --print      print the gains, preamp first, as a line of JSON whenever they change
+  --print      print a line of JSON whenever one of these changes: "vals", the
+               gains in dB, preamp first; "connected", whether there is a
+               PipeWire; "output", the device that is played to; "layout", the
+               channels; "rate", in Hz; "headroom", the preamp plus the highest
+               gain in dB: above 0, full-scale sound may be limited; "limited",
+               how many blocks of sound were
   --root DIR   the folder that holds the device's files
+  --silent     leave the sound alone
   --help       show this text
   --version    show the version
 )";
@@ -38,6 +47,7 @@ constexpr int usageError = 2;
 
 struct Options {
     bool print = false;
+    bool silent = false;
     /// Set when the program is done already, with this exit status.
     std::optional<int> exitStatus;
 };
@@ -48,6 +58,7 @@ Options readOptions(int argumentCount, char** arguments)
         { "help", no_argument, nullptr, 'h' },
         { "print", no_argument, nullptr, 'p' },
         { "root", required_argument, nullptr, 'r' },
+        { "silent", no_argument, nullptr, 's' },
         { "version", no_argument, nullptr, 'v' },
         {},
     };
@@ -59,6 +70,9 @@ Options readOptions(int argumentCount, char** arguments)
             break;
         case 'r':
             desktop::setDeviceRoot(optarg);
+            break;
+        case 's':
+            options.silent = true;
             break;
         case 'h':
             std::fputs(usage, stdout);
@@ -77,39 +91,75 @@ Options readOptions(int argumentCount, char** arguments)
     return options;
 }
 
-// Numbers of single precision, so that they are printed no longer than that takes.
-using Json
-    = nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, float>;
+/// What the program holds together. It outlives the connection to the bus.
+struct Server {
+    Equalizer equalizer;
+    bool filterDisabled = false;
+    bool checkingDisabled = false;
+    std::unique_ptr<engine::SoundEngine> sound;
+};
 
-void print(const Gains& gains)
+engine::Settings settingsOf(const Server& server)
 {
-    std::puts(Json { { "vals", gains } }.dump().c_str());
-    std::fflush(stdout);
+    engine::Settings settings;
+    settings.limits = !server.checkingDisabled;
+    if (server.filterDisabled)
+        return settings;
+    const auto& gains = server.equalizer.gains();
+    settings.preamp = gains[0];
+    std::copy(gains.begin() + 1, gains.end(), settings.sliders.begin());
+    return settings;
 }
 
-void rereadPreferences(
-    CFNotificationCenterRef, void* equalizer, std::string_view, const void*, const PropertyList::Dictionary*)
+void updateSound(const Server& server)
 {
-    static_cast<Equalizer*>(equalizer)->setGains(gainsInPreferences());
+    if (server.sound)
+        server.sound->set(settingsOf(server));
+}
+
+void rereadGains(
+    CFNotificationCenterRef, void* server, std::string_view, const void*, const PropertyList::Dictionary*)
+{
+    // A file that somebody is writing leaves everything as it is.
+    if (const auto preferences = readPreferences())
+        static_cast<Server*>(server)->equalizer.setGains(preferences->gains);
+}
+
+void rereadFlags(
+    CFNotificationCenterRef, void* observer, std::string_view, const void*, const PropertyList::Dictionary*)
+{
+    auto& server = *static_cast<Server*>(observer);
+    if (const auto preferences = readPreferences()) {
+        server.filterDisabled = preferences->filterDisabled;
+        server.checkingDisabled = preferences->checkingDisabled;
+        updateSound(server);
+    }
+}
+
+using Event = std::unique_ptr<sd_event, decltype(&sd_event_unref)>;
+
+// An event loop that SIGTERM and SIGINT end. They are blocked, for threads made later too. Null on failure.
+Event makeEventLoop()
+{
+    sd_event* created = nullptr;
+    if (sd_event_new(&created) < 0)
+        return { nullptr, sd_event_unref };
+    Event event(created, sd_event_unref);
+    for (const int signal : { SIGTERM, SIGINT }) {
+        if (sd_event_add_signal(created, nullptr, signal | SD_EVENT_SIGNAL_PROCMASK, nullptr, nullptr) < 0)
+            return { nullptr, sd_event_unref };
+    }
+    return event;
 }
 
 // The exit status, or a negative errno.
-int serveUntilStopped(sd_bus* bus)
+int serveUntilStopped(sd_bus* bus, sd_event* event)
 {
-    sd_event* created = nullptr;
-    int result = sd_event_new(&created);
-    const std::unique_ptr<sd_event, decltype(&sd_event_unref)> event(created, sd_event_unref);
-    for (const int signal : { SIGTERM, SIGINT }) {
-        if (result >= 0)
-            result = sd_event_add_signal(
-                event.get(), nullptr, signal | SD_EVENT_SIGNAL_PROCMASK, nullptr, nullptr);
-    }
+    int result = sd_bus_set_exit_on_disconnect(bus, true);
     if (result >= 0)
-        result = sd_bus_set_exit_on_disconnect(bus, true);
+        result = sd_bus_attach_event(bus, event, SD_EVENT_PRIORITY_NORMAL);
     if (result >= 0)
-        result = sd_bus_attach_event(bus, event.get(), SD_EVENT_PRIORITY_NORMAL);
-    if (result >= 0)
-        result = sd_event_loop(event.get());
+        result = sd_event_loop(event);
     sd_bus_detach_event(bus);
     return result;
 }
@@ -129,24 +179,48 @@ int main(int argumentCount, char** arguments)
     if (options.exitStatus)
         return *options.exitStatus;
 
-    Equalizer equalizer;
-    if (options.print)
-        equalizer.onChange = print;
+    const auto event = makeEventLoop();
+    if (!event)
+        return fail("there is no event loop");
+
+    Server server;
+    server.equalizer.onChange = [&](const Gains& gains) {
+        if (options.print)
+            print(gains);
+        updateSound(server);
+    };
 
     // Messages and notifications arrive on the same connection, and so in the order in which they were sent.
     auto* bus = desktop::SessionBus::shared().listener();
     if (!bus)
         return fail("there is no session bus");
-    CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &equalizer,
-        rereadPreferences, settingsFinishedNotification, nullptr, 0);
-    const int served = serveMessagingCenter(bus, equalizer);
+    auto* notifications = CFNotificationCenterGetDarwinNotifyCenter();
+    CFNotificationCenterAddObserver(
+        notifications, &server, rereadGains, settingsFinishedNotification, nullptr, 0);
+    CFNotificationCenterAddObserver(
+        notifications, &server, rereadFlags, settingsChangedNotification, nullptr, 0);
+    const int served = serveMessagingCenter(bus, server.equalizer);
     if (served == -EEXIST)
         return fail("another media server is running already");
     if (served < 0)
         return fail(std::strerror(-served));
-    equalizer.setGains(gainsInPreferences());
 
-    const int status = serveUntilStopped(bus);
+    // The gains are there before any sound passes.
+    const auto preferences = readPreferences().value_or(Preferences {});
+    server.filterDisabled = preferences.filterDisabled;
+    server.checkingDisabled = preferences.checkingDisabled;
+    server.equalizer.setGains(preferences.gains);
+    if (!options.silent && preferences.enabled) {
+        try {
+            server.sound = std::make_unique<engine::SoundEngine>(
+                event.get(), settingsOf(server), reports(options.print));
+        } catch (const std::runtime_error& error) {
+            std::fprintf(stderr, "mediaserverd: %s\n", error.what());
+        }
+    }
+
+    const int status = serveUntilStopped(bus, event.get());
+    server.sound.reset();
     if (status < 0)
         return fail(std::strerror(-status));
     return status == EXIT_SUCCESS ? EXIT_SUCCESS : fail("the session bus went away");

@@ -193,10 +193,40 @@ TEST_F(AMediaServer, TakesOddValuesInThePreferencesForZero)
     store(Dictionary { { peakingEqValuesKey, Array(15, PropertyList(1.0)) } });
     postSettingsFinished();
     EXPECT_EQ(server.nextLine(), R"({"vals":[0.0,1.0,1.0,1.0,1.0,1.0,1.0,1.0,1.0,1.0,1.0]})");
+}
 
+TEST_F(AMediaServer, KeepsTheGainsWhileTheFileIsDamagedOrUnreadable)
+{
+    tests::MediaServer server;
+    send(someGains);
+    EXPECT_EQ(server.nextLine(), someGainsPrinted);
+
+    root.write(preferencesPath, "");
+    postSettingsFinished();
+    root.write(preferencesPath, "bplist00 and then nothing");
+    postSettingsFinished();
     store(Array { 1 });
     postSettingsFinished();
-    EXPECT_EQ(server.nextLine(), zerosPrinted);
+    const auto file = root.path() / "var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    postSettingsFinished();
+    std::filesystem::remove(file);
+    store(Dictionary { { preampKey, 1.5 } });
+    postSettingsFinished();
+    EXPECT_EQ(server.nextLine(), R"({"vals":[1.5,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0]})");
+}
+
+TEST_F(AMediaServer, TakesGainsBeyondTwelveDecibelsForTwelve)
+{
+    tests::MediaServer server;
+    send(gains({ -12.5, 13, 1e9, -1e9, 12, -12, 0, 0, 0, 0, 0 }));
+    EXPECT_EQ(error, std::nullopt);
+    EXPECT_EQ(server.nextLine(), R"({"vals":[-12.0,12.0,12.0,-12.0,12.0,-12.0,0.0,0.0,0.0,0.0,0.0]})");
+
+    store(Dictionary { { preampKey, 40 }, { peakingEqValuesKey, gains({ 1, 2, -100 }) } });
+    postSettingsFinished();
+    EXPECT_EQ(server.nextLine(), R"({"vals":[12.0,1.0,2.0,-12.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0]})");
 }
 
 TEST_F(AMediaServer, EndsCleanlyWhenToldTo)
@@ -219,13 +249,13 @@ TEST_F(AMediaServer, EndsWithAnErrorWhenTheBusGoesAway)
 TEST_F(AMediaServer, IsTheOnlyOneOnItsBus)
 {
     const tests::MediaServer server;
-    EXPECT_EQ(outcomeOf(""), "mediaserverd: another media server is running already\nexit 1\n");
+    EXPECT_EQ(outcomeOf("--silent"), "mediaserverd: another media server is running already\nexit 1\n");
 }
 
 TEST(StartingAMediaServer, NeedsABus)
 {
     const tests::EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
-    EXPECT_EQ(outcomeOf(""), "mediaserverd: there is no session bus\nexit 1\n");
+    EXPECT_EQ(outcomeOf("--silent"), "mediaserverd: there is no session bus\nexit 1\n");
 }
 
 TEST(StartingAMediaServer, TakesNoOptionsThatItDoesNotKnow)

@@ -10,8 +10,8 @@
 namespace brimsound::tests {
 
 MediaServer::MediaServer()
-    : _process(
-        { MEDIASERVERD, "--print", "--root", desktop::deviceRoot() }, desktop::ChildProcess::Output::Piped)
+    : _process({ MEDIASERVERD, "--print", "--silent", "--root", desktop::deviceRoot() },
+        desktop::ChildProcess::Output::Piped)
 {
     while (!desktop::SessionBus::shared().hasOwner(messagingCenterName)) {
         if (!_process.running())

@@ -8,8 +8,8 @@
 
 namespace brimsound::tests {
 
-/// A real mediaserverd on the session bus and the device root of the moment, with --print. It ends with this
-/// object.
+/// A real mediaserverd on the session bus and the device root of the moment, with --print and --silent:
+/// the sound of whoever runs the tests is left alone. It ends with this object.
 class MediaServer {
 public:
     /// Comes back when the server can be sent to; throws std::runtime_error when it ended before that.

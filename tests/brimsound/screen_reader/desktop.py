@@ -140,7 +140,7 @@ class Pane:
         self._file = self.root / "var/mobile/Library/Preferences/com.quorvix.brimsound.plist"
         if preferences is not None:
             self.write(preferences)
-        self.server = Program(os.environ["MEDIASERVERD"], "--print", "--root", self.root)
+        self.server = Program(os.environ["MEDIASERVERD"], "--print", "--silent", "--root", self.root)
         desktop.wait_for("com.quorvix.brimsound")
         self.errors = open(self.root / "errors", "w+", encoding="utf-8")
         # The script stays silent, and lets the trace be read.

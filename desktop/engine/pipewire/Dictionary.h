@@ -1,0 +1,23 @@
+// Properties as PipeWire hands them over.
+#pragma once
+
+#include <spa/utils/dict.h>
+
+#include <map>
+#include <string>
+
+namespace brimsound::engine {
+
+/// Null makes an empty map.
+inline std::map<std::string, std::string> toMap(const spa_dict* dictionary)
+{
+    std::map<std::string, std::string> map;
+    for (std::uint32_t i = 0; dictionary && i < dictionary->n_items; ++i) {
+        const auto& item = dictionary->items[i];
+        if (item.value)
+            map[item.key] = item.value;
+    }
+    return map;
+}
+
+} // namespace brimsound::engine

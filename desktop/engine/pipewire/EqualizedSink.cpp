@@ -1,0 +1,261 @@
+#include "desktop/engine/pipewire/EqualizedSink.h"
+
+#include "desktop/engine/pipewire/NodeNames.h"
+
+#include <spa/param/audio/format-utils.h>
+#include <spa/param/latency-utils.h>
+#include <spa/param/props.h>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <utility>
+
+namespace brimsound::engine {
+
+namespace {
+
+/// The sink's part of a cycle ends before the output's does. Without this flag later versions hand out every
+/// second buffer only; earlier ones have no need of it and do not know it.
+constexpr unsigned asyncFlag = 1U << 10;
+
+constexpr unsigned commonFlags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
+
+pw_properties* commonProperties(const char* name, const char* description, const char* mediaClass)
+{
+    // Volume and target are not to be kept from one run to the next.
+    return pw_properties_new(PW_KEY_NODE_NAME, name, PW_KEY_NODE_DESCRIPTION, description, PW_KEY_MEDIA_CLASS,
+        mediaClass, PW_KEY_NODE_GROUP, groupName, PW_KEY_NODE_LINK_GROUP, groupName, "state.restore-props",
+        "false", "state.restore-target", "false", nullptr);
+}
+
+pw_properties* sinkProperties()
+{
+    auto* properties = commonProperties(sinkName, "Brimsound", "Audio/Sink");
+    pw_properties_set(properties, PW_KEY_NODE_VIRTUAL, "true");
+    return properties;
+}
+
+pw_properties* outputProperties()
+{
+    auto* properties = commonProperties(outputName, "Brimsound output", "Stream/Output/Audio");
+    pw_properties_set(properties, PW_KEY_NODE_PASSIVE, "true");
+    return properties;
+}
+
+/// The newest buffer that has come in; older ones go back.
+pw_buffer* newestBuffer(pw_stream* stream)
+{
+    pw_buffer* newest = nullptr;
+    while (auto* buffer = pw_stream_dequeue_buffer(stream)) {
+        if (newest)
+            pw_stream_queue_buffer(stream, newest);
+        newest = buffer;
+    }
+    return newest;
+}
+
+} // namespace
+
+class EqualizedSink::Turn {
+public:
+    explicit Turn(EqualizedSink& sink)
+        : _sink(sink)
+    {
+        ++_sink._turns;
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    ~Turn() { --_sink._turns; }
+
+    // Counted before: either the end is seen here, or the turn is seen by the end.
+    bool mayPlay() const { return !_sink._closed; }
+
+private:
+    EqualizedSink& _sink;
+};
+
+EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings& settings, Changes changes)
+    : _layout(std::move(layout))
+    , _settings(settings)
+    , _changes(std::move(changes))
+{
+    static constexpr auto outputEvents = [] {
+        pw_stream_events events {};
+        events.version = PW_VERSION_STREAM_EVENTS;
+        events.state_changed = stateChanged;
+        events.control_info = controlInfo;
+        events.param_changed = parameterChanged;
+        events.process = outputProcess;
+        return events;
+    }();
+    static constexpr auto inputEvents = [] {
+        auto events = outputEvents;
+        events.process = inputProcess;
+        return events;
+    }();
+    open(_output, core, "Brimsound output", outputProperties());
+    open(_input, core, "Brimsound", sinkProperties());
+    _output.other = &_input;
+    _input.other = &_output;
+    // The output comes first: when sound arrives there is somewhere to take it.
+    connect(_output, PW_DIRECTION_OUTPUT, PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_TRIGGER, outputEvents);
+    connect(_input, PW_DIRECTION_INPUT, asyncFlag, inputEvents);
+}
+
+EqualizedSink::~EqualizedSink()
+{
+    // PipeWire waits for the playing thread to leave a stream that ends, but each stream's turn uses the
+    // other one as well.
+    _closed = true;
+    while (_turns != 0)
+        std::this_thread::yield();
+    // From here on the playing thread calls neither, and their listeners may go.
+    for (const auto* side : { &_input, &_output }) {
+        if (side->stream)
+            pw_stream_disconnect(side->stream.get());
+    }
+}
+
+void EqualizedSink::open(Side& side, pw_core* core, const char* name, pw_properties* properties)
+{
+    side.owner = this;
+    side.stream.reset(pw_stream_new(core, name, properties));
+    if (!side.stream)
+        throw std::runtime_error("PipeWire takes no stream");
+}
+
+void EqualizedSink::connect(
+    Side& side, pw_direction direction, unsigned flags, const pw_stream_events& events)
+{
+    pw_stream_add_listener(side.stream.get(), &side.listener, &events, &side);
+
+    spa_audio_info_raw format {};
+    format.format = SPA_AUDIO_FORMAT_F32P;
+    format.channels = static_cast<std::uint32_t>(_layout.size());
+    std::ranges::copy(_layout, format.position);
+    std::array<std::uint8_t, 1024> bytes {};
+    spa_pod_builder builder {};
+    spa_pod_builder_init(&builder, bytes.data(), bytes.size());
+    const spa_pod* parameters[] = { spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format) };
+    const auto all = static_cast<pw_stream_flags>(commonFlags | flags);
+    if (pw_stream_connect(side.stream.get(), direction, PW_ID_ANY, all, parameters, 1) < 0)
+        throw std::runtime_error("PipeWire does not connect a stream");
+}
+
+void EqualizedSink::set(const Settings& settings)
+{
+    _settings = settings;
+    design();
+}
+
+void EqualizedSink::design()
+{
+    if (_rate != 0)
+        _changes.headroom(_chain.set(_settings, _rate));
+}
+
+void EqualizedSink::inputProcess(void* side)
+{
+    const auto& input = *static_cast<Side*>(side);
+    const Turn turn(*input.owner);
+    if (!turn.mayPlay())
+        return;
+    if (pw_stream_trigger_process(input.other->stream.get()) >= 0)
+        return;
+    // There is no device. The buffers go back, so that programs play on.
+    if (auto* buffer = newestBuffer(input.stream.get()))
+        pw_stream_queue_buffer(input.stream.get(), buffer);
+}
+
+void EqualizedSink::outputProcess(void* side)
+{
+    const auto& output = *static_cast<Side*>(side);
+    const Turn turn(*output.owner);
+    if (!turn.mayPlay())
+        return;
+    auto* inputStream = output.other->stream.get();
+    auto* outputStream = output.stream.get();
+    auto* in = newestBuffer(inputStream);
+    auto* out = pw_stream_dequeue_buffer(outputStream);
+    if (in && out) {
+        const auto channels = std::min(
+            { static_cast<std::size_t>(in->buffer->n_datas), static_cast<std::size_t>(out->buffer->n_datas),
+                static_cast<std::size_t>(audio::maximumChannels) });
+        std::array<const float*, audio::maximumChannels> from {};
+        std::array<float*, audio::maximumChannels> to {};
+        std::size_t bytes = channels ? in->buffer->datas[0].maxsize : 0;
+        for (std::size_t channel = 0; channel < channels; ++channel) {
+            const auto& source = in->buffer->datas[channel];
+            const auto offset = std::min(source.chunk->offset, source.maxsize);
+            bytes = std::min<std::size_t>({ bytes, std::min(source.chunk->size, source.maxsize - offset),
+                out->buffer->datas[channel].maxsize });
+            from[channel] = source.data
+                ? reinterpret_cast<const float*>(static_cast<const std::byte*>(source.data) + offset)
+                : nullptr;
+            to[channel] = static_cast<float*>(out->buffer->datas[channel].data);
+        }
+        output.owner->_chain.process(
+            from.data(), to.data(), static_cast<unsigned>(channels), bytes / sizeof(float));
+        for (std::size_t channel = 0; channel < out->buffer->n_datas; ++channel) {
+            auto& chunk = *out->buffer->datas[channel].chunk;
+            chunk.offset = 0;
+            chunk.size = static_cast<std::uint32_t>(bytes);
+            chunk.stride = sizeof(float);
+        }
+    }
+    if (in)
+        pw_stream_queue_buffer(inputStream, in);
+    if (out)
+        pw_stream_queue_buffer(outputStream, out);
+}
+
+void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod* parameter)
+{
+    auto& changed = *static_cast<Side*>(side);
+    auto& self = *changed.owner;
+    if (!parameter)
+        return;
+    if (id == SPA_PARAM_Format) {
+        spa_audio_info_raw format {};
+        if (spa_format_audio_raw_parse(parameter, &format) < 0 || format.rate == 0
+            || format.rate == self._rate)
+            return;
+        self._rate = format.rate;
+        self._changes.rate(format.rate);
+        self.design();
+    } else if (id == SPA_PARAM_Latency) {
+        // What lies behind one side is what programs at the other side have to reckon with.
+        pw_stream_update_params(changed.other->stream.get(), &parameter, 1);
+    }
+}
+
+void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state now, const char*)
+{
+    if (now == PW_STREAM_STATE_STREAMING)
+        static_cast<Side*>(side)->hasPlayed = true;
+}
+
+void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)
+{
+    // Some session managers give a node the volume of an earlier run before it plays for the first time. What
+    // a mixer does to it later is the user's wish.
+    auto& restored = *static_cast<Side*>(side);
+    if (restored.hasPlayed)
+        return;
+    const bool isVolume = id == SPA_PROP_volume || id == SPA_PROP_channelVolumes;
+    if (!isVolume && id != SPA_PROP_mute)
+        return;
+    const float wanted = isVolume ? 1 : 0;
+    std::array<float, audio::maximumChannels> values {};
+    values.fill(wanted);
+    const auto count = std::min<std::uint32_t>(control->n_values, audio::maximumChannels);
+    const bool differs
+        = std::any_of(control->values, control->values + count, [=](float value) { return value != wanted; });
+    if (differs)
+        pw_stream_set_control(restored.stream.get(), id, count, values.data(), 0);
+}
+
+} // namespace brimsound::engine

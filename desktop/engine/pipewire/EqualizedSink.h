@@ -1,0 +1,78 @@
+// The sink that programs play to, and its output to the device.
+#pragma once
+
+#include "desktop/engine/SoundEngine.h"
+#include "desktop/engine/pipewire/ChannelLayout.h"
+#include "desktop/engine/pipewire/Pointers.h"
+#include "desktop/engine/pipewire/SoundChain.h"
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace brimsound::engine {
+
+/// Two streams of one program, an Audio/Sink and a Stream/Output/Audio, that PipeWire runs within one cycle:
+/// the sound is not delayed by a sample. The output follows the default device, and lets it sleep.
+class EqualizedSink {
+public:
+    /// Called on the loop's thread.
+    struct Changes {
+        /// The rate in Hz, whenever sound of another rate is going to come.
+        std::function<void(unsigned)> rate;
+        std::function<void(double)> headroom;
+    };
+
+    /// Throws std::runtime_error when PipeWire does not take the streams.
+    EqualizedSink(pw_core*, ChannelLayout, const Settings&, Changes);
+    EqualizedSink(const EqualizedSink&) = delete;
+    EqualizedSink& operator=(const EqualizedSink&) = delete;
+    ~EqualizedSink();
+
+    /// The nodes' numbers in the graph; SPA_ID_INVALID until they have one.
+    std::uint32_t sinkNode() const { return pw_stream_get_node_id(_input.stream.get()); }
+    std::uint32_t outputNode() const { return pw_stream_get_node_id(_output.stream.get()); }
+    const ChannelLayout& layout() const { return _layout; }
+    /// 0 until there was sound to come.
+    unsigned rate() const { return _rate; }
+    std::uint64_t limitedBlocks() const { return _chain.limitedBlocks(); }
+
+    void set(const Settings&);
+    /// From now on there is silence.
+    void mute() { _chain.mute(); }
+
+private:
+    struct Side {
+        EqualizedSink* owner = nullptr;
+        Stream stream;
+        Hook listener;
+        Side* other = nullptr;
+        bool hasPlayed = false;
+    };
+
+    /// While one lives on the playing thread, and says that it may, the streams are there.
+    class Turn;
+
+    void open(Side&, pw_core*, const char* name, pw_properties*);
+    void connect(Side&, pw_direction, unsigned flags, const pw_stream_events&);
+    void design();
+
+    static void inputProcess(void* side);
+    static void outputProcess(void* side);
+    static void parameterChanged(void* side, std::uint32_t id, const spa_pod*);
+    static void controlInfo(void* side, std::uint32_t id, const pw_stream_control*);
+    static void stateChanged(void* side, pw_stream_state before, pw_stream_state now, const char* error);
+
+    const ChannelLayout _layout;
+    Settings _settings;
+    Changes _changes;
+    unsigned _rate = 0;
+    SoundChain _chain;
+    std::atomic<bool> _closed = false;
+    std::atomic<int> _turns = 0;
+    Side _output;
+    Side _input;
+};
+
+} // namespace brimsound::engine

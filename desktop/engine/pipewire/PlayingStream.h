@@ -1,0 +1,40 @@
+// A program's stream, looked at closely.
+#pragma once
+
+#include "desktop/engine/pipewire/Pointers.h"
+#include "desktop/engine/pipewire/StreamRouting.h"
+
+#include <functional>
+
+namespace brimsound::engine {
+
+/// Finds out what the registry does not tell about a stream: all its properties, and whether it can do
+/// without encoding. The session manager links a stream when it knows as much, so this must not take longer.
+class PlayingStream {
+public:
+    /// Takes over the proxy of a node. `changed` is told what is known once that is enough to decide by, and
+    /// again when it changed.
+    PlayingStream(Proxy, pw_core*, std::function<void(const StreamProperties&)> changed);
+    PlayingStream(const PlayingStream&) = delete;
+    PlayingStream& operator=(const PlayingStream&) = delete;
+
+private:
+    static void info(void* self, const pw_node_info*);
+    static void param(
+        void* self, int sequence, std::uint32_t id, std::uint32_t index, std::uint32_t next, const spa_pod*);
+    static void done(void* self, std::uint32_t id, int sequence);
+    void tell();
+
+    Proxy _proxy;
+    std::function<void(const StreamProperties&)> _changed;
+    StreamProperties _properties;
+    int _sync = 0;
+    bool _hasInfo = false;
+    bool _hasFormats = false;
+    bool _offersRaw = false;
+    bool _offersEncoded = false;
+    Hook _nodeListener;
+    Hook _coreListener;
+};
+
+} // namespace brimsound::engine

@@ -1,0 +1,84 @@
+// A desktop with programs that play.
+#pragma once
+
+#include "tests/support/TemporaryRoot.h"
+#include "tests/support/sound/Engine.h"
+#include "tests/support/sound/Levels.h"
+#include "tests/support/sound/Recorder.h"
+#include "tests/support/sound/SoundFile.h"
+#include "tests/support/sound/SoundSystem.h"
+#include "tests/support/sound/Wait.h"
+
+#include <gmock/gmock.h>
+
+#include <iostream>
+
+namespace brimsound::tests {
+
+/// A program that plays until this object goes; what it says is dropped.
+class Player : public desktop::ChildProcess {
+public:
+    explicit Player(const std::vector<std::string>& command)
+        : ChildProcess(quietly(command))
+    {
+    }
+
+private:
+    static std::vector<std::string> quietly(const std::vector<std::string>& command)
+    {
+        std::vector<std::string> arguments { "sh", "-c", "exec \"$@\" >/dev/null 2>&1", "sh" };
+        arguments.insert(arguments.end(), command.begin(), command.end());
+        return arguments;
+    }
+};
+
+/// A preamp of -6 dB tells the equalized sound from the sound as it is.
+inline constexpr double preampDecibels = -6;
+inline constexpr double equalizedLevel = sineLevel * 0.5011872;
+/// 1 dB above that; sound as it is would be far beyond.
+inline constexpr double equalizedLimit = equalizedLevel * 1.1220185;
+
+/// A test's own sound system, its preferences with a preamp of -6 dB, and a minute of a sine of 1 kHz to
+/// play.
+class ADesktop : public testing::Test {
+protected:
+    explicit ADesktop(SoundSystem::Devices devices = SoundSystem::Devices::All)
+        : system(devices)
+        , tone(system.folder() / "tone.wav")
+        , playTone { "pw-play", tone }
+    {
+        storePreferences(preamp(preampDecibels));
+        writeSound(tone, sine(60));
+    }
+
+    void TearDown() override
+    {
+        if (HasFailure())
+            std::cerr << system.report();
+    }
+
+    /// Whether the device comes to play at that level for a while.
+    static testing::AssertionResult comesTo(const Recorder& device, double wanted)
+    {
+        double found = 0;
+        const bool came = eventually([&] {
+            found = level(device.next(9600));
+            return found > wanted * 0.97 - 1e-4 && found < wanted * 1.03 + 1e-4;
+        });
+        return (came ? testing::AssertionSuccess() : testing::AssertionFailure())
+            << "the level is " << found << ", not " << wanted;
+    }
+
+    std::uint32_t nodeOf(const std::string& name)
+    {
+        eventually([&] { return system.node(name).has_value(); });
+        return system.node(name).value();
+    }
+
+    TemporaryRoot root;
+    SoundSystem system;
+    std::filesystem::path tone;
+    std::vector<std::string> playTone;
+};
+
+} // namespace brimsound::tests

@@ -1,0 +1,23 @@
+// Sound for programs to play.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace brimsound::tests {
+
+/// The amplitude of `sine`, and its level.
+inline constexpr double sineAmplitude = 0.25;
+inline constexpr double sineLevel = 0.1767767;
+
+/// A sine of 1 kHz, 48,000 samples a second.
+std::vector<float> sine(double seconds);
+
+/// Writes samples, the same for each channel, as a WAV file of 32-bit floating-point numbers.
+void writeSound(
+    const std::filesystem::path&, const std::vector<float>&, unsigned channels = 2, unsigned rate = 48000);
+/// The channels interleaved.
+void writeInterleaved(
+    const std::filesystem::path&, const std::vector<float>&, unsigned channels, unsigned rate);
+
+} // namespace brimsound::tests
