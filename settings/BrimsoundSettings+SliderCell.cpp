@@ -5,6 +5,8 @@
 #include "settings/SliderRow.h"
 #include "settings/tweak.h"
 
+#include <utility>
+
 namespace brimsound {
 
 namespace {
