@@ -4,6 +4,7 @@
 #include "desktop/engine/audio/EqualizerProcessor.h"
 #include "desktop/engine/audio/FilterResponse.h"
 #include "desktop/render/Gains.h"
+#include "settings/TenGains.h"
 #include "settings/store/presets.h"
 
 #include <algorithm>
@@ -121,7 +122,7 @@ int main()
     const EqualizerDesign design(rate);
     for (const auto& [name, preset] : builtin_presets()) {
         BandGains sliders {};
-        std::ranges::copy(tenGains(name, preset), sliders.begin());
+        std::ranges::copy(tenGains(preset), sliders.begin());
         const auto targets = design.solve(sliders, render::autoPreamp(sliders));
         const auto ofPink = levelOf(pink, targets);
         const auto ofLoud = levelOf(loud, targets);

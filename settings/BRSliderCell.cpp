@@ -1,5 +1,7 @@
 #include "settings/BRSliderCell.h"
 
+#include "settings/SliderRow.h"
+
 namespace brimsound {
 
 BRSliderCell::~BRSliderCell()

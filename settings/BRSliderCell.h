@@ -19,11 +19,6 @@ class BRSliderCell : public UITableViewCell {
 public:
     using UITableViewCell::UITableViewCell;
 
-    /// The place of a slider within a content view of that width, in points: room for the caption at its
-    /// left, a little space at its right.
-    static constexpr CGFloat sliderX = 35;
-    static constexpr CGFloat sliderWidth(CGFloat contentWidth) { return contentWidth - 40; }
-
     const std::shared_ptr<SliderList>& sliders() const { return _sliders; }
     void setSliders(std::shared_ptr<SliderList> sliders) { _sliders = std::move(sliders); }
     const std::shared_ptr<LabelList>& labels() const { return _labels; }

@@ -22,18 +22,16 @@ UIView& topmostBelowWindow(UIView& view)
 
 void BrimsoundSettingsListController::showPresets(NSObject*)
 {
-    // In a low window the slider row may be off view, and with it what the panel finds its place by.
-    if (!_sliders || &rootOf(*_blackBar) != &rootOf(table())) {
-        table().setContentOffset(table().rectForRowAtIndexPath(sliderRow).origin);
-        table().layoutIfNeeded();
-    }
+    // In a low window the table may not have asked for the slider row yet. It gets this cell when it does.
     if (!_sliders)
-        return;
+        _cellBuiltAhead = tableViewCellForRowAtIndexPath(table(), sliderRow);
     if (!_saver || !_saver->mainView())
         _saver = make<PlaylistSaver>(*this);
     _saver->setSliders({ _sliders->begin() + 1, _sliders->end() });
 
-    auto& host = topmostBelowWindow(*_blackBar);
+    // A row that is off view is in no window, but its table is.
+    const bool isOnView = &rootOf(*_blackBar) == &rootOf(table());
+    auto& host = topmostBelowWindow(isOnView ? *_blackBar : table());
     auto& panel = _saver->view();
     host.addSubview(panel);
     panel.setFrame(host.bounds());
@@ -42,7 +40,7 @@ void BrimsoundSettingsListController::showPresets(NSObject*)
 
 void BrimsoundSettingsListController::playlistSaverSelectedPreset(PlaylistSaver&, const PropertyList& gains)
 {
-    if (!_sliders || _sliders->size() == 1)
+    if (!_sliders || _sliders->size() == 1 || gains.isNull())
         return;
     static const PropertyList::Array none;
     const auto& values = gains.asArray() ? *gains.asArray() : none;

@@ -1,7 +1,11 @@
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "settings/BrimsoundSettings.h"
 #include "settings/GainColor.h"
+#include "settings/GainLimit.h"
+#include "settings/SliderRow.h"
 #include "settings/tweak.h"
+
+#include <utility>
 
 namespace brimsound {
 
@@ -10,16 +14,35 @@ namespace {
 /// The run-time name under which the table keeps the slider cell.
 constexpr auto sliderCellIdentifier = "slidershit";
 
-constexpr CGFloat sliderRowHeight = 484;
-constexpr CGFloat rowHeight = 44;
-constexpr float highestGain = 12;
+constexpr CGFloat otherRowHeight = 44;
+constexpr double captionSize = 10;
+
+RetainPtr<UILabel> makeCaption(const std::string& text, const CGRect& frame)
+{
+    auto label = make<UILabel>();
+    label->setText(text);
+    label->setTextAlignment(NSTextAlignment::Center);
+    label->setFont(label->font()->fontWithSize(captionSize));
+    label->setTextColor(UIColor::blackColor());
+    label->setBackgroundColor(UIColor::clearColor());
+    label->setFrame(frame);
+    return label;
+}
+
+/// What the preferences file holds, with no default for what it lacks.
+PropertyList::Dictionary storedPreferences()
+{
+    auto file = readPropertyListFile(preferencesPath);
+    auto* preferences = file ? file->asDictionary() : nullptr;
+    return preferences ? std::move(*preferences) : PropertyList::Dictionary();
+}
 
 } // namespace
 
 CGFloat BrimsoundSettingsListController::tableViewHeightForRowAtIndexPath(
     UITableView&, const NSIndexPath& indexPath)
 {
-    return indexPath == sliderRow ? sliderRowHeight : rowHeight;
+    return indexPath == sliderRow ? sliderRowHeight : otherRowHeight;
 }
 
 RetainPtr<UITableViewCell> BrimsoundSettingsListController::tableViewCellForRowAtIndexPath(
@@ -29,79 +52,82 @@ RetainPtr<UITableViewCell> BrimsoundSettingsListController::tableViewCellForRowA
         return PSListController::tableViewCellForRowAtIndexPath(table, indexPath);
 
     auto cell = table.dequeueReusableCellWithIdentifier(sliderCellIdentifier);
+    if (!cell)
+        cell = std::exchange(_cellBuiltAhead, nullptr);
     if (!cell) {
         cell = make<BRSliderCell>(UITableViewCellStyle::Default, sliderCellIdentifier);
         cell->setSelectionStyle(UITableViewCellSelectionStyle::None);
     }
-    const auto height = static_cast<float>(tableViewHeightForRowAtIndexPath(table, indexPath));
+    const auto height = tableViewHeightForRowAtIndexPath(table, indexPath);
     if (!_sliders)
-        buildSliders(static_cast<BRSliderCell&>(*cell), height / static_cast<float>(FREQUENCY_STRS.size()));
+        buildSliders(static_cast<BRSliderCell&>(*cell), stripHeightIn(height));
     return cell;
 }
 
 void BrimsoundSettingsListController::buildSliders(BRSliderCell& cell, CGFloat stripHeight)
 {
-    const auto count = FREQUENCY_STRS.size();
-    auto& content = cell.contentView();
-
     _sliders = std::make_shared<SliderList>();
-    _sliders->reserve(count);
+    _sliders->reserve(stripCount);
     _labels = std::make_shared<LabelList>();
-    _labels->reserve(count);
+    _labels->reserve(stripCount);
     cell.setSliders(_sliders);
     cell.setLabels(_labels);
 
+    auto& content = cell.contentView();
     // Added first, so that the bar lies behind the sliders.
-    _blackBar = make<UIView>(CGRectMake(0, stripHeight + 10, 1, 10 * stripHeight - 20));
+    addBlackBar(content, stripHeight);
+    const auto preferences = storedPreferences();
+    const auto* gains = arrayForKey(preferences, peakingEqValuesKey);
+    addStrip(content, stripHeight, floatForKey(preferences, preampKey));
+    for (std::size_t band = 0; band + 1 < stripCount; ++band)
+        addStrip(content, stripHeight, gains && band < gains->size() ? (*gains)[band].floatValue() : 0);
+    updateBlackBar();
+}
+
+void BrimsoundSettingsListController::addBlackBar(UIView& content, CGFloat stripHeight)
+{
+    _blackBar = make<UIView>(blackBarFrame(stripHeight));
     _blackBar->setBackgroundColor(UIColor::lightGrayColor());
     content.addSubview(*_blackBar);
+}
 
-    const auto file = readPropertyListFile(preferencesPath);
-    const auto* preferences = file ? file->asDictionary() : nullptr;
-    const auto* values = preferences ? preferences->find(peakingEqValuesKey) : nullptr;
-    const auto* gains = values ? values->asArray() : nullptr;
+void BrimsoundSettingsListController::addStrip(UIView& content, CGFloat stripHeight, float gain)
+{
+    const auto index = _sliders->size();
+    const auto& caption = *FREQUENCY_STRS[index];
+    const auto slider = makeSlider(sliderFrame(index, stripHeight, content.frame().size.width));
+    const auto label = makeCaption(caption, captionFrame(index, stripHeight));
+    slider->setAccessibilityLabel(caption);
+    _sliders->push_back(slider);
+    _labels->push_back(label);
 
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto y = static_cast<CGFloat>(i) * stripHeight;
+    slider->setValue(gain);
+    if (index == 0)
+        slider->setMinimumTrackTintColor(UIColor::blackColor());
+    else
+        updateSliderColor(*slider);
+    content.addSubview(*slider);
+    content.addSubview(*label);
+}
 
-        auto slider = make<UISlider>();
-        slider->setMaximumValue(highestGain);
-        slider->setMinimumValue(-highestGain);
-        slider->addTargetActionForControlEvents(*this, "sliderChanged:",
-            UIControlEventTouchDown | UIControlEventTouchDragInside | UIControlEventTouchDragOutside);
-        slider->addTargetActionForControlEvents(*this, "sliderStopped:",
-            UIControlEventTouchUpInside | UIControlEventTouchUpOutside | UIControlEventTouchCancel
-                | UIControlEventEditingDidEnd | UIControlEventEditingDidEndOnExit);
-        slider->setFrame(CGRectMake(
-            BRSliderCell::sliderX, y, BRSliderCell::sliderWidth(content.frame().size.width), stripHeight));
-        if (i == 0) {
-            slider->setValue(preferences ? floatForKey(*preferences, preampKey) : 0);
-            slider->setMinimumTrackTintColor(UIColor::blackColor());
-        } else {
-            slider->setValue(gains && i <= gains->size() ? (*gains)[i - 1].floatValue() : 0);
-            updateSliderColor(*slider);
-        }
-
-        slider->setAccessibilityLabel(*FREQUENCY_STRS[i]);
-
-        auto label = make<UILabel>();
-        label->setText(*FREQUENCY_STRS[i]);
-        label->setTextAlignment(NSTextAlignment::Center);
-        label->setFont(label->font()->fontWithSize(10));
-        label->setTextColor(UIColor::blackColor());
-        label->setBackgroundColor(UIColor::clearColor());
-        label->setFrame(CGRectMake(5, y, 25, stripHeight));
-
-        _sliders->push_back(slider);
-        _labels->push_back(label);
-        content.addSubview(*slider);
-        content.addSubview(*label);
-    }
-    updateBlackBar();
+RetainPtr<UISlider> BrimsoundSettingsListController::makeSlider(const CGRect& frame)
+{
+    auto slider = make<UISlider>();
+    slider->setMaximumValue(gainLimit);
+    slider->setMinimumValue(-gainLimit);
+    slider->addTargetActionForControlEvents(*this, "sliderChanged:",
+        UIControlEventTouchDown | UIControlEventTouchDragInside | UIControlEventTouchDragOutside);
+    slider->addTargetActionForControlEvents(*this, "sliderStopped:",
+        UIControlEventTouchUpInside | UIControlEventTouchUpOutside | UIControlEventTouchCancel
+            | UIControlEventEditingDidEnd | UIControlEventEditingDidEndOnExit);
+    slider->setFrame(frame);
+    return slider;
 }
 
 void BrimsoundSettingsListController::updateSliderColor(UISlider& slider)
 {
+    if (!indexOf(slider))
+        return;
     if (&slider == &preamp()) {
         for (const auto& other : *_sliders) {
             if (other != &slider)

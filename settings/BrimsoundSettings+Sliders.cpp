@@ -2,6 +2,7 @@
 #include "platform/CoreFoundation/CFNotificationCenter.h"
 #include "platform/Foundation/NSString.h"
 #include "settings/BrimsoundSettings.h"
+#include "settings/GainLimit.h"
 #include "settings/Log.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
@@ -10,22 +11,31 @@
 
 namespace brimsound {
 
-std::size_t BrimsoundSettingsListController::indexOf(const UISlider& slider) const
+std::optional<std::size_t> BrimsoundSettingsListController::indexOf(const UISlider& slider) const
 {
+    if (!_sliders)
+        return std::nullopt;
     const auto found = std::find_if(
         _sliders->begin(), _sliders->end(), [&](const auto& candidate) { return candidate == &slider; });
+    if (found == _sliders->end())
+        return std::nullopt;
     return static_cast<std::size_t>(found - _sliders->begin());
 }
 
 void BrimsoundSettingsListController::sliderChanged(UISlider& sender)
 {
     const auto index = indexOf(sender);
-    (*_labels)[index]->setText(stringWithFormat("%.1f", sender.value()));
+    if (!index)
+        return;
+    (*_labels)[*index]->setText(stringWithFormat("%.1f", sender.value()));
 
-    if (index != 0 && _autoPreamp) {
-        float highest = -12;
-        for (std::size_t i = 1; i < _sliders->size(); ++i)
-            highest = std::max(highest, (*_sliders)[i]->value());
+    if (*index != 0 && _autoPreamp) {
+        float highest = -gainLimit;
+        for (std::size_t i = 1; i < _sliders->size(); ++i) {
+            // Of equal values the last one counts, which tells a zero from a minus zero.
+            if (!((*_sliders)[i]->value() < highest))
+                highest = (*_sliders)[i]->value();
+        }
         preamp().setValue(-highest);
         // As if the preamp had been moved: that recolours every band, this one too, and sends once.
         sliderChanged(preamp());
@@ -37,6 +47,8 @@ void BrimsoundSettingsListController::sliderChanged(UISlider& sender)
 
 void BrimsoundSettingsListController::sendToMediaServer()
 {
+    if (!_sliders)
+        return;
     PropertyList::Array values;
     values.reserve(_sliders->size());
     for (const auto& slider : *_sliders)
@@ -48,7 +60,7 @@ void BrimsoundSettingsListController::sendToMediaServer()
     std::optional<NSError> error;
     _center->sendMessageAndReceiveReplyName(equalizerSendMessage, userInfo, error);
     if (error) {
-        logLine("ERROR SENDING TO MEDIA SERVER " + error->localizedDescription);
+        logLine("ERROR SENDING TO MEDIA SERVER " + descriptionOf(*error));
         openCenter();
     }
 }
@@ -56,17 +68,18 @@ void BrimsoundSettingsListController::sendToMediaServer()
 void BrimsoundSettingsListController::sliderStopped(UISlider& sender)
 {
     const auto index = indexOf(sender);
-    (*_labels)[index]->setText(*FREQUENCY_STRS[index]);
-    if (index != 0)
+    if (!index)
+        return;
+    (*_labels)[*index]->setText(*FREQUENCY_STRS[*index]);
+    if (*index != 0)
         _labels->front()->setText(*FREQUENCY_STRS[0]);
 
     auto preferences = get_preferences();
-    auto* values = preferences.find(peakingEqValuesKey);
-    if (auto* gains = values ? values->asArray() : nullptr) {
+    if (auto* gains = arrayForKey(preferences, peakingEqValuesKey)) {
         for (std::size_t i = 0; i + 1 < _sliders->size() && i < gains->size(); ++i)
             (*gains)[i] = (*_sliders)[i + 1]->value();
     }
-    if (index != 0)
+    if (*index != 0)
         preferences.remove(selectedPresetKey);
     preferences.set(preampKey, preamp().value());
     write_preferences(std::move(preferences));

@@ -14,18 +14,17 @@ namespace {
 constexpr double firstWithBackboard = 792.0;
 
 /// The value that is stored under the key, as it is; the default when there is none.
-PropertyList storedValue(const PropertyList& key, bool defaultValue)
+PropertyList storedValue(const std::string& key, bool defaultValue)
 {
     const auto preferences = get_preferences();
-    const auto* value = key.asString() ? preferences.find(*key.asString()) : nullptr;
+    const auto* value = preferences.find(key);
     return value ? *value : PropertyList(defaultValue);
 }
 
-void store(const PropertyList& key, const PropertyList& value)
+void store(const std::string& key, const PropertyList& value)
 {
     auto preferences = get_preferences();
-    if (key.asString())
-        preferences.set(*key.asString(), value);
+    preferences.set(key, value);
     write_preferences(std::move(preferences));
 }
 
@@ -43,12 +42,9 @@ void BrimsoundSettingsListController::respring(PSSpecifier&)
     sendSettings();
 }
 
-void BrimsoundSettingsListController::showAlertViewWithMessage(const PropertyList& message)
+void BrimsoundSettingsListController::showAlertViewWithMessage(const std::string& message)
 {
-    const auto* text = message.asString();
-    make<UIAlertView>(
-        "", text ? *text : std::string(), this, "Not now", std::vector<std::string> { "Respring" })
-        ->show();
+    make<UIAlertView>("", message, this, "Not now", std::vector<std::string> { "Respring" })->show();
 }
 
 PropertyList BrimsoundSettingsListController::enabled()
@@ -58,6 +54,8 @@ PropertyList BrimsoundSettingsListController::enabled()
 
 void BrimsoundSettingsListController::setEnabled(const PropertyList& value)
 {
+    if (value.isNull())
+        return;
     store(enabledKey, value);
     showAlertViewWithMessage(value.boolValue()
             ? "In order to enable the equalizer, you will need to respring."
@@ -71,24 +69,28 @@ PropertyList BrimsoundSettingsListController::enabledCC()
 
 void BrimsoundSettingsListController::setEnabledCC(const PropertyList& value)
 {
+    if (value.isNull())
+        return;
     store(enabledCCKey, value);
     showAlertViewWithMessage(value.boolValue()
             ? "In order to add the equalizer to the control center, you will need to respring."
             : "In order to remove the equalizer from the control center, you will need to respring.");
 }
 
-PropertyList BrimsoundSettingsListController::varDisabled(const PropertyList& key)
+PropertyList BrimsoundSettingsListController::varDisabled(const std::string& key)
 {
     return storedValue(key, false);
 }
 
-PropertyList BrimsoundSettingsListController::varEnabled(const PropertyList& key)
+PropertyList BrimsoundSettingsListController::varEnabled(const std::string& key)
 {
     return storedValue(key, true);
 }
 
-void BrimsoundSettingsListController::setVarValue(const PropertyList& key, const PropertyList& value)
+void BrimsoundSettingsListController::setVarValue(const std::string& key, const PropertyList& value)
 {
+    if (value.isNull())
+        return;
     store(key, value);
     CFNotificationCenterPostNotification(
         CFNotificationCenterGetDarwinNotifyCenter(), settingsChangedNotification, nullptr, nullptr, true);
@@ -101,6 +103,8 @@ PropertyList BrimsoundSettingsListController::autoPreamp()
 
 void BrimsoundSettingsListController::setAutoPreamp(const PropertyList& value)
 {
+    if (value.isNull())
+        return;
     _autoPreamp = value.boolValue();
     setVarValue(autoPreampKey, value);
 }

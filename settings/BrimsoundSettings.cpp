@@ -1,6 +1,7 @@
 #include "settings/BrimsoundSettings.h"
 
 #include "platform/AppSupport/rocketbootstrap.h"
+#include "settings/Bundle.h"
 #include "settings/Localized.h"
 #include "settings/Log.h"
 #include "settings/store/preferences.h"
@@ -9,10 +10,6 @@
 namespace brimsound {
 
 namespace {
-
-constexpr auto className = "BrimsoundSettingsListController";
-/// The name of both the specifier plist and the strings table.
-constexpr auto resourceName = "BrimsoundSettings";
 
 bool isNegated(const PSSpecifier& specifier)
 {
@@ -57,7 +54,7 @@ void finishSettingsNotification(
 }
 
 BrimsoundSettingsListController::BrimsoundSettingsListController()
-    : PSListController(className)
+    : PSListController(controllerClassName)
 {
 }
 
@@ -123,6 +120,7 @@ BrimsoundSettingsListController* BrimsoundSettingsListController::initForContent
 
 BrimsoundSettingsListController::~BrimsoundSettingsListController()
 {
+    _cellBuiltAhead = nullptr;
     writeSettings();
     setSettings({});
     _sliders = nullptr;
@@ -150,8 +148,7 @@ void BrimsoundSettingsListController::openCenter()
 void BrimsoundSettingsListController::gotNotification()
 {
     const auto preferences = get_preferences();
-    const auto* values = preferences.find(peakingEqValuesKey);
-    if (const auto* gains = values ? values->asArray() : nullptr; gains && _sliders) {
+    if (const auto* gains = arrayForKey(preferences, peakingEqValuesKey); gains && _sliders) {
         for (std::size_t i = 1; i < _sliders->size() && i <= gains->size(); ++i)
             (*_sliders)[i]->setValue((*gains)[i - 1].floatValue());
     }
@@ -174,8 +171,14 @@ PropertyList BrimsoundSettingsListController::readPreferenceValue(PSSpecifier& s
 void BrimsoundSettingsListController::setPreferenceValueSpecifier(
     const PropertyList& value, PSSpecifier& specifier)
 {
-    if (auto* settings = _settings.asDictionary())
-        settings->set(keyOf(specifier), isNegated(specifier) ? PropertyList(!value.boolValue()) : value);
+    auto* settings = _settings.asDictionary();
+    if (!settings)
+        return;
+    const auto stored = isNegated(specifier) ? PropertyList(!value.boolValue()) : value;
+    if (stored.isNull())
+        settings->remove(keyOf(specifier));
+    else
+        settings->set(keyOf(specifier), stored);
 }
 
 void BrimsoundSettingsListController::suspend()

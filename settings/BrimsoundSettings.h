@@ -46,6 +46,10 @@ void finishSettingsNotification(CFNotificationCenterRef, void* observer, std::st
 
 /// The pane: a list of specifiers with the sliders as row 0 of section 2. It keeps no model of the settings;
 /// the preferences file is read for every change and written with it.
+///
+/// A method that lacks what it works on does nothing, as a message to nil would. This holds for the sliders
+/// before the slider row is built, for a slider that is not this pane's, and for a value, message or array of
+/// gains that is null.
 class BrimsoundSettingsListController : public PSListController,
                                         public UIAlertViewDelegate,
                                         public MFMailComposeViewControllerDelegate {
@@ -89,7 +93,7 @@ public:
     CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) override;
 
     /// The bridge for specifiers without accessors of their own. It works on `settings`, which nothing fills:
-    /// such a cell shows its default and forgets its changes.
+    /// such a cell shows its default and forgets its changes. Setting null removes the key.
     void setPreferenceValueSpecifier(const PropertyList& value, PSSpecifier&) override;
     PropertyList readPreferenceValue(PSSpecifier&) override;
 
@@ -107,7 +111,7 @@ public:
     /// Restarts nothing, whatever its name says.
     void respring(PSSpecifier&);
     /// Offers to respring at once.
-    void showAlertViewWithMessage(const PropertyList& message);
+    void showAlertViewWithMessage(const std::string& message);
 
     // The switches. Getters return what is stored, of whatever type, and else a default that is not stored;
     // setters write the file. The first two then offer a respring, the others tell the running engine.
@@ -115,9 +119,9 @@ public:
     void setEnabled(const PropertyList&);
     PropertyList enabledCC();
     void setEnabledCC(const PropertyList&);
-    PropertyList varDisabled(const PropertyList& key);
-    PropertyList varEnabled(const PropertyList& key);
-    void setVarValue(const PropertyList& key, const PropertyList& value);
+    PropertyList varDisabled(const std::string& key);
+    PropertyList varEnabled(const std::string& key);
+    void setVarValue(const std::string& key, const PropertyList& value);
     PropertyList autoPreamp();
     void setAutoPreamp(const PropertyList&);
     PropertyList filterDisabled();
@@ -129,11 +133,12 @@ public:
     void alertViewClickedButtonAtIndex(UIAlertView&, long buttonIndex) override;
 
     // Called where a pane with a model of its own would save it; this one has nothing left to save.
-    void writeSettings() { }
-    void sendSettings() { }
+    virtual void writeSettings() { }
+    virtual void sendSettings() { }
     void suspend() override;
 
     PropertyList settings() { return _settings; }
+    /// Null lets go of the settings.
     void setSettings(const PropertyList& settings) { _settings = settings; }
 
     /// Null until the slider row was first asked for; then eleven each, the preamp first, then the bands from
@@ -151,7 +156,11 @@ protected:
 private:
     void openCenter();
     void buildSliders(BRSliderCell&, CGFloat stripHeight);
-    std::size_t indexOf(const UISlider&) const;
+    void addBlackBar(UIView& content, CGFloat stripHeight);
+    void addStrip(UIView& content, CGFloat stripHeight, float gain);
+    RetainPtr<UISlider> makeSlider(const CGRect& frame);
+    /// Where the slider is among the pane's own; nothing when it is not.
+    std::optional<std::size_t> indexOf(const UISlider&) const;
     UISlider& preamp() const { return *_sliders->front(); }
 
     PropertyList _settings;
@@ -160,6 +169,8 @@ private:
     RetainPtr<UIView> _blackBar;
     RetainPtr<PlaylistSaver> _saver;
     RetainPtr<CPDistributedMessagingCenter> _center;
+    /// The slider row's cell while it was built before the table asked for it; else null.
+    RetainPtr<UITableViewCell> _cellBuiltAhead;
 };
 
 } // namespace brimsound

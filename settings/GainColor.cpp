@@ -1,20 +1,22 @@
 #include "settings/GainColor.h"
 
+#include "settings/GainLimit.h"
+
 #include <cmath>
 
 namespace brimsound {
 
 GainColor gainColor(float gain)
 {
-    return { gain > 0 ? 1 : (gain + 12) / 12, gain < 0 ? 1 : (12 - gain) / 12 };
+    return { gain > 0 ? 1 : (gain + gainLimit) / gainLimit, gain < 0 ? 1 : (gainLimit - gain) / gainLimit };
 }
 
 GainColor fadingGainColor(float gain)
 {
     auto color = gainColor(gain);
-    if (std::abs(gain) <= 12)
+    if (std::abs(gain) <= gainLimit)
         return color;
-    const auto excess = static_cast<float>((std::abs(static_cast<double>(gain)) - 12) / 12);
+    const auto excess = static_cast<float>((std::abs(static_cast<double>(gain)) - gainLimit) / gainLimit);
     if (gain > 0)
         return { color.red - excess, 0 };
     return { 0, color.green - excess };

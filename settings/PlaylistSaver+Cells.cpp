@@ -36,6 +36,8 @@ RetainPtr<UITableViewCell> makeCell()
 {
     auto cell = make<UITableViewCell>(UITableViewCellStyle::Subtitle, cellIdentifier);
     cell->setBackgroundColor(UIColor::clearColor());
+    // Bars of gains beyond the range are higher than the row.
+    cell->setClipsToBounds(true);
     const auto* former = cell->backgroundView();
     cell->setBackgroundView(make<SBEqualizerBackgroundView>(former ? former->frame() : CGRect()));
     cell->detailTextLabel()->setText("");
@@ -103,7 +105,7 @@ void PlaylistSaver::showPreset(UITableViewCell& cell, std::size_t row) const
     if (!preset)
         return;
     cell.textLabel().setText(*name);
-    showCurves(cell, tenGains(*name, *preset), name == _selectedPreset);
+    showCurves(cell, tenGains(*preset), name == _selectedPreset);
 }
 
 void PlaylistSaver::showCurves(UITableViewCell& cell, const TenGains& gains, bool isSelected) const

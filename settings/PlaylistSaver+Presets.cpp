@@ -2,6 +2,7 @@
 #include "platform/CoreFoundation/CFNotificationCenter.h"
 #include "settings/Log.h"
 #include "settings/PlaylistSaver.h"
+#include "settings/TenGains.h"
 #include "settings/store/preferences.h"
 #include "settings/store/presets.h"
 #include "settings/tweak.h"
@@ -19,6 +20,15 @@ bool haveTheSameNames(const PropertyList::Dictionary& a, const PropertyList::Dic
     using Entry = PropertyListDictionary::Entry;
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
         [](const Entry& one, const Entry& other) { return one.key == other.key; });
+}
+
+/// At each showing, not at each row that scrolls by.
+void logShortPresets(const PropertyList::Dictionary& presets)
+{
+    for (const auto& [name, preset] : presets) {
+        if (!hasTenGains(preset))
+            logLine("preset \"" + name + "\" is not ten gains: 0 dB where one is missing");
+    }
 }
 
 void writeAndAnnounce(PropertyList::Dictionary preferences)
@@ -61,10 +71,10 @@ void PlaylistSaver::loadPresets()
     logLine("getting preferences");
     auto preferences = get_preferences();
     _presetDict = take_presets(preferences);
-    const auto* selected = preferences.find(selectedPresetKey);
-    const auto* name = selected ? selected->asString() : nullptr;
+    const auto* name = stringForKey(preferences, selectedPresetKey);
     _selectedPreset = name ? std::optional(*name) : std::nullopt;
     logLine("/getting preferences: " + std::string(dictionaryTypeName) + ";");
+    logShortPresets(_presetDict);
 }
 
 void PlaylistSaver::tableViewDidSelectRowAtIndexPath(UITableView& table, const NSIndexPath& indexPath)
@@ -91,7 +101,7 @@ void PlaylistSaver::choosePreset(std::size_t row)
         = _delegate ? _delegate->methodForSelector("playlistSaver:selectedPreset:") : nullptr;
     if (selectedPreset) {
         if (!hasTenGains(preset)) {
-            const auto gains = tenGains(name, preset);
+            const auto gains = tenGains(preset);
             preset = PropertyList::Array(gains.begin(), gains.end());
         }
         const std::array<Argument, 2> arguments { static_cast<NSObject*>(this), &std::as_const(preset) };

@@ -17,6 +17,7 @@ constexpr CGFloat heightForNameEntry = 88;
 constexpr CGFloat cornerRadius = 20;
 constexpr double collapseTime = 0.2;
 constexpr double fadeTime = 0.5;
+constexpr CGFloat fieldMargin = 20;
 
 CGFloat panelWidth(const CGRect& root)
 {
@@ -33,6 +34,11 @@ CGRect panelFrame(const CGRect& root)
 CGRect cancelButtonFrame(const CGRect& root)
 {
     return CGRectMake(0, 0, root.size.width, 88);
+}
+
+CGRect nameFieldFrame(CGFloat panelWidth)
+{
+    return CGRectMake(fieldMargin, 8, panelWidth - 2 * fieldMargin, 28);
 }
 
 RetainPtr<UIFont> boldFont()
@@ -62,6 +68,7 @@ PlaylistSaver::PlaylistSaver(PlaylistSaverDelegate& delegate)
     auto& root = view();
     root.setAlpha(0);
     root.setFrame({ {}, UIScreen::mainScreen().bounds().size });
+    root.setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
     root.setBackgroundColor(UIColor::colorWithWhiteAlpha(0, 0.7));
 
     _hideAllButton = make<UIButton>(root.frame());
@@ -149,7 +156,7 @@ void PlaylistSaver::buildNameStrip()
     newPlaylistBackdrop->setAlpha(0);
     _mainView->addSubview(*newPlaylistBackdrop);
 
-    newPlaylistField = make<UITextField>(CGRectMake(20, 8, width - 40, 28));
+    newPlaylistField = make<UITextField>(nameFieldFrame(width));
     newPlaylistField->setKeyboardAppearance(UIKeyboardAppearance::Dark);
     newPlaylistField->setFont(boldFont());
     newPlaylistField->setTextColor(UIColor::blackColor());
@@ -170,7 +177,29 @@ void PlaylistSaver::layOutForRootView()
     _cancelButton->setFrame(cancelButtonFrame(root));
     _tableView->setFrame(CGRectMake(0, 0, panel.width, panel.height - barHeight));
     newPlaylistBackdrop->setFrame(CGRectMake(0, 0, panel.width, barHeight));
+    newPlaylistField->setFrame(nameFieldFrame(panel.width));
     _cancelView->setFrame(CGRectMake(0, panel.height - barHeight, panel.width, barHeight));
+}
+
+void PlaylistSaver::viewDidLayoutSubviews()
+{
+    // A layout that is due to anything else must not disturb what moves.
+    if (!_mainView || _hideAllButton->frame().size == view().frame().size)
+        return;
+    const bool isCollapsed = !newPlaylistBackdrop->isHidden();
+    layOutForRootView();
+    if (isCollapsed)
+        collapseForNameEntry();
+}
+
+void PlaylistSaver::collapseForNameEntry()
+{
+    auto panel = _mainView->frame();
+    panel.size.height = heightForNameEntry;
+    _mainView->setFrame(panel);
+    auto bar = _cancelView->frame();
+    bar.origin.y = barHeight;
+    _cancelView->setFrame(bar);
 }
 
 void PlaylistSaver::showEverything()
@@ -220,13 +249,8 @@ void PlaylistSaver::beginNameEntry()
     newPlaylistBackdrop->setHidden(false);
     newPlaylistField->becomeFirstResponder();
     UIView::animateWithDurationAnimations(collapseTime, [this] {
-        auto panel = _mainView->frame();
-        panel.size.height = heightForNameEntry;
-        _mainView->setFrame(panel);
+        collapseForNameEntry();
         _tableView->setAlpha(0);
-        auto bar = _cancelView->frame();
-        bar.origin.y = barHeight;
-        _cancelView->setFrame(bar);
         newPlaylistBackdrop->setAlpha(1);
     });
 }

@@ -8,7 +8,7 @@
 #include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UITextField.h"
 #include "platform/UIKit/UIViewController.h"
-#include "settings/store/presets.h"
+#include "settings/TenGains.h"
 
 #include <optional>
 #include <string>
@@ -64,6 +64,8 @@ public:
         std::size_t index, const PropertyList::Dictionary&, std::optional<std::string>* key);
 
     void viewDidUnload() override;
+    /// Lays the panel out anew, whatever it shows, when its host has another size than before.
+    void viewDidLayoutSubviews() override;
 
     /// What the list shows, in its order.
     const PropertyList::Dictionary& presetDict() const { return _presetDict; }
@@ -94,6 +96,7 @@ private:
     void buildNameStrip();
     void detachTable() const;
     void layOutForRootView();
+    void collapseForNameEntry();
     void setCancelBarColors(RetainPtr<UIColor> bar, RetainPtr<UIColor> text);
     void loadPresets();
     void beginNameEntry();

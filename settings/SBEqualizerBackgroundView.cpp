@@ -1,6 +1,7 @@
 #include "settings/SBEqualizerBackgroundView.h"
 
 #include "settings/GainColor.h"
+#include "settings/GainLimit.h"
 #include "settings/Log.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ void SBEqualizerBackgroundView::updateBars(const float* gains) const
 {
     for (std::size_t i = 0; i < _bars.size(); ++i) {
         const auto [width, height] = frame().size;
-        const double barHeight = gains ? height * (gains[i] + 12) / 12 * 0.5 : height * 0.5;
+        const double barHeight = gains ? height * (gains[i] + gainLimit) / gainLimit * 0.5 : height * 0.5;
         const double barWidth = width / 10;
         _bars[i]->setFrame(
             CGRectMake(static_cast<double>(i) * width / 10, height - barHeight, barWidth, barHeight));

@@ -1,9 +1,9 @@
 #include "desktop/brimsound/PaneHost.h"
 
-#include "platform/Foundation/NSBundle.h"
 #include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/UIKit/NavigationBar.h"
 #include "platform/desktop/UIKit/ViewControllerPeer.h"
+#include "settings/Localized.h"
 
 namespace brimsound::desktop {
 
@@ -61,8 +61,7 @@ public:
 
 std::string paneTitle()
 {
-    return NSBundle::bundleForClass("BrimsoundSettingsListController")
-        .localizedStringForKey("Brimsound", "Brimsound", "BrimsoundSettings");
+    return localized("Brimsound", "Brimsound");
 }
 
 PaneHost::PaneHost(CGSize size)
@@ -106,6 +105,9 @@ void PaneHost::releasePane()
     _window->alerts().dismissAll();
     _rootController->dismissViewControllerAnimatedCompletion(Animated::No, {});
     static_cast<RootView&>(*_root).setContent(nullptr);
+    // Pane and panel hold one another.
+    if (_controller && _controller->saver())
+        _controller->saver()->setDelegate(nullptr);
     _controller = nullptr;
 }
 

@@ -10,6 +10,7 @@
 #include "platform/desktop/UIKit/ScrollPeer.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
 #include "platform/desktop/UIKit/TablePeer.h"
+#include "platform/desktop/UIKit/TextFieldPeer.h"
 #include "platform/desktop/UIKit/ViewControllerPeer.h"
 #include "platform/desktop/bus/Stranger.h"
 
@@ -250,6 +251,11 @@ void ScriptRunner::press(const Words& words)
         tap(*panel->cancelView(), words[0]);
         return;
     }
+    const auto* field = dynamic_cast<UITextField*>(_host.window().focus().view());
+    if (field && peerOf(*field).returnKey->title() == words[0]) {
+        tap(*peerOf(*field).returnKey, words[0]);
+        return;
+    }
     for (const auto& specifier : pane().specifiers()) {
         const bool isButton = isOfType(*specifier, buttonCellType) || isOfType(*specifier, linkCellType);
         if (!isButton || (specifier->name() != words[0] && stringProperty(*specifier, "action") != words[0]))
@@ -329,6 +335,7 @@ void ScriptRunner::dim(const Words&)
         throw ScriptError("the presets are not shown");
     pressAt(convertToWindow({ dimmedMargin, dimmedMargin }, panel->view()));
     _host.window().touchDown({ _finger, Pointer::Mouse });
+    // The touch down closes the panel; a user's finger goes up all the same.
     _host.window().touchUp(_finger);
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/gallery/Caption.h"
 #include "settings/SBEqualizerBackgroundView.h"
+#include "settings/TenGains.h"
 #include "settings/store/presets.h"
 
 #include <array>
@@ -45,7 +46,7 @@ CurveSheet::CurveSheet()
     double y = headerHeight;
     for (const auto& [name, preset] : builtin_presets()) {
         addSubview(*caption(name, CGRectMake(0, y, nameWidth, rowHeight)));
-        const auto gains = tenGains(name, preset);
+        const auto gains = tenGains(preset);
         for (std::size_t column = 0; column < looks.size(); ++column) {
             const auto curve = make<SBEqualizerBackgroundView>(
                 CGRectMake(columnX(column), y, curveWidth, rowHeight), gains.data());

@@ -21,8 +21,7 @@ float finiteOrZero(float gain)
 
 std::optional<Gains> gainsOfMessage(const PropertyList::Dictionary& userInfo)
 {
-    const auto* value = userInfo.find(valsKey);
-    const auto* vals = value ? value->asArray() : nullptr;
+    const auto* vals = arrayForKey(userInfo, valsKey);
     Gains gains;
     if (!vals || vals->size() != gains.size())
         return std::nullopt;
@@ -39,8 +38,7 @@ Gains gainsOfPreferences(const PropertyList::Dictionary& preferences)
 {
     Gains gains {};
     gains[0] = finiteOrZero(floatForKey(preferences, preampKey));
-    const auto* value = preferences.find(peakingEqValuesKey);
-    if (const auto* bands = value ? value->asArray() : nullptr) {
+    if (const auto* bands = arrayForKey(preferences, peakingEqValuesKey)) {
         const auto count = std::min(bands->size(), gains.size() - 1);
         for (std::size_t band = 0; band < count; ++band)
             gains[band + 1] = finiteOrZero((*bands)[band].floatValue());

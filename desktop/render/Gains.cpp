@@ -1,6 +1,7 @@
 #include "desktop/render/Gains.h"
 
 #include "settings/store/preferences.h"
+#include "settings/TenGains.h"
 #include "settings/store/presets.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ audio::BandGains gainsOfPreset(const std::string& name)
         throw std::runtime_error("preset \"" + name + "\" is not ten gains");
 
     audio::BandGains gains {};
-    std::ranges::transform(tenGains(name, *preset), gains.begin(), [](float gain) {
+    std::ranges::transform(tenGains(*preset), gains.begin(), [](float gain) {
         // As a slider does.
         return std::isnan(gain) ? 0.0 : std::clamp<double>(gain, -audio::sliderLimit, audio::sliderLimit);
     });

@@ -1,5 +1,6 @@
 // Draws the response of a built-in preset.
 #include "desktop/response/Chart.h"
+#include "settings/TenGains.h"
 #include "settings/store/presets.h"
 
 #include <QGuiApplication>
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     audio::BandGains sliders {};
-    std::ranges::copy(tenGains(argv[1], *preset), sliders.begin());
+    std::ranges::copy(tenGains(*preset), sliders.begin());
     if (desktop::responseChart(argv[1], sliders, 2).save(QString::fromLocal8Bit(argv[2])))
         return 0;
     std::fprintf(stderr, "response: the picture \"%s\" cannot be written\n", argv[2]);

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -15,15 +16,16 @@ namespace brimsound {
 
 class NSObject;
 
-/// What a call by name can hand over: an object (not retained) or a property-list value (not copied).
+/// What a call by name can hand over: nil, an object (not retained) or a property-list value (not copied).
 using Argument = std::variant<std::monostate, NSObject*, const PropertyList*>;
 
 /// One row of a class's method table.
 struct Method {
     std::string_view selector;
     /// Calls the method on an object of the class that the table belongs to. Arguments beyond those that the
-    /// method takes are dropped; when one that it needs is missing or of the other kind, nothing is called
-    /// and the result is null. A method without a result gives null.
+    /// method takes are dropped, and those that are missing are nil. A property list takes nil as null; when
+    /// any other argument that the method needs is nil, or one is of another kind than the method takes,
+    /// nothing is called and the result is null. A method without a result gives null.
     PropertyList (*invoke)(NSObject& self, std::span<const Argument> arguments);
 };
 
@@ -36,13 +38,17 @@ template <typename Parameter>
 std::remove_pointer_t<std::remove_reference_t<Parameter>>* argumentAs(
     std::span<const Argument> arguments, std::size_t index)
 {
-    if (index >= arguments.size())
-        return nullptr;
+    static const PropertyList null;
+    const auto argument = index < arguments.size() ? arguments[index] : Argument();
+    const auto* const* value = std::get_if<const PropertyList*>(&argument);
     if constexpr (std::is_same_v<Parameter, const PropertyList&>) {
-        auto* value = std::get_if<const PropertyList*>(&arguments[index]);
+        if (std::holds_alternative<std::monostate>(argument))
+            return &null;
         return value ? *value : nullptr;
+    } else if constexpr (std::is_same_v<Parameter, const std::string&>) {
+        return value ? (*value)->asString() : nullptr;
     } else {
-        auto* object = std::get_if<NSObject*>(&arguments[index]);
+        auto* const* object = std::get_if<NSObject*>(&argument);
         return object ? static_cast<std::remove_pointer_t<std::remove_reference_t<Parameter>>*>(*object)
                       : nullptr;
     }
@@ -84,7 +90,8 @@ Method methodOf(std::string_view selector, Result (Class::*)(Parameters...))
 } // namespace detail
 
 /// The table row that binds a selector to a member function, whose parameters are references to objects, or
-/// pointers for those that may be left out, or `const PropertyList&`.
+/// pointers for those that may be left out, or `const PropertyList&`, or `const std::string&` for a property
+/// list that is a string.
 template <auto member> Method method(std::string_view selector)
 {
     return detail::methodOf<member>(selector, member);

@@ -129,5 +129,12 @@ struct PropertyListDictionary::Entry {
 
 /// The float in the dictionary under the key: 0 when the key is missing.
 float floatForKey(const PropertyListDictionary&, std::string_view key);
+/// The value in the dictionary under the key when it is of exactly that type, owned by the dictionary and
+/// valid until it next changes; null when the key is missing or holds something else.
+const PropertyList::Array* arrayForKey(const PropertyListDictionary&, std::string_view key);
+PropertyList::Array* arrayForKey(PropertyListDictionary&, std::string_view key);
+const PropertyList::Dictionary* dictionaryForKey(const PropertyListDictionary&, std::string_view key);
+PropertyList::Dictionary* dictionaryForKey(PropertyListDictionary&, std::string_view key);
+const std::string* stringForKey(const PropertyListDictionary&, std::string_view key);
 
 } // namespace brimsound

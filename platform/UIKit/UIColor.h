@@ -6,7 +6,7 @@
 
 namespace brimsound {
 
-/// An unchanging colour in RGB. Components run from 0 to 1.
+/// An unchanging colour in RGB. Components run from 0 to 1: what is below counts as 0 and what is above as 1.
 class UIColor : public NSObject {
 public:
     static RetainPtr<UIColor> colorWithRedGreenBlueAlpha(

@@ -13,6 +13,12 @@
 
 namespace brimsound {
 
+/// What of a view's frame follows when its superview's size changes. The rest stays as it is.
+using UIViewAutoresizing = unsigned long;
+inline constexpr UIViewAutoresizing UIViewAutoresizingNone = 0;
+inline constexpr UIViewAutoresizing UIViewAutoresizingFlexibleWidth = 1 << 1;
+inline constexpr UIViewAutoresizing UIViewAutoresizingFlexibleHeight = 1 << 4;
+
 /// A rectangle with a place in its superview. A view retains its subviews and not its superview.
 class UIView : public NSObject {
 public:
@@ -23,6 +29,10 @@ public:
     virtual void setFrame(const CGRect&);
     /// The view's own coordinates: its size, from its own origin on.
     CGRect bounds() const;
+    /// A flexible width or height grows and shrinks, at once, by as much as the superview's does. At first
+    /// none is.
+    UIViewAutoresizing autoresizingMask() const;
+    void setAutoresizingMask(UIViewAutoresizing);
 
     UIView* superview() const;
     /// Back to front.

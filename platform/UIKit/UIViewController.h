@@ -19,6 +19,9 @@ public:
     void setView(RetainPtr<UIView>);
     /// Told by a platform that lets go of the view to save memory; here it does nothing.
     virtual void viewDidUnload() { }
+    /// Told when the view was laid out: when its size has changed or its subviews have, and whenever else a
+    /// layout was asked for. Here it does nothing.
+    virtual void viewDidLayoutSubviews() { }
 
     /// Shows another controller's view over everything, and retains the controller until it is dismissed.
     /// Nothing when one is presented already. `completion`, which may be empty, is called when it stands.

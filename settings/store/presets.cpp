@@ -1,9 +1,8 @@
 #include "settings/store/presets.h"
 
-#include "settings/Log.h"
 #include "settings/tweak.h"
 
-#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace brimsound {
@@ -48,11 +47,6 @@ PropertyList::Array gains(const std::array<int, 10>& steps)
     return decibels;
 }
 
-bool isNumber(const PropertyList& value)
-{
-    return value.asInteger() || value.asReal();
-}
-
 } // namespace
 
 PropertyList::Dictionary builtin_presets()
@@ -65,29 +59,8 @@ PropertyList::Dictionary builtin_presets()
 
 PropertyList::Dictionary take_presets(PropertyList::Dictionary& preferences)
 {
-    auto* value = preferences.find(presetsKey);
-    auto* presets = value ? value->asDictionary() : nullptr;
+    auto* presets = dictionaryForKey(preferences, presetsKey);
     return presets && !presets->empty() ? std::move(*presets) : builtin_presets();
-}
-
-bool hasTenGains(const PropertyList& preset)
-{
-    const auto* values = preset.asArray();
-    return values && values->size() >= 10 && std::all_of(values->begin(), values->begin() + 10, isNumber);
-}
-
-TenGains tenGains(const std::string& name, const PropertyList& preset)
-{
-    if (!hasTenGains(preset))
-        logLine("preset \"" + name + "\" is not ten gains: 0 dB where one is missing");
-    TenGains gains {};
-    if (const auto* values = preset.asArray()) {
-        for (std::size_t i = 0; i < gains.size() && i < values->size(); ++i) {
-            if (isNumber((*values)[i]))
-                gains[i] = (*values)[i].floatValue();
-        }
-    }
-    return gains;
 }
 
 } // namespace brimsound

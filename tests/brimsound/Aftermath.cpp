@@ -13,8 +13,7 @@ std::vector<float> storedGains()
     const auto file = readPropertyListFile(preferencesPath);
     const auto* preferences = file ? file->asDictionary() : nullptr;
     const auto* preamp = preferences ? preferences->find(preampKey) : nullptr;
-    const auto* values = preferences ? preferences->find(peakingEqValuesKey) : nullptr;
-    const auto* bands = values ? values->asArray() : nullptr;
+    const auto* bands = preferences ? arrayForKey(*preferences, peakingEqValuesKey) : nullptr;
     if (!preamp || !bands || bands->size() != 10)
         return {};
     std::vector<float> gains { preamp->floatValue() };

@@ -140,6 +140,52 @@ TEST_F(AScriptOfPresets, ClosesByTheCancelBarAndByTheDimmedArea)
     EXPECT_THAT(run.all("write"), IsEmpty());
 }
 
+TEST_F(AScriptOfPresets, ClosesWhenAFingerComesDownOnTheDimmedArea)
+{
+    const auto run = playScript(root, "press \"Presets\"\nfinger down 20 300\nstate\n");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(lastState(run).at("panel"), "hidden") << "before it goes up";
+}
+
+TEST_F(AScriptOfPresets, SavesUnderANameThatIsConfirmedWithAPointer)
+{
+    const auto run = playScript(root, "press \"Presets\"\nsaverow\ntype \"Mine\"\npress \"Done\"\nstate\n");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(lastState(run).at("panel"), "hidden");
+    EXPECT_EQ(lastState(run).at("selected"), "Mine");
+
+    // The same with a finger, which needs to be told where the key is: at the field's right end.
+    const auto pointed = playScript(
+        root, "press \"Presets\"\nsaverow\nwait 1\ntype \"Yours\"\nfinger down 240 110\nfinger up\nstate\n");
+    EXPECT_EQ(pointed.status, 0) << pointed.errors;
+    EXPECT_EQ(lastState(pointed).at("selected"), "Yours");
+}
+
+TEST_F(AScriptOfPresets, FollowsTheWindow)
+{
+    // Beside the panel of a window that was widened lies the dimmed area, which closes it.
+    const auto run
+        = playScript(root, "press \"Presets\"\nresize 900 600\nfinger down 600 300\nfinger up\nstate\n");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(lastState(run).at("panel"), "hidden");
+    EXPECT_THAT(run.all("write"), IsEmpty());
+
+    const auto narrowed = playScript(
+        root, "resize 900 600\npress \"Presets\"\nresize 320 568\nstate\npress \"Cancel\"\nstate\n");
+    EXPECT_EQ(narrowed.status, 0) << narrowed.errors;
+    EXPECT_EQ(lastState(narrowed).at("panel"), "hidden");
+}
+
+TEST_F(AScriptOfPresets, LeavesNothingOfAClosedPaneThatWouldAnswer)
+{
+    const auto run = playScript(root,
+        "press \"Presets\"\ndim\nwait 1\nclose\npost com.quorvix.brimsound.settingsfinishnotify\nwait 1\n");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    for (const auto& line : run.all("log"))
+        EXPECT_NE(line.at("text"), "Brimsound: got notification in settings");
+    EXPECT_THAT(run.all("delivered"), SizeIs(1));
+}
+
 TEST_F(AScriptOfPresets, OpensAFreshPaneWithoutThePanelOfTheOneBefore)
 {
     const auto run = playScript(
@@ -190,7 +236,9 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, AnImpossiblePresetCommand,
         std::pair("press \"Presets\"\nsaverow\nrow \"Rock\"\n", "line 3: the presets are not shown"),
         std::pair("press \"Presets\"\npress \"Presets\"\n", "line 2: \"Presets\" is covered"),
         std::pair("press \"Presets\"\ntouch 3\n", "line 2: slider 3 is covered"),
-        std::pair("press \"Cancel\"\n", "line 1: there is no button \"Cancel\"")));
+        std::pair("press \"Cancel\"\n", "line 1: there is no button \"Cancel\""),
+        std::pair("press \"Done\"\n", "line 1: there is no button \"Done\""),
+        std::pair("press \"Presets\"\npress \"Done\"\n", "line 2: there is no button \"Done\"")));
 
 } // namespace
 } // namespace brimsound::tests

@@ -39,8 +39,7 @@ float sumOf(const PropertyList& value)
 
 void letGoOfASlider(PropertyList::Dictionary& preferences)
 {
-    auto* values = preferences.find(peakingEqValuesKey);
-    if (auto* gains = values ? values->asArray() : nullptr) {
+    if (auto* gains = arrayForKey(preferences, peakingEqValuesKey)) {
         for (auto& gain : *gains)
             gain = 1.5f;
     }

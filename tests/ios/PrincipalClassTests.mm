@@ -84,6 +84,34 @@ TEST_F(ThePrincipalClass, ReadsAndWritesByName)
     [controller release];
 }
 
+TEST_F(ThePrincipalClass, TakesNilForItsSettings)
+{
+    PSListController* controller = open();
+    NSDictionary* settings = [NSDictionary dictionaryWithObject:@"value" forKey:@"KEY"];
+    [controller performSelector:@selector(setSettings:) withObject:settings];
+    EXPECT_TRUE([[controller performSelector:@selector(settings)] isEqual:settings]);
+    [controller performSelector:@selector(setSettings:) withObject:nil];
+    EXPECT_EQ([controller performSelector:@selector(settings)], nil);
+    [controller release];
+}
+
+TEST_F(ThePrincipalClass, DoesNothingWithNilAndWithoutSliders)
+{
+    PSListController* controller = open();
+    platform.takeTrace();
+    id slider = [[[::UISlider alloc] init] autorelease];
+    for (const char* selector : { "sliderChanged:", "sliderStopped:", "updateSliderColor:", "setEnabled:",
+             "setEnabledCC:", "setAutoPreamp:", "showAlertViewWithMessage:" }) {
+        [controller performSelector:sel_registerName(selector) withObject:nil];
+        if (std::string(selector).find("lider") != std::string::npos)
+            [controller performSelector:sel_registerName(selector) withObject:slider];
+    }
+    [controller performSelector:@selector(sendToMediaServer)];
+    EXPECT_THAT(platform.takeTrace(), testing::IsEmpty());
+    EXPECT_EQ(platform.preferencesFile(), "");
+    [controller release];
+}
+
 TEST_F(ThePrincipalClass, IsGoneWithItsLastReference)
 {
     PSListController* controller = open();

@@ -13,6 +13,8 @@ namespace brimsound::tests {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::MatchesRegex;
 using testing::StartsWith;
 
 class BandEdit : public testing::Test {
@@ -121,6 +123,32 @@ TEST_F(DraggingABand, RaisesThePreampToTwelveWhenEveryBandIsAtTheBottom)
         pane.slider(i).setValue(-12);
     pane.drag(4, -12);
     EXPECT_EQ(pane.slider(0).value(), 12);
+}
+
+TEST_F(DraggingABand, NegatesAZeroToMinusZeroWhateverThePreampWasBefore)
+{
+    const Pane pane(platform);
+    pane.drag(2, 0);
+    EXPECT_TRUE(std::signbit(pane.slider(0).value())) << "after 0";
+    EXPECT_EQ(pane.label(0).text(), "-0.0") << "which is how \"%.1f\" prints it";
+    pane.drag(2, 4.5f);
+    pane.drag(2, 0);
+    EXPECT_TRUE(std::signbit(pane.slider(0).value())) << "after -4.5";
+    EXPECT_EQ(pane.label(0).text(), "-0.0");
+    EXPECT_EQ(pane.label(2).text(), "0.0");
+    EXPECT_TRUE(std::signbit(pane.sent().back()[0]));
+    pane.lift(2);
+    EXPECT_TRUE(std::signbit(floatForKey(storedPreferences(), "PREAMP")));
+}
+
+TEST_F(DraggingABand, TakesTheLastOfEqualBandsForTheHighest)
+{
+    const Pane pane(platform);
+    pane.slider(10).setValue(-0.0f);
+    ASSERT_TRUE(std::signbit(pane.slider(10).value()));
+    pane.drag(2, 0);
+    EXPECT_FALSE(std::signbit(pane.slider(0).value())) << "that of the minus zero, negated";
+    EXPECT_EQ(pane.label(0).text(), "0.0");
 }
 
 TEST_F(DraggingABand, IgnoresThePreampItselfWhenLookingForTheHighest)
@@ -256,6 +284,18 @@ TEST_F(LettingGoOfASlider, StoresNoGainsInAFileThatHasNone)
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
 }
 
+TEST_F(LettingGoOfASlider, StoresRealNumbers)
+{
+    store(preferencesWith({ 0, 0, 0, 0, 0, 0, 0, 0, 0, 0 }));
+    const Pane pane(platform);
+    pane.drag(3, 4);
+    pane.lift(3);
+    const auto stored = storedPreferences();
+    for (const auto& gain : *arrayForKey(stored, "PEAKING_EQ_VALUES"))
+        EXPECT_TRUE(gain.asReal());
+    EXPECT_TRUE(stored.find("PREAMP")->asReal());
+}
+
 TEST_F(LettingGoOfASlider, NeverLengthensTheStoredGains)
 {
     store(preferencesWith({ 0, 0, 0, 0 }));
@@ -298,6 +338,16 @@ TEST_F(LettingGoOfASlider, DoesNotDependOnTheMediaServer)
     EXPECT_THAT(pane.trace(),
         ElementsAre(equalizerSend + " failed", StartsWith("log Brimsound: ERROR SENDING TO MEDIA SERVER "),
             writesFile, postsFinished));
+}
+
+TEST_F(SendingToTheMediaServer, LogsTheErrorItself)
+{
+    const Pane pane(platform);
+    platform.stopMediaServer();
+    pane.touch(3);
+    EXPECT_THAT(pane.trace().back(),
+        MatchesRegex("log Brimsound: ERROR SENDING TO MEDIA SERVER "
+                     "Error Domain=[A-Za-z.]+ Code=[0-9]+ \".+\""));
 }
 
 TEST_F(SendingToTheMediaServer, LogsAFailureAndLooksTheCenterUpAgain)
@@ -443,6 +493,51 @@ TEST_F(ApplyingAPreset, BeforeTheSlidersExistDoesNothing)
     platform.takeTrace();
     applyPreset(*controller, rising());
     EXPECT_THAT(platform.takeTrace(), ElementsAre());
+}
+
+TEST_F(ApplyingAPreset, ThatIsNullDoesNothing)
+{
+    const Pane pane(platform);
+    applyPreset(pane.controller(), {});
+    EXPECT_THAT(pane.trace(), IsEmpty());
+}
+
+/// Calls the methods that take a slider, by their names.
+void callWithSlider(BrimsoundSettingsListController& controller, UISlider& slider)
+{
+    const Argument argument = static_cast<NSObject*>(&slider);
+    for (const auto* selector : { "sliderChanged:", "sliderStopped:", "updateSliderColor:" })
+        controller.methodForSelector(selector)->invoke(controller, { &argument, 1 });
+}
+
+TEST_F(BandEdit, BeforeTheSlidersExistDoesNothing)
+{
+    const auto controller = openController();
+    const auto slider = make<UISlider>();
+    platform.takeTrace();
+    callWithSlider(*controller, *slider);
+    for (const auto* selector : { "sendToMediaServer", "updateBlackBar" })
+        controller->methodForSelector(selector)->invoke(*controller, {});
+    EXPECT_THAT(platform.takeTrace(), IsEmpty());
+    EXPECT_THAT(platform.messages(), IsEmpty());
+    EXPECT_EQ(platform.preferencesFile(), "");
+    EXPECT_EQ(_notificationsToSkip, 0u);
+}
+
+TEST_F(BandEdit, OfASliderThatIsNotThePanesDoesNothing)
+{
+    const Pane pane(platform);
+    const Pane other(platform);
+    other.slider(3).setValue(6);
+    other.slider(3).setMinimumTrackTintColor(UIColor::blackColor());
+    callWithSlider(pane.controller(), other.slider(3));
+    callWithSlider(pane.controller(), other.slider(0));
+    EXPECT_THAT(pane.trace(), IsEmpty());
+    EXPECT_THAT(other.color(3), ElementsAre(0, 0, 0, 1));
+    EXPECT_THAT(pane.captions(),
+        ElementsAre("Pre", "60", "170", "310", "600", "1K", "3K", "6K", "12K", "14K", "16K"));
+    EXPECT_EQ(platform.preferencesFile(), "");
+    EXPECT_EQ(_notificationsToSkip, 0u);
 }
 
 } // namespace

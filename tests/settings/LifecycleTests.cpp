@@ -4,7 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
 #include <limits>
+#include <utility>
 
 namespace brimsound::tests {
 namespace {
@@ -77,6 +80,15 @@ TEST_F(OpeningThePane, ReturnsNullAndDoesNothingMoreThanTheCaptionWhenTheListCon
     EXPECT_EQ(_activeController, nullptr);
 }
 
+TEST_F(OpeningThePane, RegistersNoObserverWhenTheListControllerFails)
+{
+    const bool added = std::exchange(_addedObserver, false);
+    const auto controller = make<BrimsoundSettingsListController>();
+    EXPECT_EQ(controller->initForContentSize({ std::numeric_limits<double>::quiet_NaN(), 568 }), nullptr);
+    EXPECT_FALSE(_addedObserver);
+    _addedObserver = added;
+}
+
 TEST_F(OpeningThePane, TakesAutoPreampFromTheFileAndElseAsOn)
 {
     openController();
@@ -132,6 +144,62 @@ TEST_F(ClosingThePane, LetsGoOfEverythingItHeld)
     controller = nullptr;
     platform.endTurn();
     EXPECT_THAT(counts(), ElementsAre(3, 3, 2, 1));
+}
+
+/// A view that notes when it goes, and with it the view that it was put into.
+class Witness : public UIView {
+public:
+    explicit Witness(std::function<void()> onGone)
+        : _onGone(std::move(onGone))
+    {
+    }
+
+protected:
+    ~Witness() override { _onGone(); }
+
+private:
+    std::function<void()> _onGone;
+};
+
+TEST_F(ClosingThePane, LetsGoInTheOrderOfItsMembers)
+{
+    std::vector<std::string> gone;
+    RetainPtr<CPDistributedMessagingCenter> center;
+    auto controller = openController();
+    {
+        // The slider row is the test's, and the panel lies in the table, which is in no window.
+        const auto cell = controller->tableViewCellForRowAtIndexPath(controller->table(), sliderRow);
+        controller->showPresets();
+        auto& panel = *controller->saver();
+        panel.setDelegate(nullptr);
+        // Its list of sliders would keep those of the bands.
+        panel.setSliders({});
+        center = retain(controller->center());
+        const auto watch = [&](UIView& view, const std::string& name) {
+            view.addSubview(*make<Witness>([&gone, &center, name] {
+                gone.push_back(name + (center->retainCount() > 1 ? "" : " after the center"));
+            }));
+        };
+        watch(*controller->sliders()->front(), "sliders");
+        watch(*controller->labels()->front(), "labels");
+        watch(*controller->blackBar(), "black bar");
+        watch(*panel.mainView(), "saver");
+    }
+    platform.endTurn();
+    ASSERT_THAT(gone, IsEmpty());
+    controller = nullptr;
+    EXPECT_THAT(gone, ElementsAre("sliders", "labels", "black bar", "saver"));
+    platform.endTurn();
+    EXPECT_EQ(center->retainCount(), 1u);
+}
+
+TEST_F(Lifecycle, TheSettingsAreLetGoWhenTheyAreSetToNil)
+{
+    const auto controller = openController();
+    controller->setSettings(PropertyList::Dictionary { { "KEY", 1 } });
+    const Argument nil;
+    controller->methodForSelector("setSettings:")->invoke(*controller, { &nil, 1 });
+    EXPECT_TRUE(controller->settings().isNull());
 }
 
 TEST_F(ClosingThePane, LeavesNoControllerActive)
@@ -328,6 +396,18 @@ TEST_F(TheDefaultBridge, WorksOnSettingsIfSomebodyFillsThem)
     EXPECT_EQ(controller->settings(), PropertyList(PropertyList::Dictionary { { "ENABLED", false } }));
     controller->setPreferenceValueSpecifier(7, *row);
     EXPECT_EQ(controller->settings(), PropertyList(PropertyList::Dictionary { { "ENABLED", 7 } }));
+}
+
+TEST_F(TheDefaultBridge, RemovesTheKeyOfAValueThatIsNull)
+{
+    const auto row = specifier({ { "key", "ENABLED" }, { "default", true } });
+    controller->setSettings(PropertyList::Dictionary { { "ENABLED", false }, { "OTHER", 1 } });
+    const std::array<Argument, 2> arguments { std::monostate(), static_cast<NSObject*>(row.get()) };
+    controller->methodForSelector("setPreferenceValue:specifier:")->invoke(*controller, arguments);
+    EXPECT_EQ(controller->settings(), PropertyList(PropertyList::Dictionary { { "OTHER", 1 } }));
+    EXPECT_EQ(controller->readPreferenceValue(*row), PropertyList(true));
+    controller->setPreferenceValueSpecifier({}, *row);
+    EXPECT_EQ(controller->settings(), PropertyList(PropertyList::Dictionary { { "OTHER", 1 } }));
 }
 
 TEST_F(TheDefaultBridge, AppliesNegateToStoredValuesOnly)

@@ -1,6 +1,8 @@
 #include "include/Configuration.h"
 #include "include/twitter.h"
+#include "platform/System/sysctl.h"
 #include "platform/UIKit/UIDevice.h"
+#include "settings/diagnosticText.h"
 #include "settings/get_model.h"
 #include "settings/run_cmd.h"
 #include "settings/tweak.h"
@@ -8,6 +10,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace brimsound::tests {
 namespace {
@@ -75,6 +79,34 @@ TEST_F(TheIssueReport, LeavesTheLanguageOutWhenThereIsNone)
     platform.setPreferredLanguages({});
     press("reportIssue:");
     EXPECT_EQ(platform.composedMail()->attachments[0].bytes, get_model() + " (BRS 1.5.5) \n");
+}
+
+std::string textOf(const NSData& data)
+{
+    return { reinterpret_cast<const char*>(data.data()), data.size() };
+}
+
+TEST_F(TheIssueReport, TakesAsManyBytesOfDeviceAndLanguageAsTheyHaveUtf16Units)
+{
+    // Of one, two, three and four bytes in UTF-8; the last has two UTF-16 units.
+    EXPECT_EQ(textOf(diagnosticText("a\xC3\xBC\xE2\x82\xAC\xF0\x9F\x8E\xB8"
+                                    "bcdef",
+                  { "x\xC3\xBC-yz" }, {})),
+        std::string("a\xC3\xBC\xE2\x82\xAC\xF0\x9F\x8E\xB8") + " (BRS 1.5.5) x\xC3\xBC-y\n");
+    EXPECT_EQ(textOf(diagnosticText("\xC3\xBC", { "\xC3\xBC" }, {})), "\xC3 (BRS 1.5.5) \xC3\n");
+    EXPECT_EQ(textOf(diagnosticText("plain", { "en", "fr" }, {})), "plain (BRS 1.5.5) en\n");
+}
+
+TEST_F(TheIssueReport, SlidesInAndOut)
+{
+    press("reportIssue:");
+    platform.passTime(0.05);
+    EXPECT_TRUE(platform.isSheetMoving());
+    platform.passTime(1);
+    platform.cancelMail();
+    platform.passTime(0.05);
+    EXPECT_TRUE(platform.isSheetMoving());
+    platform.passTime(1);
 }
 
 TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
@@ -162,11 +194,16 @@ TEST_F(TheIssueReport, DescribesTheDeviceByMachineAndSystem)
     ASSERT_GT(model.size(), end.size());
     EXPECT_EQ(model.substr(model.size() - end.size()), end);
     EXPECT_EQ(model.find('\0'), std::string::npos);
+
+    std::array<char, 256> machine {};
+    auto size = machine.size();
+    ASSERT_EQ(brimsound::sysctlbyname("hw.machine", machine.data(), &size, nullptr, 0), 0);
+    EXPECT_EQ(model, machine.data() + end);
 }
 
 TEST_F(TheWebsite, IsOpenedWithoutAskingFirst)
 {
-    platform.haveProgramsFor({ "http" });
+    platform.haveProgramsFor({});
     press("visitWebsite:");
     EXPECT_THAT(platform.takeTrace(), ElementsAre(std::string("url ") + websiteURL));
 }

@@ -106,8 +106,7 @@ PropertyList::Dictionary storedPreferences()
 std::vector<float> floatsIn(const PropertyList::Dictionary& dictionary, const std::string& key)
 {
     std::vector<float> floats;
-    const auto* value = dictionary.find(key);
-    if (const auto* array = value ? value->asArray() : nullptr) {
+    if (const auto* array = arrayForKey(dictionary, key)) {
         for (const auto& element : *array)
             floats.push_back(element.floatValue());
     }

@@ -2,6 +2,7 @@
 #include "settings/tweak.h"
 #include "tests/settings/Pane.h"
 #include "tests/settings/PresetPane.h"
+#include "tests/support/Images.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +12,7 @@ namespace brimsound::tests {
 
 namespace {
 
+using testing::Contains;
 using testing::DoubleNear;
 using testing::Each;
 using testing::ElementsAre;
@@ -131,6 +133,20 @@ TEST_F(ThePresetList, IsReadAtEachShowing)
     EXPECT_THAT(pane.names(), areKeys({ "Mine", "Yours" }));
     pane.showPresets();
     EXPECT_THAT(pane.names(), ElementsAre("Theirs"));
+}
+
+TEST_F(ThePresetList, ShowsTheRowsOfEachReading)
+{
+    storePresets(PropertyList::Dictionary { { "Mine", rising() } });
+    const PresetPane pane(platform);
+    pane.showPresets();
+    platform.layOut();
+    storePresets(PropertyList::Dictionary { { "Theirs", level(1) } });
+    pane.showPresets();
+    platform.layOut();
+    const auto* cell = pane.list().cellForRowAtIndexPath({ 1, 0 });
+    ASSERT_NE(cell, nullptr);
+    EXPECT_EQ(cell->textLabel().text(), "Theirs");
 }
 
 TEST_F(ThePresetList, LogsItsReading)
@@ -332,6 +348,67 @@ TEST_F(ARow, IsReusedWithNothingLeftOfTheOneBefore)
     EXPECT_TRUE(isReused);
 }
 
+TEST_F(ARow, IsNotSelectedWhenItsCellWasBefore)
+{
+    const PresetPane pane(platform, { 320, 300 });
+    pane.showPresets();
+    platform.layOut();
+    const auto save = retain(pane.list().cellForRowAtIndexPath({ 0, 0 }));
+    pane.list().setContentOffset({ 0, 400 });
+    platform.layOut();
+    // All cells that wait to be used again, the Save row's among them.
+    for (int i = 0; i < 20; ++i) {
+        save->setSelected(true, Animated::No);
+        const auto cell = pane.cell({ 1, 0 });
+        if (cell == save) {
+            EXPECT_FALSE(save->isSelected());
+            return;
+        }
+    }
+    // It is on view already, as another row.
+    for (std::size_t row = 0; row < builtinNames.size(); ++row) {
+        if (pane.list().cellForRowAtIndexPath({ 1, row }) == save.get()) {
+            save->setSelected(true, Animated::No);
+            pane.list().reloadData();
+            platform.layOut();
+            EXPECT_FALSE(save->isSelected());
+            return;
+        }
+    }
+    FAIL() << "the cell is not used again";
+}
+
+TEST_F(ARow, HasACurveThatGrowsFromNothingInANewCell)
+{
+    const PresetPane pane(platform);
+    pane.showPresets();
+    RetainPtr<UITableViewCell> cell;
+    UIView::animateWithDurationAnimations(1, [&] { cell = pane.cellNamed("Rock"); });
+    EXPECT_EQ(cell->backgroundView()->frame(), cell->bounds());
+    EXPECT_EQ(shownFrame(*cell->backgroundView()), CGRect());
+}
+
+TEST_F(ARow, KeepsItsCurvesWithinItself)
+{
+    storePresets(PropertyList::Dictionary { { "Loud", level(24) } });
+    const PresetPane pane(platform);
+    pane.showPresets();
+    EXPECT_TRUE(pane.cellNamed("Loud")->clipsToBounds());
+    EXPECT_TRUE(pane.cell({ 0, 0 })->clipsToBounds());
+}
+
+TEST_F(ARow, ReadsGainsAsNumbersOfAnyKind)
+{
+    storePresets(PropertyList::Dictionary {
+        { "Typed", PropertyList::Array { "6", "-6", true, false, 3, " 4.5 dB", "loud", -0.5, "1e1", 9 } } });
+    const PresetPane pane(platform);
+    pane.showPresets();
+    const auto cell = pane.cellNamed("Typed");
+    EXPECT_THAT(gainsOf(backgroundCurve(*cell)), ElementsAre(6, -6, 1, 0, 3, 4.5f, 0, -0.5f, 10, 9));
+    EXPECT_EQ(gainsOf(pressedCurve(*cell)), gainsOf(backgroundCurve(*cell)));
+    EXPECT_THAT(pane.trace(), SizeIs(2)) << "what the reading logs, and nothing of any gain";
+}
+
 TEST_F(ARow, HasItsPressedLooksAsLargeAsItselfWhenItAppears)
 {
     const PresetPane pane(platform);
@@ -360,18 +437,55 @@ TEST_F(ARow, ForSavingShowsThePlusAndTheSlidersCurve)
     EXPECT_EQ(pane.cell({ 0, 0 })->imageView().image(), cell->imageView().image()) << "loaded once";
 }
 
-TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestAndSaysSoOnce)
+TEST_F(ARow, ForSavingShowsAWhitePlusOfTheSameShapeWhilePressed)
 {
-    storePresets(PropertyList::Dictionary { { "Short", PropertyList::Array { 3, 6.5f, "9", false } } });
+    const PresetPane pane(platform);
+    pane.showPresets();
+    const auto cell = pane.cell({ 0, 0 });
+    const auto& plus = *cell->imageView().image();
+    const auto& pressed = *cell->imageView().highlightedImage();
+    // The artwork has two pixels a point, the pressed one has one.
+    const auto scale = widthOf(plus) / widthOf(pressed);
+    const auto alphas = [](const UIImage& image, std::size_t x, std::size_t y, std::size_t size) {
+        int sum = 0;
+        for (std::size_t i = 0; i < size * size; ++i)
+            sum += pixelOf(image, x * size + i % size, y * size + i / size)[3];
+        return sum / static_cast<int>(size * size);
+    };
+    int opaque = 0;
+    int clear = 0;
+    for (std::size_t y = 0; y < heightOf(pressed); ++y) {
+        for (std::size_t x = 0; x < widthOf(pressed); ++x) {
+            const auto pixel = pixelOf(pressed, x, y);
+            EXPECT_THAT(pixel, Each(pixel[3])) << "white, at " << x << " " << y;
+            // Filled and then cut to the shape of what was drawn: the alpha of the shape, weighted once.
+            EXPECT_NEAR(pixel[3], alphas(plus, x, y, scale), 40) << x << " " << y;
+            opaque += pixel[3] == 255;
+            clear += pixel[3] == 0;
+        }
+    }
+    EXPECT_GT(opaque, 0);
+    EXPECT_GT(clear, 0);
+}
+
+TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestWhichIsSaidAtEachShowing)
+{
+    const std::string complaint
+        = "log Brimsound: preset \"Short\" is not ten gains: 0 dB where one is missing";
+    storePresets(PropertyList::Dictionary {
+        { "Short", PropertyList::Array { 3, 6.5f, "9", true } }, { "Mine", rising() } });
     const auto file = platform.preferencesFile();
     const PresetPane pane(platform);
     pane.showPresets();
-    pane.trace();
-    const auto cell = pane.cellNamed("Short");
-    EXPECT_THAT(gainsOf(backgroundCurve(*cell)), ElementsAre(3, 6.5f, 0, 0, 0, 0, 0, 0, 0, 0));
-    EXPECT_THAT(pane.trace(),
-        ElementsAre("log Brimsound: preset \"Short\" is not ten gains: 0 dB where one is missing"));
+    EXPECT_EQ(pane.trace().back(), complaint);
+    for (int i = 0; i < 2; ++i) {
+        const auto cell = pane.cellNamed("Short");
+        EXPECT_THAT(gainsOf(backgroundCurve(*cell)), ElementsAre(3, 6.5f, 9, 1, 0, 0, 0, 0, 0, 0));
+    }
+    EXPECT_THAT(pane.trace(), IsEmpty()) << "not at each row";
     EXPECT_EQ(platform.preferencesFile(), file);
+    pane.showPresets();
+    EXPECT_THAT(pane.trace(), Contains(complaint).Times(1));
 }
 
 TEST_F(ARow, WithoutAnArrayShowsTenTimesNothing)
@@ -489,7 +603,7 @@ TEST_F(ChoosingAPreset, ShowsItAsSelectedNextTime)
     EXPECT_THAT(saturationsOf(backgroundCurve(*pane.cellNamed("Rock"))), Each(DoubleNear(0.3, 1e-6)));
 }
 
-TEST_F(ChoosingAPreset, HandsOverNothingWhereAGainIsMissingAndSaysSoOnce)
+TEST_F(ChoosingAPreset, HandsOverNothingWhereAGainIsMissing)
 {
     storePresets(
         PropertyList::Dictionary { { "Short", PropertyList::Array { 3, 6.5f, "9" } }, { "Odd", 1 } });
@@ -498,15 +612,24 @@ TEST_F(ChoosingAPreset, HandsOverNothingWhereAGainIsMissingAndSaysSoOnce)
     pane.trace();
     pane.choose("Short");
     EXPECT_THAT(
-        floatsIn(storedPreferences(), peakingEqValuesKey), ElementsAre(3, 6.5f, 0, 0, 0, 0, 0, 0, 0, 0));
-    EXPECT_EQ(
-        pane.trace().front(), "log Brimsound: preset \"Short\" is not ten gains: 0 dB where one is missing");
+        floatsIn(storedPreferences(), peakingEqValuesKey), ElementsAre(3, 6.5f, 9, 0, 0, 0, 0, 0, 0, 0));
     EXPECT_THAT(storedGains("Short"), ElementsAre(3, 6.5f, 9)) << "the file keeps what it had";
 
     pane.showPresets();
     pane.choose("Odd");
     EXPECT_THAT(floatsIn(storedPreferences(), peakingEqValuesKey), Each(0));
     EXPECT_EQ(storedValue(selectedPresetKey), PropertyList("Odd"));
+}
+
+TEST_F(ChoosingAPreset, PlaysGainsThatAreNumbersOfAnyKind)
+{
+    storePresets(PropertyList::Dictionary {
+        { "Typed", PropertyList::Array { "6", "-6", true, false, 3, "4.5", "loud", -0.5, 0, 9 } } });
+    const PresetPane pane(platform);
+    pane.showPresets();
+    pane.choose("Typed");
+    EXPECT_THAT(
+        floatsIn(storedPreferences(), peakingEqValuesKey), ElementsAre(6, -6, 1, 0, 3, 4.5f, 0, -0.5f, 0, 9));
 }
 
 TEST_F(ChoosingAPreset, WithMoreThanTenGainsPlaysTheFirstTen)
@@ -541,11 +664,15 @@ public:
         saver = &panel;
         handedOver = gains;
         selectedThen = storedValue(selectedPresetKey);
+        alphaThen = panel.view().alpha();
+        tookTouchesThen = panel.view().isUserInteractionEnabled();
     }
 
     PlaylistSaver* saver = nullptr;
     PropertyList handedOver;
     PropertyList selectedThen;
+    CGFloat alphaThen = -1;
+    bool tookTouchesThen = true;
 
 private:
     bool _answers;
@@ -564,6 +691,18 @@ TEST_F(ChoosingAPreset, HandsTheGainsToTheDelegateBeforeTheChoiceIsRecorded)
     EXPECT_EQ(delegate->handedOver, PropertyList(rising()));
     EXPECT_EQ(delegate->selectedThen, PropertyList("Yours"));
     EXPECT_EQ(storedValue(selectedPresetKey), PropertyList("Mine"));
+}
+
+TEST_F(ChoosingAPreset, ClosesThePanelBeforeTheDelegateIsTold)
+{
+    storePresets(twoPresets());
+    const auto delegate = make<Delegate>(true);
+    const auto panel = make<PlaylistSaver>(*delegate);
+    panel->showEverything();
+    ASSERT_EQ(panel->view().alpha(), 1);
+    panel->tableViewDidSelectRowAtIndexPath(*panel->tableView(), { 1, rowOf("Mine", *panel) });
+    EXPECT_EQ(delegate->alphaThen, 0);
+    EXPECT_FALSE(delegate->tookTouchesThen);
 }
 
 /// Shows the list again while it is told of a choice.
@@ -645,6 +784,31 @@ TEST_F(SavingAPreset, WritesTheSlidersUnderItsNameAndTellsEveryone)
     EXPECT_THAT(pane.names(), areKeys({ "Mine", "Yours", "New" }));
     EXPECT_THAT(platform.messages(), IsEmpty()) << "the delegate is not told";
     EXPECT_EQ(pane.root().alpha(), 0) << "and the panel closes";
+}
+
+TEST_F(SavingAPreset, MakesItTheSelectedOneAtOnce)
+{
+    auto preferences = preferencesWithPresets(twoPresets());
+    preferences.set(selectedPresetKey, "Yours");
+    store(preferences);
+    const PresetPane pane(platform);
+    pane.showPresets();
+    ASSERT_EQ(pane.panel().selectedPreset(), "Yours");
+    pane.save("New");
+    EXPECT_EQ(pane.panel().selectedPreset(), "New");
+    EXPECT_THAT(saturationsOf(backgroundCurve(*pane.cellNamed("New"))), Each(DoubleNear(0.3, 1e-6)));
+}
+
+TEST_F(SavingAPreset, StoresRealNumbers)
+{
+    storePresets(twoPresets());
+    const PresetPane pane(platform);
+    pane.slider(1).setValue(3);
+    pane.showPresets();
+    pane.save("New");
+    const auto presets = storedValue(presetsKey);
+    for (const auto& gain : *arrayForKey(*presets.asDictionary(), "New"))
+        EXPECT_TRUE(gain.asReal());
 }
 
 TEST_F(SavingAPreset, HasThePaneReload)
@@ -779,6 +943,38 @@ TEST_F(DeletingAPreset, TakesItOutOfTheFileAndTheList)
     platform.layOut();
     EXPECT_EQ(pane.list().cellForRowAtIndexPath({ 1, 0 })->textLabel().text(), "Yours");
     EXPECT_EQ(pane.list().cellForRowAtIndexPath({ 1, 1 }), nullptr);
+}
+
+TEST_F(DeletingAPreset, MovesTheRowsBelowUp)
+{
+    storePresets(twoPresets());
+    const PresetPane pane(platform);
+    pane.showPresets();
+    platform.layOut();
+    const auto last = retain(pane.list().cellForRowAtIndexPath({ 1, 1 }));
+    const auto before = last->frame();
+    pane.remove(pane.names()[0]);
+    platform.layOut();
+    EXPECT_EQ(pane.list().cellForRowAtIndexPath({ 1, 0 }), last.get());
+    EXPECT_EQ(last->frame().origin.y, before.origin.y - 44);
+    EXPECT_EQ(shownFrame(*last), before) << "on its way";
+    platform.passTime(1);
+    EXPECT_EQ(shownFrame(*last), last->frame());
+}
+
+TEST_F(DeletingAPreset, ShowsOtherRowsAtOnceWhereTheFileChangedSince)
+{
+    storePresets(twoPresets());
+    const PresetPane pane(platform);
+    pane.showPresets();
+    platform.layOut();
+    storePresets(PropertyList::Dictionary { { "Theirs", level(2) }, { "Mine", level(3) } });
+    pane.remove("Mine");
+    platform.layOut();
+    const auto* row = pane.list().cellForRowAtIndexPath({ 1, 0 });
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->textLabel().text(), "Theirs");
+    EXPECT_EQ(shownFrame(*row), row->frame());
 }
 
 TEST_F(DeletingAPreset, WritesTheOtherBuiltInOnesWhereTheFileHasNone)

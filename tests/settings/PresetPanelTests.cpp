@@ -112,11 +112,10 @@ protected:
     TestPlatform platform;
 };
 
-TEST_P(ThePanelOnAHost, HasItsFramesByTheHostsSize)
+/// What the panel's views have on a host of that size while it shows its list.
+void expectLaidOut(const PresetPane& pane, const Layout& layout)
 {
-    const auto [host, main] = GetParam();
-    const PresetPane pane(platform, host);
-    pane.showPresets();
+    const auto& [host, main] = layout;
     const Views views(pane);
     const auto width = main.size.width;
     const auto height = main.size.height;
@@ -131,24 +130,157 @@ TEST_P(ThePanelOnAHost, HasItsFramesByTheHostsSize)
     EXPECT_EQ(views.table.frame(), CGRectMake(0, 0, width, height - 44));
 }
 
+TEST_P(ThePanelOnAHost, HasItsFramesByTheHostsSize)
+{
+    const PresetPane pane(platform, GetParam().host);
+    pane.showPresets();
+    expectLaidOut(pane, GetParam());
+}
+
+TEST_P(ThePanelOnAHost, HasThemAtASecondShowingToo)
+{
+    const PresetPane pane(platform, { 260, 400 });
+    pane.showPresets();
+    pane.panel().hideEverything();
+    // Out of the host, so that it does not follow by itself.
+    pane.root().removeFromSuperview();
+    platform.resizeWindow(GetParam().host);
+    pane.showPresets();
+    expectLaidOut(pane, GetParam());
+}
+
+TEST_P(ThePanelOnAHost, FollowsItWhileItIsShown)
+{
+    for (const CGSize before : { CGSize { 200, 300 }, { 320, 568 }, { 900, 700 } }) {
+        const PresetPane pane(platform, before);
+        pane.showPresets();
+        platform.resizeWindow(GetParam().host);
+        expectLaidOut(pane, GetParam());
+        EXPECT_EQ(shownFrame(*pane.panel().mainView()), GetParam().main) << "at once";
+        EXPECT_EQ(pane.root().alpha(), 1);
+    }
+}
+
+TEST_P(ThePanelOnAHost, FollowsItWhileItFades)
+{
+    const PresetPane pane(platform, { 900, 700 });
+    pane.showPresets();
+    pane.panel().hideEverything();
+    platform.passTime(0.25);
+    const auto alpha = shownAlpha(pane.root());
+    platform.resizeWindow(GetParam().host);
+    expectLaidOut(pane, GetParam());
+    EXPECT_EQ(shownAlpha(pane.root()), alpha);
+    platform.passTime(0.26);
+    EXPECT_EQ(shownAlpha(pane.root()), 0);
+}
+
+TEST_P(ThePanelOnAHost, FollowsItDuringNameEntry)
+{
+    const PresetPane pane(platform, { 900, 700 });
+    pane.showPresets();
+    pane.panel().tableViewDidSelectRowAtIndexPath(pane.list(), { 0, 0 });
+    pane.panel().nameField().setText("New");
+    // Once on the way to the collapsed form, once when it is there.
+    platform.passTime(0.1);
+    for (const CGSize host : { CGSize { 500, 400 }, GetParam().host }) {
+        platform.resizeWindow(host);
+        const Views views(pane);
+        const auto width = std::min(host.width - 88, 232.0);
+        const auto main = CGRectMake((host.width - width) / 2, 44, width, 88);
+        EXPECT_EQ(views.root.frame(), CGRectMake(0, 0, host.width, host.height));
+        EXPECT_EQ(views.hideAll.frame(), views.root.frame());
+        EXPECT_EQ(views.main.frame(), main);
+        EXPECT_EQ(shownFrame(views.main), main) << "at once";
+        EXPECT_EQ(views.cancel.frame(), CGRectMake(0, 44, width, 44));
+        EXPECT_EQ(views.cancelLabel.frame(), CGRectMake(0, 0, width, 44));
+        EXPECT_EQ(views.backdrop.frame(), CGRectMake(0, 0, width, 44));
+        EXPECT_EQ(views.field.frame(), CGRectMake(20, 8, width - 40, 28));
+        EXPECT_EQ(views.table.frame(), CGRectMake(0, 0, width, host.height - 132));
+        EXPECT_TRUE(views.field.isFirstResponder());
+        EXPECT_EQ(views.field.text(), "New");
+        platform.passTime(1);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(OfEachWidth, ThePanelOnAHost,
     testing::Values(Layout { { 200, 480 }, CGRectMake(44, 44, 112, 392) },
         Layout { { 320, 568 }, CGRectMake(44, 44, 232, 480) },
         Layout { { 375, 667 }, CGRectMake(71.5, 44, 232, 579) },
         Layout { { 1024, 768 }, CGRectMake(396, 44, 232, 680) }));
 
-TEST_F(ThePanel, FollowsTheHostsSizeAtTheNextShowing)
+TEST_F(ThePanel, KeepsItsPlaceInTheListAndTheSelectedRowWhenTheHostChanges)
 {
     const PresetPane pane(platform);
     pane.showPresets();
-    platform.resizeWindow({ 1024, 768 });
-    pane.showPresets();
-    const Views views(pane);
-    EXPECT_EQ(views.root.frame(), CGRectMake(0, 0, 1024, 768));
-    EXPECT_EQ(views.main.frame(), CGRectMake(396, 44, 232, 680));
-    EXPECT_EQ(views.cancelButton.frame(), CGRectMake(0, 0, 1024, 88));
-    EXPECT_EQ(views.field.frame(), CGRectMake(20, 8, 192, 28));
+    platform.layOut();
+    pane.list().setContentOffset({ 0, 100 });
+    platform.layOut();
+    auto* const row = pane.list().cellForRowAtIndexPath({ 1, 4 });
+    ASSERT_NE(row, nullptr);
+    row->setSelected(true, Animated::No);
+    platform.resizeWindow({ 900, 568 });
+    EXPECT_EQ(pane.list().contentOffset(), (CGPoint { 0, 100 }));
+    EXPECT_EQ(pane.list().cellForRowAtIndexPath({ 1, 4 }), row);
+    EXPECT_TRUE(row->isSelected());
 }
+
+TEST_F(ThePanel, IsLaidOutAnewOnlyForAnotherSize)
+{
+    const PresetPane pane(platform);
+    pane.showPresets();
+    platform.layOut();
+    const Views views(pane);
+    views.main.setFrame(CGRectMake(1, 2, 3, 4));
+    views.root.setNeedsLayout();
+    platform.layOut();
+    EXPECT_EQ(views.main.frame(), CGRectMake(1, 2, 3, 4));
+}
+
+class APaneInALowWindow : public testing::TestWithParam<CGSize> {
+protected:
+    TestPlatform platform;
+};
+
+TEST_P(APaneInALowWindow, ShowsThePresetsWithoutScrolling)
+{
+    const PresetPane pane(platform, GetParam());
+    ASSERT_EQ(pane.controller().sliders(), nullptr) << "the slider row is off view";
+    auto& table = pane.controller().table();
+    pane.showPresets();
+    platform.layOut();
+    EXPECT_EQ(table.contentOffset(), CGPoint());
+    EXPECT_EQ(&pane.host(), &platform.topmostView());
+    EXPECT_EQ(pane.root().alpha(), 1);
+    ASSERT_NE(pane.controller().sliders(), nullptr);
+
+    // The row that comes on view is the one that was built.
+    table.setContentOffset(table.rectForRowAtIndexPath(sliderRow).origin);
+    platform.layOut();
+    const auto* cell = table.cellForRowAtIndexPath(sliderRow);
+    ASSERT_NE(cell, nullptr);
+    EXPECT_EQ(pane.controller().blackBar()->superview(), &cell->contentView());
+    EXPECT_EQ(pane.slider(3).frame().size.width, cell->contentView().frame().size.width - 40);
+}
+
+TEST_P(APaneInALowWindow, ShowsThemWhenTheRowWasScrolledAway)
+{
+    const PresetPane pane(platform, GetParam());
+    auto& table = pane.controller().table();
+    table.setContentOffset(table.rectForRowAtIndexPath(sliderRow).origin);
+    platform.layOut();
+    ASSERT_NE(pane.controller().sliders(), nullptr);
+    table.setContentOffset({});
+    platform.layOut();
+    ASSERT_EQ(table.cellForRowAtIndexPath(sliderRow), nullptr);
+    pane.showPresets();
+    EXPECT_EQ(table.contentOffset(), CGPoint());
+    EXPECT_EQ(&pane.host(), &platform.topmostView());
+    EXPECT_EQ(pane.controller().sliders()->size(), 11u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfEachSize, APaneInALowWindow, testing::Values(CGSize { 568, 120 }, CGSize { 320, 100 }));
 
 TEST_F(ThePanel, IsBuiltForTheScreenAndHidden)
 {
@@ -197,7 +329,10 @@ TEST_F(ThePanel, IsShownAtOnceFromItsTop)
 {
     const PresetPane pane(platform);
     pane.showPresets();
+    platform.layOut();
     pane.list().setContentOffset({ 0, 100 });
+    platform.layOut();
+    ASSERT_EQ(pane.list().contentOffset(), (CGPoint { 0, 100 }));
     pane.panel().hideEverything();
     pane.showPresets();
     EXPECT_EQ(pane.list().contentOffset(), CGPoint());

@@ -13,7 +13,6 @@ namespace brimsound::tests {
 
 namespace {
 
-using testing::AnyOf;
 using testing::DoubleNear;
 using testing::Each;
 using testing::ElementsAre;
@@ -160,10 +159,14 @@ TEST(ABar, HasTheColorOfItsGain)
 
 TEST(ABar, DoesNotFadeBeyondTwelve)
 {
-    const auto gains = all(-18);
-    const auto view = curve(gains.data());
-    // A component beyond the range may be read as the end of it.
-    EXPECT_THAT(colorsOf(*view), Each(ElementsAre(AnyOf(-0.5, 0), 1, 0, 1)));
+    for (const float gain : { -12.0f, -18.0f, -24.0f, -1000.0f }) {
+        const auto gains = all(gain);
+        EXPECT_THAT(colorsOf(*curve(gains.data())), Each(Components { 0, 1, 0, 1 })) << gain;
+    }
+    for (const float gain : { 12.0f, 18.0f, 24.0f, 1000.0f }) {
+        const auto gains = all(gain);
+        EXPECT_THAT(colorsOf(*curve(gains.data())), Each(Components { 1, 0, 0, 1 })) << gain;
+    }
 }
 
 /// Hue, saturation, brightness, alpha.
@@ -188,6 +191,21 @@ TEST(ASaturation, LeavesHueBrightnessAndAlpha)
                 DoubleNear(expected[2], 1e-9), DoubleNear(expected[3], 1e-9)));
     }
     EXPECT_EQ(heightsOf(*pale), heightsOf(*pure));
+}
+
+TEST(ASaturation, PalesGainsBeyondTwelveAsThoseOfTwelve)
+{
+    for (const float sign : { -1.0f, 1.0f }) {
+        const auto view = curve();
+        view->setSaturation(0.1f);
+        const auto limit = all(sign * 12);
+        view->setGains(limit.data());
+        const auto colors = colorsOf(*view);
+        const auto beyond = all(sign * 30);
+        view->setGains(beyond.data());
+        EXPECT_EQ(colorsOf(*view), colors);
+        EXPECT_THAT(colors, Each(ElementsAre(testing::_, testing::_, DoubleNear(0.9, 1e-6), 1)));
+    }
 }
 
 TEST(ASaturation, PalesTheBarsWithoutGainsToo)

@@ -200,6 +200,36 @@ TEST_F(TheSliderRow, StretchesTheSlidersWithTheCellAndKeepsTheCaptions)
     EXPECT_DOUBLE_EQ(pane.controller().blackBar()->frame().origin.x, 35 + 440 / 2.0);
 }
 
+TEST_F(TheSliderRow, KeepsEachSlidersPlaceAndHeightWhenItStretches)
+{
+    const Pane pane(platform);
+    pane.slider(3).setFrame(CGRectMake(1, 140, 2, 30));
+    pane.cell().setFrame(CGRectMake(0, 0, 480, 600));
+    pane.cell().layoutSubviews();
+    EXPECT_EQ(pane.slider(3).frame(), CGRectMake(35, 140, 440, 30));
+    EXPECT_EQ(pane.slider(4).frame(), CGRectMake(35, 176, 440, 44));
+}
+
+TEST_F(TheSliderRow, ComesBackWithItsSlidersWhenItWasScrolledAway)
+{
+    const auto controller = openController();
+    auto& table = controller->table();
+    platform.showInWindow(table, { 320, 100 });
+    const auto scrollTo = [&](CGPoint offset) {
+        table.setContentOffset(offset);
+        platform.layOut();
+    };
+    const auto sliders = table.rectForRowAtIndexPath(sliderRow).origin;
+    for (int i = 0; i < 2; ++i) {
+        scrollTo(sliders);
+        const auto* cell = table.cellForRowAtIndexPath(sliderRow);
+        ASSERT_NE(cell, nullptr);
+        EXPECT_EQ(controller->blackBar()->superview(), &cell->contentView());
+        scrollTo({});
+        EXPECT_EQ(table.cellForRowAtIndexPath(sliderRow), nullptr);
+    }
+}
+
 TEST_F(TheSliderRow, WiresTouchesAndNotValueChanges)
 {
     const Pane pane(platform);

@@ -185,6 +185,31 @@ TEST_F(ASwitch, IsNotTakenForAChangeOfTheGains)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
+TEST_F(ASwitch, WithoutAValueOrAKeyStoresNothingAndTellsNobody)
+{
+    _autoPreamp = true;
+    for (const auto* selector : { "setEnabled:", "setEnabledCC:", "setAutoPreamp:", "setFilterDisabled:",
+             "setCheckingDisabled:", "showAlertViewWithMessage:" }) {
+        controller->methodForSelector(selector)->invoke(*controller, {});
+        call(selector, {});
+    }
+    const std::array<PropertyList, 2> values { PropertyList(), "value" };
+    const std::array<Argument, 2> withoutKey { values.data(), &values[1] };
+    const std::array<Argument, 2> withoutValue { &values[1], values.data() };
+    controller->methodForSelector("setVar:value:")->invoke(*controller, withoutKey);
+    controller->methodForSelector("setVar:value:")->invoke(*controller, withoutValue);
+    EXPECT_THAT(platform.takeTrace(), IsEmpty());
+    EXPECT_EQ(platform.preferencesFile(), "");
+    EXPECT_FALSE(platform.answerAlert(0));
+    EXPECT_TRUE(_autoPreamp);
+}
+
+TEST_F(AnAlert, HasAMessageAndNoTitle)
+{
+    call("setEnabled:", false);
+    EXPECT_EQ(platform.alertTitle(), "");
+}
+
 TEST_F(AnAlert, AnsweredWithNotNowRunsNothingAndKeepsTheSetting)
 {
     call("setEnabled:", false);
@@ -228,6 +253,33 @@ TEST_F(TheRespringButton, RestartsNothing)
     controller->showActivator(*row);
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
     EXPECT_EQ(platform.preferencesFile(), "");
+}
+
+/// Notes when it would save a model of its own.
+class WithModel : public BrimsoundSettingsListController {
+public:
+    void writeSettings() override { called.emplace_back("writeSettings"); }
+    void sendSettings() override { called.emplace_back("sendSettings"); }
+
+    std::vector<std::string> called;
+};
+
+TEST_F(TheRespringButton, WritesAndThenSendsWhatAModelWouldHold)
+{
+    const auto withModel = make<WithModel>();
+    withModel->initForContentSize({ 320, 568 });
+    const auto row = make<PSSpecifier>("Respring", *withModel, PropertyList::Dictionary());
+    const Argument argument = static_cast<NSObject*>(row.get());
+    withModel->methodForSelector("respring:")->invoke(*withModel, { &argument, 1 });
+    EXPECT_THAT(withModel->called, ElementsAre("writeSettings", "sendSettings"));
+}
+
+TEST_F(TheRespringButton, IsNotNeededForAPaneThatIsSuspendedToWrite)
+{
+    const auto withModel = make<WithModel>();
+    withModel->initForContentSize({ 320, 568 });
+    withModel->suspend();
+    EXPECT_THAT(withModel->called, ElementsAre("writeSettings"));
 }
 
 } // namespace

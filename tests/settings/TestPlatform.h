@@ -52,6 +52,8 @@ public:
 
     /// Presses a button of the alert that is shown; 0 is the cancel button. False when none is.
     bool answerAlert(std::size_t button);
+    /// The title of the alert that is shown; empty when it has none or none is shown.
+    std::string alertTitle() const;
 
     /// A mail in its sheet, as the user sees it.
     struct Mail {
@@ -69,13 +71,16 @@ public:
     /// Presses a button of the sheet.
     void sendMail();
     void cancelMail();
+    /// Whether a sheet is on its way in or out, a moment after it was presented or dismissed.
+    bool isSheetMoving() const;
 
     /// Commands are carried out from now on; before, they are only traced.
     void carryOutCommands();
     /// No command can be started from now on, until they can again.
     void failToStartCommands();
     void startCommandsAgain();
-    /// What programs there are for URLs of those schemes, in place of whatever the machine has.
+    /// What programs there are for URLs of those schemes, in place of whatever the machine has. A URL that
+    /// the app opens is traced, "url URL", whether there is one or not.
     void haveProgramsFor(const std::vector<std::string>& schemes);
     void setPreferredLanguages(const std::vector<std::string>& languages);
 

@@ -4,6 +4,7 @@ set(settings_test_sources
   BandEditTests.cpp
   LifecycleTests.cpp
   LinksTests.cpp
+  LocalizedTests.cpp
   Pane.cpp
   PresetListTests.cpp
   PresetPane.cpp
@@ -21,5 +22,7 @@ set(settings_test_sources
   ../support/Images.cpp
 )
 list(TRANSFORM settings_test_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
+# A language of the tests' own, which lies beside the pane's in the bundle that they run with.
+set(settings_test_resources ${CMAKE_CURRENT_LIST_DIR}/resources)
 # Where the files are that each platform writes.
 set(settings_test_definitions WRITTEN_FILES="${CMAKE_CURRENT_LIST_DIR}/store")

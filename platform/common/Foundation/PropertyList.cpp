@@ -268,4 +268,35 @@ float floatForKey(const PropertyListDictionary& dictionary, std::string_view key
     return value ? value->floatValue() : 0;
 }
 
+const PropertyList::Array* arrayForKey(const PropertyListDictionary& dictionary, std::string_view key)
+{
+    const auto* value = dictionary.find(key);
+    return value ? value->asArray() : nullptr;
+}
+
+PropertyList::Array* arrayForKey(PropertyListDictionary& dictionary, std::string_view key)
+{
+    auto* value = dictionary.find(key);
+    return value ? value->asArray() : nullptr;
+}
+
+const PropertyList::Dictionary* dictionaryForKey(
+    const PropertyListDictionary& dictionary, std::string_view key)
+{
+    const auto* value = dictionary.find(key);
+    return value ? value->asDictionary() : nullptr;
+}
+
+PropertyList::Dictionary* dictionaryForKey(PropertyListDictionary& dictionary, std::string_view key)
+{
+    auto* value = dictionary.find(key);
+    return value ? value->asDictionary() : nullptr;
+}
+
+const std::string* stringForKey(const PropertyListDictionary& dictionary, std::string_view key)
+{
+    const auto* value = dictionary.find(key);
+    return value ? value->asString() : nullptr;
+}
+
 } // namespace brimsound

@@ -65,7 +65,7 @@ NSError errorOf(const sd_bus_error& error)
 {
     std::string description = error.message ? error.message : error.name;
     std::replace(description.begin(), description.end(), '\n', ' ');
-    return { error.name, description };
+    return { error.name, sd_bus_error_get_errno(&error), description };
 }
 
 } // namespace

@@ -58,9 +58,8 @@ std::string NSBundle::localizedStringForKey(
     if (const auto path = pathForResource(table, "strings")) {
         const auto strings = readPropertyListFile(*path);
         const auto* texts = strings ? strings->asDictionary() : nullptr;
-        const auto* text = texts ? texts->find(key) : nullptr;
-        if (const auto* string = text ? text->asString() : nullptr)
-            return *string;
+        if (const auto* text = texts ? stringForKey(*texts, key) : nullptr)
+            return *text;
     }
     return std::string(value);
 }

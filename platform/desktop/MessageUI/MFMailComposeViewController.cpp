@@ -10,6 +10,13 @@ namespace brimsound {
 
 namespace desktop {
 
+namespace {
+
+/// MFMailComposeErrorCodeSendFailed.
+constexpr long sendFailed = 1;
+
+} // namespace
+
 ComposerPeer& peerOf(const MFMailComposeViewController& composer)
 {
     return static_cast<ComposerPeer&>(composer.peer());
@@ -32,7 +39,7 @@ void ComposerPeer::send()
         return;
     }
     NSLog("The mail could not be handed over: " + reason);
-    const NSError error { "MFMailComposeErrorDomain", reason };
+    const NSError error { "MFMailComposeErrorDomain", sendFailed, reason };
     finish(MFMailComposeResult::Failed, &error);
 }
 

@@ -92,8 +92,7 @@ PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget
     const auto path = bundle.pathForResource(name, "plist");
     const auto plist = path ? readPropertyListFile(*path) : std::nullopt;
     const auto* root = plist ? plist->asDictionary() : nullptr;
-    const auto* found = root ? root->find("items") : nullptr;
-    const auto* items = found ? found->asArray() : nullptr;
+    const auto* items = root ? arrayForKey(*root, "items") : nullptr;
     if (!items)
         return {};
 
@@ -104,13 +103,11 @@ PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget
             continue;
         auto localized = *properties;
         for (const auto* key : { "label", "footerText" }) {
-            const auto* text = localized.find(key);
-            if (const auto* string = text ? text->asString() : nullptr)
-                localized.set(key, bundle.localizedStringForKey(*string, *string, name));
+            if (const auto* text = stringForKey(localized, key))
+                localized.set(key, bundle.localizedStringForKey(*text, *text, name));
         }
-        const auto* label = localized.find("label");
-        const auto* labelText = label ? label->asString() : nullptr;
-        specifiers.push_back(make<PSSpecifier>(labelText ? *labelText : std::string(), target, localized));
+        const auto* label = stringForKey(localized, "label");
+        specifiers.push_back(make<PSSpecifier>(label ? *label : std::string(), target, localized));
     }
     return specifiers;
 }

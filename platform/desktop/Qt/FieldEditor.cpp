@@ -61,9 +61,9 @@ void FieldEditor::liftLengthLimit()
 
 void FieldEditor::follow()
 {
-    const auto bounds = _field->bounds();
-    const auto origin = convertToWindow(bounds.origin, *_field);
-    setGeometry(QRectF(origin.x, origin.y, bounds.size.width, bounds.size.height)
+    const auto area = peerOf(*_field).textArea();
+    const auto origin = convertToWindow(area.origin, *_field);
+    setGeometry(QRectF(origin.x, origin.y, area.size.width, area.size.height)
                     .adjusted(-sideMargin, 0, sideMargin, 0)
                     .toRect());
     const auto now = QString::fromStdString(_field->text());

@@ -7,9 +7,9 @@
 
 namespace brimsound::desktop {
 
-/// Lies over a text field while that is edited, looks like it, and brings what a user expects of a desktop's
-/// text field: a selection, the clipboard, undo, input methods. What Return, Escape and Tab mean is up to the
-/// widget around it.
+/// Lies over the text of a field while that is edited, looks like it, and brings what a user expects of a
+/// desktop's text field: a selection, the clipboard, undo, input methods. What Return, Escape and Tab mean is
+/// up to the widget around it.
 class FieldEditor : public QLineEdit {
 public:
     FieldEditor(QWidget& around, UITextField&);
@@ -21,7 +21,7 @@ public:
     /// it before the editor has the keyboard does not say what the field is.
     void liftLengthLimit();
 
-    /// Takes over the field's place and text, as the field has them now.
+    /// Takes over the text's place and the text, as the field has them now.
     void follow();
     /// Whether the editor shows the text. While the field moves or fades it shows the text itself.
     bool isDrawing() const;

@@ -28,15 +28,18 @@ struct AlertPeer : ViewPeer {
     UIAlertView& alert() const { return static_cast<UIAlertView&>(*view); }
     /// Takes the alert away, then tells the delegate.
     void answer(std::size_t buttonIndex);
-    CGRect titleRect() const;
-    CGRect messageRect() const;
+    // In a card of that width.
+    CGRect titleRect(double width) const;
+    CGRect messageRect(double width) const;
+    double topOfButtons() const;
     bool hasButtonsSideBySide() const { return buttons.size() == 2; }
 };
 
 AlertPeer& peerOf(const UIAlertView&);
 
-/// The size in points that the alert's texts and buttons take.
-CGSize sizeOf(const UIAlertView&);
+/// The size in points that the alert's texts and buttons take in a window of that size. Where the texts take
+/// more than it has, they are cut off.
+CGSize sizeOf(const UIAlertView&, CGSize window);
 
 std::vector<std::string> buttonTitlesOf(const UIAlertView&);
 

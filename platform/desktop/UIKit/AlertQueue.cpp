@@ -25,7 +25,7 @@ public:
     void layoutSubviews() override
     {
         const auto [width, height] = bounds().size;
-        const auto size = sizeOf(_alert);
+        const auto size = sizeOf(_alert, bounds().size);
         _alert.setFrame(CGRectMake(std::round((width - size.width) / 2),
             std::round((height - size.height) / 2), size.width, size.height));
     }

@@ -110,7 +110,8 @@ void TablePeer::moveKeyboardTo(const NSIndexPath& row)
 FocusRing TablePeer::focusRing() const
 {
     const auto row = keyboardRow();
-    return { row ? insetBy(rowRect(*row), focusRingInset, focusRingInset) : CGRect {} };
+    return { row ? insetBy(rowRect(*row), focusRingInset, focusRingInset) : CGRect {},
+        focusRingRadius(*view) };
 }
 
 UIView& TablePeer::focusedPart() const

@@ -13,7 +13,9 @@ namespace desktop {
 
 namespace {
 
-constexpr double cardWidth = 270;
+constexpr double widestCard = 270;
+/// What stays free at each side of a card in a narrow window.
+constexpr double windowMargin = 8;
 constexpr double cardRadius = 13;
 constexpr double textMargin = 16;
 constexpr double textPadding = 20;
@@ -38,7 +40,7 @@ const UIFont& messageFont()
     return *font;
 }
 
-double heightOf(const std::string& text, const UIFont& font)
+double heightOf(const std::string& text, const UIFont& font, double cardWidth)
 {
     return text.empty() ? 0 : heightOfParagraph(text, font, cardWidth - 2 * textMargin);
 }
@@ -61,23 +63,25 @@ AlertPeer::AlertPeer()
     clipsToBounds = true;
 }
 
-CGRect AlertPeer::titleRect() const
+CGRect AlertPeer::titleRect(double width) const
 {
-    return CGRectMake(textMargin, textPadding, cardWidth - 2 * textMargin, heightOf(title, titleFont()));
+    return CGRectMake(textMargin, textPadding, width - 2 * textMargin, heightOf(title, titleFont(), width));
 }
 
-CGRect AlertPeer::messageRect() const
+CGRect AlertPeer::messageRect(double width) const
 {
-    const double top = title.empty() ? textPadding : bottomOf(titleRect()) + gapBelowTitle;
-    return CGRectMake(textMargin, top, cardWidth - 2 * textMargin, heightOf(message, messageFont()));
+    const double top = title.empty() ? textPadding : bottomOf(titleRect(width)) + gapBelowTitle;
+    return CGRectMake(textMargin, top, width - 2 * textMargin, heightOf(message, messageFont(), width));
 }
 
-CGSize sizeOf(const UIAlertView& alert)
+CGSize sizeOf(const UIAlertView& alert, CGSize window)
 {
     const auto& peer = peerOf(alert);
     const auto rows = peer.hasButtonsSideBySide() ? 1 : peer.buttons.size();
-    return { cardWidth,
-        bottomOf(peer.messageRect()) + textPadding + buttonHeight * static_cast<double>(rows) };
+    const double width = std::max(0.0, std::min(widestCard, window.width - 2 * windowMargin));
+    const double height
+        = bottomOf(peer.messageRect(width)) + textPadding + buttonHeight * static_cast<double>(rows);
+    return { width, std::min(height, window.height) };
 }
 
 std::vector<std::string> buttonTitlesOf(const UIAlertView& alert)
@@ -88,14 +92,26 @@ std::vector<std::string> buttonTitlesOf(const UIAlertView& alert)
     return titles;
 }
 
+double AlertPeer::topOfButtons() const
+{
+    double top = frame.size.height;
+    for (const auto& button : buttons)
+        top = std::min(top, button->frame().origin.y);
+    return top;
+}
+
 void AlertPeer::draw(Canvas& canvas) const
 {
     const auto bounds = boundsOf(*this);
+    const double width = bounds.size.width;
     const double line = canvas.hairline();
     canvas.fillRect(bounds, theme::rowBackground);
+    canvas.save();
+    canvas.clip(CGRectMake(0, 0, width, topOfButtons()));
     if (!title.empty())
-        canvas.drawParagraph(title, titleRect(), titleFont(), theme::text, NSTextAlignment::Center);
-    canvas.drawParagraph(message, messageRect(), messageFont(), theme::text, NSTextAlignment::Center);
+        canvas.drawParagraph(title, titleRect(width), titleFont(), theme::text, NSTextAlignment::Center);
+    canvas.drawParagraph(message, messageRect(width), messageFont(), theme::text, NSTextAlignment::Center);
+    canvas.restore();
     for (const auto& button : buttons) {
         const auto place = button->frame();
         canvas.fillRect(CGRectMake(0, place.origin.y - line, bounds.size.width, line), theme::separator);

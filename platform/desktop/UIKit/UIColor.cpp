@@ -21,6 +21,11 @@ struct ColorPeer : Peer {
     const desktop::Color color;
 };
 
+double inRange(double component)
+{
+    return std::clamp(component, 0.0, 1.0);
+}
+
 const desktop::Color& componentsOf(const UIColor& color)
 {
     return static_cast<ColorPeer&>(color.peer()).color;
@@ -36,7 +41,7 @@ UIColor::UIColor(Peer* peer)
 RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
 {
-    return adopt(new UIColor(new ColorPeer({ red, green, blue, alpha })));
+    return adopt(new UIColor(new ColorPeer({ inRange(red), inRange(green), inRange(blue), inRange(alpha) })));
 }
 
 // Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
@@ -44,6 +49,9 @@ RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
 RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
     CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
 {
+    hue = inRange(hue);
+    saturation = inRange(saturation);
+    brightness = inRange(brightness);
     // Each component stands at the brightness for a third of the circle, and goes down and up beside it.
     const auto component = [&](double peakOfFall) {
         const double sixth = std::fmod(peakOfFall + 6 * hue, 6);

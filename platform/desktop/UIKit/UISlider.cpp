@@ -176,9 +176,11 @@ void UISlider::setValue(float value)
     if (std::isnan(value))
         return;
     value = std::clamp(value, peer.minimum, peer.maximum);
-    if (value == peer.value)
-        return;
+    const bool moves = value != peer.value;
+    // Of two zeros the new one counts.
     peer.value = value;
+    if (!moves)
+        return;
     desktop::setNeedsDisplay(*this);
     desktop::accessibleChanged(*this, desktop::AccessibleChange::ValueChanged);
 }

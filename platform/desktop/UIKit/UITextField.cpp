@@ -30,11 +30,32 @@ void TextFieldPeer::endTracking(CGPoint, bool inside)
 
 bool TextFieldPeer::keyPressed(Key key, KeyStroke stroke)
 {
+    if (key == Key::Return && stroke == KeyStroke::First)
+        confirm();
+    return true;
+}
+
+void TextFieldPeer::confirm()
+{
     // The delegate may take the field away.
     const auto kept = brimsound::retain(view);
-    if (key == Key::Return && stroke == KeyStroke::First && delegate)
+    if (delegate)
         delegate->textFieldShouldReturn(&field());
-    return true;
+}
+
+CGRect TextFieldPeer::textArea() const
+{
+    auto area = boundsOf(*this);
+    if (hasKeyboard)
+        area.size.width = std::max(0.0, area.size.width - returnKey->width());
+    return area;
+}
+
+void TextFieldPeer::willLayOut()
+{
+    const auto [width, height] = frame.size;
+    const double keyWidth = std::min(width, returnKey->width());
+    returnKey->setFrame(CGRectMake(width - keyWidth, 0, keyWidth, height));
 }
 
 void TextFieldPeer::type(const std::string& typed)
@@ -46,7 +67,7 @@ void TextFieldPeer::draw(Canvas& canvas) const
 {
     if (isDrawnByEditor || !font)
         return;
-    const auto bounds = boundsOf(*this);
+    const auto bounds = textArea();
     const auto color = colorOf(textColor);
     if (!hasKeyboard) {
         canvas.drawLine(text, bounds, *font, color, NSTextAlignment::Left);
@@ -82,7 +103,10 @@ using desktop::TextFieldPeer;
 UITextField::UITextField(const CGRect& frame)
     : UIControl(new TextFieldPeer)
 {
-    peerOf(*this).frame = frame;
+    auto& peer = peerOf(*this);
+    peer.frame = frame;
+    peer.returnKey = make<desktop::ReturnKey>();
+    addSubview(*peer.returnKey);
 }
 
 std::string UITextField::text() const
@@ -152,6 +176,7 @@ UIReturnKeyType UITextField::returnKeyType() const
 void UITextField::setReturnKeyType(UIReturnKeyType type)
 {
     peerOf(*this).returnKeyType = type;
+    setNeedsLayout();
 }
 
 UITextAutocapitalizationType UITextField::autocapitalizationType() const

@@ -4,11 +4,32 @@
 #include "platform/desktop/UIKit/Window.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brimsound {
 
 using desktop::peerOf;
 using desktop::ViewPeer;
+
+namespace {
+
+/// Has the subviews follow a change of their superview's size.
+void resizeSubviews(const std::vector<RetainPtr<UIView>>& subviews, CGSize before, CGSize after)
+{
+    for (const auto& subview : subviews) {
+        const auto mask = subview->autoresizingMask();
+        if (mask == UIViewAutoresizingNone)
+            continue;
+        auto frame = subview->frame();
+        if (mask & UIViewAutoresizingFlexibleWidth)
+            frame.size.width += after.width - before.width;
+        if (mask & UIViewAutoresizingFlexibleHeight)
+            frame.size.height += after.height - before.height;
+        subview->setFrame(frame);
+    }
+}
+
+} // namespace
 
 UIView::UIView(const CGRect& frame)
     : UIView(new ViewPeer)
@@ -40,15 +61,27 @@ void UIView::setFrame(const CGRect& frame)
         return;
     desktop::setNeedsDisplay(*this);
     desktop::startFrom(peer, peer.shownFrame(), &desktop::Animation::frame);
-    if (peer.frame.size != frame.size)
+    const auto before = std::exchange(peer.frame, frame).size;
+    if (before != frame.size) {
         peer.needsLayout = true;
-    peer.frame = frame;
+        resizeSubviews(subviews(), before, frame.size);
+    }
     desktop::setNeedsDisplay(*this);
 }
 
 CGRect UIView::bounds() const
 {
     return desktop::boundsOf(peerOf(*this));
+}
+
+UIViewAutoresizing UIView::autoresizingMask() const
+{
+    return peerOf(*this).autoresizingMask;
+}
+
+void UIView::setAutoresizingMask(UIViewAutoresizing mask)
+{
+    peerOf(*this).autoresizingMask = mask;
 }
 
 UIView* UIView::superview() const

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIViewController.h"
 
 #include "platform/desktop/UIKit/ViewControllerPeer.h"
+#include "platform/desktop/UIKit/ViewPeer.h"
 #include "platform/desktop/UIKit/Window.h"
 
 namespace brimsound {
@@ -43,15 +44,15 @@ UIViewController::UIViewController(Peer* peer)
 
 UIView& UIViewController::view() const
 {
-    auto& view = peerOf(*this).view;
-    if (!view)
-        view = make<UIView>();
-    return *view;
+    auto& peer = peerOf(*this);
+    if (!peer.view)
+        peer.take(make<UIView>(), const_cast<UIViewController*>(this));
+    return *peer.view;
 }
 
 void UIViewController::setView(RetainPtr<UIView> view)
 {
-    peerOf(*this).view = std::move(view);
+    peerOf(*this).take(std::move(view), this);
 }
 
 void UIViewController::presentViewControllerAnimatedCompletion(
@@ -82,6 +83,20 @@ void UIViewController::dismissViewControllerAnimatedCompletion(
 
 namespace desktop {
 
+ViewControllerPeer::~ViewControllerPeer()
+{
+    take(nullptr, nullptr);
+}
+
+void ViewControllerPeer::take(RetainPtr<UIView> taken, UIViewController* controller)
+{
+    if (view)
+        peerOf(*view).controller = nullptr;
+    view = std::move(taken);
+    if (view)
+        peerOf(*view).controller = controller;
+}
+
 ViewControllerPeer& peerOf(const UIViewController& controller)
 {
     return static_cast<ViewControllerPeer&>(controller.peer());
@@ -95,7 +110,9 @@ RetainPtr<UIViewController> makeViewController(RetainPtr<UIView> view)
         {
         }
     };
-    return make<Controller>(new ViewControllerPeer(std::move(view)));
+    auto controller = make<Controller>(new ViewControllerPeer);
+    controller->setView(std::move(view));
+    return controller;
 }
 
 } // namespace desktop

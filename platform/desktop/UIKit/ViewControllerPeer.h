@@ -9,13 +9,12 @@ namespace brimsound::desktop {
 
 struct ViewControllerPeer : Peer {
     ViewControllerPeer() = default;
-    explicit ViewControllerPeer(RetainPtr<UIView> shown)
-        : view(std::move(shown))
-    {
-    }
+    ~ViewControllerPeer() override;
 
     /// Null until it is asked for.
     RetainPtr<UIView> view;
+    /// The view is told whose it is, and the one before that it is nobody's.
+    void take(RetainPtr<UIView>, UIViewController*);
     RetainPtr<UIViewController> presented;
     /// Holds the presented controller's view.
     RetainPtr<Overlay> overlay;

@@ -1,5 +1,6 @@
 #include "platform/desktop/UIKit/ViewPeer.h"
 
+#include "platform/UIKit/UIViewController.h"
 #include "platform/desktop/UIKit/ScrollPeer.h"
 #include "platform/desktop/UIKit/Window.h"
 
@@ -34,6 +35,16 @@ CGRect shownBoundsOf(const ViewPeer& peer)
 CGPoint fromSuperview(CGPoint point, const ViewPeer& peer)
 {
     return { point.x - peer.frame.origin.x + peer.origin.x, point.y - peer.frame.origin.y + peer.origin.y };
+}
+
+/// Whether the rectangle comes into one of the squares that hold the rounded corners of the one around it.
+bool reachesCorner(const CGRect& rect, const CGRect& around, double radius)
+{
+    const double left = rect.origin.x - around.origin.x;
+    const double top = rect.origin.y - around.origin.y;
+    const double right = around.size.width - left - rect.size.width;
+    const double bottom = around.size.height - top - rect.size.height;
+    return std::min(left, right) < radius && std::min(top, bottom) < radius;
 }
 
 void drawContents(const ViewPeer& peer, Canvas& canvas)
@@ -75,12 +86,25 @@ FocusRing ViewPeer::focusRing() const
 {
     // Scrolling must not change its shape.
     const auto part = partWithin(*view, enclosingScrollView(*view));
-    return { insetBy(part, focusRingInset, focusRingInset) };
+    return { insetBy(part, focusRingInset, focusRingInset), focusRingRadius(*view) };
 }
 
 void ViewPeer::scrollToFocus()
 {
     scrollIntoView(*view);
+}
+
+double focusRingRadius(const UIView& view)
+{
+    auto radius = FocusRing().radius;
+    const auto part = partWithin(view, nullptr);
+    for (const auto* ancestor = view.superview(); ancestor; ancestor = ancestor->superview()) {
+        const auto& peer = peerOf(*ancestor);
+        const auto place = convertFromWindow(convertToWindow(part.origin, view), *ancestor);
+        if (peer.clipsToBounds && reachesCorner({ place, part.size }, boundsOf(peer), peer.cornerRadius))
+            radius = std::max(radius, peer.cornerRadius - focusRingInset);
+    }
+    return radius;
 }
 
 ViewPeer& peerOf(const UIView& view)
@@ -188,6 +212,8 @@ void layOutTree(UIView& view)
         peer.needsLayout = false;
         peer.willLayOut();
         view.layoutSubviews();
+        if (peer.controller)
+            peer.controller->viewDidLayoutSubviews();
     }
     // A layout may add or remove views.
     const auto subviews = peer.subviews;

@@ -14,6 +14,10 @@
 #include <memory>
 #include <vector>
 
+namespace brimsound {
+class UIViewController;
+}
+
 namespace brimsound::desktop {
 
 /// The state of a view and, in the derived peers, how it draws itself and what it does with touches.
@@ -28,6 +32,9 @@ struct ViewPeer : Peer {
     /// What the view's own coordinates start from: the offset of a scroll view.
     CGPoint origin;
     UIView* superview = nullptr;
+    /// Whose view this is; null for one that is nobody's.
+    UIViewController* controller = nullptr;
+    UIViewAutoresizing autoresizingMask = UIViewAutoresizingNone;
     std::vector<RetainPtr<UIView>> subviews;
 
     RetainPtr<UIColor> backgroundColor;
@@ -107,6 +114,10 @@ bool coversSuperview(const UIView&);
 /// The part of the view that lies within the views around it, up to the outermost one, in the view's own
 /// coordinates. Without an outermost one, up to the window.
 CGRect partWithin(const UIView& view, const UIView* outermost);
+
+/// The radius of a ring in a view: larger where rounded corners cut the view off, so that it runs beside
+/// them.
+double focusRingRadius(const UIView&);
 
 /// Whether the view is the other one or lies in it; false for null.
 bool isWithin(const UIView*, const UIView& ancestor);

@@ -15,7 +15,8 @@ inline std::optional<NSError> errorOf(::NSError* native)
 {
     if (!native)
         return std::nullopt;
-    return NSError { textOf([native domain]), textOf([native localizedDescription]) };
+    return NSError { textOf([native domain]), static_cast<long>([native code]),
+        textOf([native localizedDescription]) };
 }
 
 } // namespace brimsound::ios

@@ -5,11 +5,19 @@
 
 #import <UIKit/UIKit.h>
 
+#include <algorithm>
+
 namespace brimsound {
 
 using ios::retainedObjectOf;
 
 namespace {
+
+/// From iOS 10 on, the platform keeps components beyond this range for programs that were linked for it.
+CGFloat inRange(CGFloat component)
+{
+    return std::clamp(component, CGFloat(0), CGFloat(1));
+}
 
 /// Takes over the reference that came with the native color's making. What is autoreleased would stay until
 /// the end of the turn, in which a drag makes many.
@@ -30,21 +38,24 @@ UIColor::UIColor(Peer* peer)
 RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
 {
-    return adopted([[::UIColor alloc] initWithRed:red green:green blue:blue alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithRed:inRange(red)
+                                            green:inRange(green)
+                                             blue:inRange(blue)
+                                            alpha:inRange(alpha)]);
 }
 
 RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
     CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
 {
-    return adopted([[::UIColor alloc] initWithHue:hue
-                                       saturation:saturation
-                                       brightness:brightness
-                                            alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithHue:inRange(hue)
+                                       saturation:inRange(saturation)
+                                       brightness:inRange(brightness)
+                                            alpha:inRange(alpha)]);
 }
 
 RetainPtr<UIColor> UIColor::colorWithWhiteAlpha(CGFloat white, CGFloat alpha)
 {
-    return adopted([[::UIColor alloc] initWithWhite:white alpha:alpha]);
+    return adopted([[::UIColor alloc] initWithWhite:inRange(white) alpha:inRange(alpha)]);
 }
 
 RetainPtr<UIColor> UIColor::blackColor()

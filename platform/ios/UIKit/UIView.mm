@@ -116,6 +116,16 @@ CGRect UIView::bounds() const
     return ours([nativeView(*this) bounds]);
 }
 
+UIViewAutoresizing UIView::autoresizingMask() const
+{
+    return [nativeView(*this) autoresizingMask];
+}
+
+void UIView::setAutoresizingMask(UIViewAutoresizing mask)
+{
+    [nativeView(*this) setAutoresizingMask:mask];
+}
+
 UIView* UIView::superview() const
 {
     return objectOf<UIView>([nativeView(*this) superview]);

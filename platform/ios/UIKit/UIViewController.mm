@@ -23,6 +23,12 @@
         controller->viewDidUnload();
 }
 
+- (void)viewDidLayoutSubviews
+{
+    if (auto* controller = brimsound::ios::existingObjectOf<brimsound::UIViewController>(self))
+        controller->viewDidLayoutSubviews();
+}
+
 @end
 
 namespace brimsound {

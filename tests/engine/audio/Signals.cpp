@@ -1,5 +1,6 @@
 #include "tests/engine/audio/Signals.h"
 
+#include "settings/TenGains.h"
 #include "settings/store/presets.h"
 
 #include <algorithm>
@@ -160,7 +161,7 @@ std::vector<std::pair<std::string, BandGains>> presets()
     std::vector<std::pair<std::string, BandGains>> presets;
     for (const auto& [name, preset] : builtin_presets()) {
         BandGains sliders {};
-        std::ranges::copy(tenGains(name, preset), sliders.begin());
+        std::ranges::copy(tenGains(preset), sliders.begin());
         presets.emplace_back(name, sliders);
     }
     return presets;

@@ -16,8 +16,9 @@ TEST(TheApplication, OpensUrlsOfTheSchemesThatThereAreProgramsFor)
     UIApplication* app = [UIApplication sharedApplication];
     NSURL* url = [NSURL URLWithString:@"twitter://user?screen_name=x"];
     EXPECT_FALSE([app canOpenURL:url]);
-    EXPECT_FALSE([app openURL:url]);
     EXPECT_THAT(takeTrace(), IsEmpty());
+    EXPECT_FALSE([app openURL:url]);
+    EXPECT_THAT(takeTrace(), ElementsAre("url twitter://user?screen_name=x"));
     brimsound::doubles::setSchemesThatOpen([NSArray arrayWithObject:@"twitter"]);
     EXPECT_TRUE([app canOpenURL:url]);
     EXPECT_TRUE([app openURL:url]);

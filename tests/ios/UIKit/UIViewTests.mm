@@ -117,6 +117,20 @@ TEST_F(AView, IsLaidOutWhenItsSizeChanges)
     EXPECT_EQ(inner->framesSet, 2) << "and not by its initialiser";
 }
 
+TEST_F(AView, FollowsItsSuperviewsSizeAsFarAsItIsFlexible)
+{
+    [outer addSubview:inner];
+    inner->framesSet = 0;
+    [outer setFrame:CGRectMake(0, 0, 150, 170)];
+    EXPECT_EQ(inner->framesSet, 0);
+    [inner setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
+    [outer setFrame:CGRectMake(0, 0, 160, 190)];
+    EXPECT_TRUE(NSEqualRects([inner frame], CGRectMake(10, 10, 30, 20)));
+    [inner setAutoresizingMask:UIViewAutoresizingFlexibleHeight];
+    [outer setBounds:CGRectMake(0, 0, 200, 200)];
+    EXPECT_TRUE(NSEqualRects([inner frame], CGRectMake(10, 10, 30, 30)));
+}
+
 TEST_F(AView, RefusesAFrameThatIsNoNumber)
 {
     NSString* refusal = nil;

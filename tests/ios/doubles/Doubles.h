@@ -28,6 +28,9 @@ Components shownBackground(::UIView*);
 /// Presses a button of the alert that is shown. False when none is or it has no such button.
 bool pressAlertButton(NSInteger index);
 
+/// Whether a controller was presented or dismissed with an animation, which takes half a second.
+bool isSheetMoving();
+
 /// What URLs can be opened: those with one of these schemes.
 void setSchemesThatOpen(::NSArray* schemes);
 

@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 
 namespace brimsound {
@@ -68,7 +69,7 @@ TEST_F(AMessagingCenter, LeavesTheErrorAsItWasWhenAReplyComes)
 {
     const Server server(
         [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); });
-    const NSError before { "domain", "from before" };
+    const NSError before { "domain", 1, "from before" };
     error = before;
     send();
     EXPECT_EQ(error, before);
@@ -91,7 +92,13 @@ TEST_F(AMessagingCenter, GivesTheServersErrorInOneLine)
         return sd_bus_reply_method_errorf(message, "test.Error.Refused", "not\nnow");
     });
     EXPECT_TRUE(send().empty());
-    EXPECT_EQ(error, (NSError { "test.Error.Refused", "not now" }));
+    EXPECT_EQ(error, (NSError { "test.Error.Refused", EIO, "not now" }));
+}
+
+TEST(AnError, IsDescribedByDomainCodeAndText)
+{
+    EXPECT_EQ(descriptionOf({ "test.Error.Refused", -5, "not now" }),
+        "Error Domain=test.Error.Refused Code=-5 \"not now\"");
 }
 
 TEST_F(AMessagingCenter, WaitsForAReplyOneSecondAtMost)

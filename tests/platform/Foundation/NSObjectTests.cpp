@@ -22,12 +22,14 @@ public:
         static const std::array table {
             method<&Greeter::greet>("greet:"),
             method<&Greeter::greetTwice>("greetTwice:"),
+            method<&Greeter::call>("call:"),
             method<&Greeter::greeting>("greeting"),
         };
         return table;
     }
 
-    void greet(const PropertyList& whom) { _greeting += *whom.asString(); }
+    void greet(const PropertyList& whom) { _greeting += whom.isNull() ? "nobody" : *whom.asString(); }
+    void call(const std::string& name) { _greeting += name + "!"; }
     void greetTwice(Greeter& other)
     {
         greet("hello");
@@ -84,10 +86,39 @@ TEST(CallingAMethodByName, DoesNothingWhenAnArgumentIsMissingOrOfTheOtherKind)
     bool destroyed = false;
     const auto object = make<Greeter>(destroyed);
     const std::array<Argument, 1> anObject { object.get() };
+    const std::array<Argument, 1> nil {};
+    const PropertyList number = 7;
+    const std::array<Argument, 1> aNumber { &number };
 
-    object->methodForSelector("greet:")->invoke(*object, {});
     object->methodForSelector("greet:")->invoke(*object, anObject);
+    object->methodForSelector("greetTwice:")->invoke(*object, {});
+    object->methodForSelector("greetTwice:")->invoke(*object, nil);
+    object->methodForSelector("greetTwice:")->invoke(*object, aNumber);
+    object->methodForSelector("call:")->invoke(*object, {});
+    object->methodForSelector("call:")->invoke(*object, nil);
+    object->methodForSelector("call:")->invoke(*object, anObject);
+    object->methodForSelector("call:")->invoke(*object, aNumber);
     EXPECT_EQ(object->greeting(), PropertyList(""));
+}
+
+TEST(CallingAMethodByName, HandsOverNilAsANullPropertyList)
+{
+    bool destroyed = false;
+    const auto object = make<Greeter>(destroyed);
+    const std::array<Argument, 1> nil {};
+    object->methodForSelector("greet:")->invoke(*object, {});
+    object->methodForSelector("greet:")->invoke(*object, nil);
+    EXPECT_EQ(object->greeting(), PropertyList("nobodynobody"));
+}
+
+TEST(CallingAMethodByName, HandsOverTheStringThatAPropertyListIs)
+{
+    bool destroyed = false;
+    const auto object = make<Greeter>(destroyed);
+    const PropertyList name = "world";
+    const std::array<Argument, 1> arguments { &name };
+    object->methodForSelector("call:")->invoke(*object, arguments);
+    EXPECT_EQ(object->greeting(), PropertyList("world!"));
 }
 
 } // namespace brimsound

@@ -63,6 +63,36 @@ TEST(ADictionary, GivesAFloatForAKeyAndZeroWithoutOne)
     EXPECT_EQ(floatForKey(dictionary, "TREBLE"), 0);
 }
 
+TEST(ADictionary, GivesAnArrayADictionaryOrAStringForAKeyThatHoldsOne)
+{
+    PropertyList::Dictionary dictionary { { "array", PropertyList::Array { 1 } },
+        { "dictionary", PropertyList::Dictionary { { "a", 1 } } }, { "string", "text" } };
+    const auto& constant = dictionary;
+
+    ASSERT_NE(arrayForKey(constant, "array"), nullptr);
+    ASSERT_NE(dictionaryForKey(constant, "dictionary"), nullptr);
+    ASSERT_NE(stringForKey(constant, "string"), nullptr);
+    EXPECT_EQ(*stringForKey(constant, "string"), "text");
+
+    arrayForKey(dictionary, "array")->front() = 2;
+    dictionaryForKey(dictionary, "dictionary")->set("a", 2);
+    EXPECT_EQ(arrayForKey(constant, "array")->front(), PropertyList(2));
+    EXPECT_EQ(*dictionaryForKey(constant, "dictionary")->find("a"), PropertyList(2));
+}
+
+TEST(ADictionary, GivesNothingForAKeyThatIsMissingOrHoldsAnotherType)
+{
+    PropertyList::Dictionary dictionary { { "number", 1 } };
+    const auto& constant = dictionary;
+    for (const auto* key : { "number", "missing" }) {
+        EXPECT_EQ(arrayForKey(dictionary, key), nullptr);
+        EXPECT_EQ(arrayForKey(constant, key), nullptr);
+        EXPECT_EQ(dictionaryForKey(dictionary, key), nullptr);
+        EXPECT_EQ(dictionaryForKey(constant, key), nullptr);
+        EXPECT_EQ(stringForKey(constant, key), nullptr);
+    }
+}
+
 TEST(ALongDictionary, FindsItsKeysAfterEveryChange)
 {
     constexpr int size = 1000;

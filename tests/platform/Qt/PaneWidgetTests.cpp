@@ -3,6 +3,7 @@
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/Qt/Snapshot.h"
 #include "platform/desktop/UIKit/Clock.h"
+#include "platform/desktop/UIKit/TextFieldPeer.h"
 
 #include "platform/UIKit/UIScreen.h"
 #include "platform/desktop/UIKit/Screen.h"
@@ -316,7 +317,9 @@ TEST_F(AFieldInAPaneWidget, HasAnEditorWhileItIsTheFirstResponder)
     ASSERT_TRUE(editor());
     EXPECT_EQ(QApplication::focusWidget(), editor());
     EXPECT_EQ(editor()->text(), "Rock");
-    EXPECT_EQ(editor()->geometry(), QRect(62, 52, 196, 28));
+    // Over the text, with the editor's own margin at either side.
+    const auto width = desktop::peerOf(*field).textArea().size.width;
+    EXPECT_EQ(editor()->geometry(), QRectF(62, 52, width + 4, 28).toRect());
     field->resignFirstResponder();
     EXPECT_EQ(editor(), nullptr);
     EXPECT_EQ(QApplication::focusWidget(), &widget);
@@ -362,6 +365,22 @@ TEST_F(AFieldInAPaneWidget, HasReturnFromTheEditor)
     ASSERT_TRUE(editor());
     type("Rock");
     press(Qt::Key_Return);
+    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(AFieldInAPaneWidget, IsConfirmedWithTheMouseAlone)
+{
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    click({ 100, 66 });
+    ASSERT_TRUE(editor());
+    type("Rock");
+    const QPoint key(250, 66);
+    EXPECT_EQ(widget.childAt(key), nullptr) << "the editor leaves the key free";
+    QTest::mousePress(&widget, Qt::LeftButton, {}, key);
+    EXPECT_EQ(QApplication::focusWidget(), editor());
+    EXPECT_THAT(reader.read, testing::IsEmpty());
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, key);
     EXPECT_THAT(reader.read, ElementsAre("Rock"));
     EXPECT_EQ(editor(), nullptr);
 }

@@ -767,6 +767,27 @@ TEST(AFocusRing, KeepsToWhatShowsOfAView)
     EXPECT_EQ(desktop::peerOf(*button).focusRing().rect, CGRectMake(4, 4, 92, 36));
 }
 
+TEST(TheFocusRing, RunsBesideTheRoundedCornersThatCutItsViewOff)
+{
+    const auto window = make<Window>(CGSize { 320, 400 });
+    const auto panel = make<UIView>(CGRectMake(44, 44, 232, 200));
+    panel->layer().setCornerRadius(20);
+    panel->setClipsToBounds(true);
+    const auto bar = make<UIView>(CGRectMake(0, 156, 232, 44));
+    const auto button = make<UIButton>(CGRectMake(0, 0, 320, 88));
+    const auto middle = make<UIButton>(CGRectMake(0, 60, 232, 44));
+    window->addSubview(*panel);
+    panel->addSubview(*bar);
+    panel->addSubview(*middle);
+    bar->addSubview(*button);
+
+    EXPECT_EQ(desktop::peerOf(*button).focusRing().rect, CGRectMake(4, 4, 224, 36));
+    EXPECT_EQ(desktop::peerOf(*button).focusRing().radius, 16) << "with the corner's middle";
+    EXPECT_EQ(desktop::peerOf(*middle).focusRing().radius, 10);
+    panel->setClipsToBounds(false);
+    EXPECT_EQ(desktop::peerOf(*button).focusRing().radius, 10);
+}
+
 } // namespace
 
 } // namespace brimsound::tests

@@ -73,6 +73,38 @@ TEST_F(AnAlert, StandsInTheMiddleOverTheDimmedWindow)
     EXPECT_EQ(overlay->alpha(), 1);
 }
 
+TEST_F(AnAlert, FitsAWindowOf200Points)
+{
+    window->setFrame(CGRectMake(0, 0, 200, 200));
+    show("In order to remove the equalizer from the control center, you will need to respring.");
+    const auto frame = shown()->frame();
+    EXPECT_TRUE(desktop::contains(window->bounds(), frame));
+    EXPECT_EQ(frame.size.width, 184);
+    const auto message = desktop::peerOf(*shown()).messageRect(frame.size.width);
+    EXPECT_LE(message.origin.y + message.size.height, button(0).frame().origin.y);
+    tap(middleOf(button(1)));
+    EXPECT_THAT(answers.heard, testing::SizeIs(1));
+}
+
+TEST_F(AnAlert, KeepsItsButtonsOnViewInALowerWindow)
+{
+    window->setFrame(CGRectMake(0, 0, 200, 120));
+    show(std::string(400, 'x') + " " + std::string(400, 'y'));
+    EXPECT_EQ(shown()->frame().size.height, 120);
+    tap(middleOf(button(0)));
+    EXPECT_THAT(answers.heard, testing::SizeIs(1));
+}
+
+TEST_F(AnAlert, FollowsItsWindow)
+{
+    show("Really?");
+    window->setFrame(CGRectMake(0, 0, 200, 300));
+    for (const auto& overlay : window->subviews())
+        overlay->setFrame(window->bounds());
+    window->layOut();
+    EXPECT_EQ(shown()->frame().size.width, 184);
+}
+
 TEST_F(AnAlert, IsAnsweredByATapOnAButton)
 {
     show("Really?");

@@ -99,4 +99,19 @@ TEST(Yellow, IsRedAndGreen)
 
 } // namespace
 
+TEST(AColor, HasNoComponentsBeyondItsRange)
+{
+    const auto components = [](const RetainPtr<UIColor>& color) {
+        std::array<CGFloat, 4> all {};
+        color->getRedGreenBlueAlpha(all[0], all[1], all[2], all[3]);
+        return all;
+    };
+    using Components = std::array<CGFloat, 4>;
+    EXPECT_EQ(components(UIColor::colorWithRedGreenBlueAlpha(-0.5, 1.5, 2, 3)), (Components { 0, 1, 1, 1 }));
+    EXPECT_EQ(components(UIColor::colorWithRedGreenBlueAlpha(1, -9, 0, -1)), (Components { 1, 0, 0, 0 }));
+    EXPECT_EQ(components(UIColor::colorWithWhiteAlpha(2, -1)), (Components { 1, 1, 1, 0 }));
+    EXPECT_EQ(
+        components(UIColor::colorWithHueSaturationBrightnessAlpha(-1, 2, 3, 4)), (Components { 1, 0, 0, 1 }));
+}
+
 } // namespace brimsound::tests

@@ -20,6 +20,16 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
+TEST(ASliderAtZero, TakesTheSignOfTheZeroThatItIsSetTo)
+{
+    const auto slider = make<UISlider>();
+    slider->setMinimumValue(-12);
+    slider->setValue(-0.0f);
+    EXPECT_TRUE(std::signbit(slider->value()));
+    slider->setValue(0);
+    EXPECT_FALSE(std::signbit(slider->value()));
+}
+
 TEST(ASlider, RunsFromZeroToOneAtFirst)
 {
     const auto slider = make<UISlider>();

@@ -113,6 +113,68 @@ TEST_F(ATextField, IsNotEditedWhenTheTouchLeavesIt)
     EXPECT_FALSE(field->isFirstResponder());
 }
 
+TEST_F(ATextField, HasAReturnKeyAtItsRightEndWhileItIsEdited)
+{
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    window->layOut();
+    const CGPoint key { 205, 122 };
+    tap(key);
+    EXPECT_THAT(reader.read, ElementsAre()) << "it is no key yet, but begins the editing";
+    ASSERT_TRUE(field->isFirstResponder());
+    window->typeText("Rock");
+    tap(key);
+    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    EXPECT_TRUE(field->isFirstResponder()) << "until the delegate takes the keyboard away";
+}
+
+TEST_F(ATextField, SaysOnItsReturnKeyWhatItsTypeIs)
+{
+    const auto& key = *desktop::peerOf(*field).returnKey;
+    EXPECT_EQ(key.title(), "Return");
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    EXPECT_EQ(key.title(), "Done");
+    EXPECT_EQ(desktop::peerOf(key).accessible().name, "Done");
+    EXPECT_EQ(desktop::peerOf(key).accessible().role, desktop::AccessibleRole::Button);
+}
+
+TEST_F(ATextField, KeepsItsTextClearOfTheReturnKey)
+{
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    window->layOut();
+    const auto& key = *desktop::peerOf(*field).returnKey;
+    EXPECT_EQ(desktop::peerOf(*field).textArea(), field->bounds());
+    field->becomeFirstResponder();
+    const auto area = desktop::peerOf(*field).textArea();
+    EXPECT_EQ(area.origin.x + area.size.width, key.frame().origin.x);
+    EXPECT_EQ(key.frame().origin.x + key.frame().size.width, 192);
+    EXPECT_EQ(key.frame().size.height, 28);
+    EXPECT_GT(area.size.width, 120);
+
+    field->setFrame(CGRectMake(20, 8, 30, 28));
+    window->layOut();
+    EXPECT_EQ(key.frame(), CGRectMake(0, 0, 30, 28)) << "in a field with no room for more";
+    EXPECT_EQ(desktop::peerOf(*field).textArea().size.width, 0);
+}
+
+TEST_F(ATextField, IsNotConfirmedByATouchThatLeavesTheReturnKey)
+{
+    field->becomeFirstResponder();
+    window->layOut();
+    window->touchDown({ { 205, 122 }, Pointer::Mouse });
+    window->touchUp({ 60, 122 });
+    EXPECT_THAT(reader.read, ElementsAre());
+}
+
+TEST_F(ATextField, LetsTheKeyboardPassItsReturnKeyBy)
+{
+    const auto other = make<UITextField>(CGRectMake(20, 50, 192, 28));
+    window->addSubview(*other);
+    field->becomeFirstResponder();
+    window->layOut();
+    window->keyPressed(Key::Tab);
+    EXPECT_TRUE(other->isFirstResponder());
+}
+
 TEST_F(ATextField, StaysTheFirstResponderWhenSomethingElseIsTouched)
 {
     field->becomeFirstResponder();

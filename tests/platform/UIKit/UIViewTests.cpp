@@ -72,6 +72,24 @@ TEST(AView, KeepsItsAlphaBetweenInvisibleAndOpaque)
     EXPECT_EQ(view->alpha(), 1);
 }
 
+TEST(AView, FollowsItsSuperviewsSizeAsFarAsItIsFlexible)
+{
+    const auto superview = make<UIView>(CGRectMake(0, 0, 100, 100));
+    const auto view = make<UIView>(CGRectMake(10, 20, 30, 40));
+    superview->addSubview(*view);
+    EXPECT_EQ(view->autoresizingMask(), UIViewAutoresizingNone);
+    superview->setFrame(CGRectMake(0, 0, 150, 170));
+    EXPECT_EQ(view->frame(), CGRectMake(10, 20, 30, 40));
+    view->setAutoresizingMask(UIViewAutoresizingFlexibleWidth);
+    superview->setFrame(CGRectMake(5, 5, 160, 190));
+    EXPECT_EQ(view->frame(), CGRectMake(10, 20, 40, 40));
+    view->setAutoresizingMask(UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight);
+    superview->setFrame(CGRectMake(5, 5, 100, 100));
+    EXPECT_EQ(view->frame(), CGRectMake(10, 20, -20, -50));
+    superview->setFrame(CGRectMake(50, 50, 100, 100));
+    EXPECT_EQ(view->frame(), CGRectMake(10, 20, -20, -50)) << "it only moved";
+}
+
 TEST(AddingASubview, PutsItInFrontOfTheOthers)
 {
     const auto superview = make<UIView>();

@@ -5,6 +5,7 @@
 #include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/UIKit/AlertPeer.h"
 #include "platform/desktop/UIKit/Clock.h"
+#include "platform/desktop/UIKit/Overlay.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
 #include "platform/desktop/UIKit/Window.h"
 #include "platform/desktop/bus/SessionBus.h"
@@ -17,6 +18,7 @@
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/TestBus.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 
@@ -149,6 +151,12 @@ bool TestPlatform::answerAlert(std::size_t button)
     return alert != nullptr;
 }
 
+std::string TestPlatform::alertTitle() const
+{
+    const auto* alert = _device->window->alerts().current();
+    return alert ? desktop::peerOf(*alert).title : "";
+}
+
 std::optional<TestPlatform::Mail> TestPlatform::composedMail() const
 {
     const auto* composing = composer();
@@ -170,6 +178,14 @@ void TestPlatform::sendMail()
 void TestPlatform::cancelMail()
 {
     composer()->cancel();
+}
+
+bool TestPlatform::isSheetMoving() const
+{
+    const auto views = _device->window->subviews();
+    return std::ranges::any_of(views, [](const auto& view) {
+        return dynamic_cast<const desktop::Overlay*>(view.get()) && view->alpha() > 0 && view->alpha() < 1;
+    });
 }
 
 void TestPlatform::carryOutCommands()

@@ -199,6 +199,12 @@ bool TestPlatform::answerAlert(std::size_t button)
     return doubles::pressAlertButton(static_cast<NSInteger>(button));
 }
 
+std::string TestPlatform::alertTitle() const
+{
+    NSString* title = [doubles::currentAlert() title];
+    return title ? textOf(title) : "";
+}
+
 std::optional<TestPlatform::Mail> TestPlatform::composedMail() const
 {
     ::MFMailComposeViewController* composing = composer();
@@ -226,6 +232,11 @@ void TestPlatform::cancelMail()
 {
     const Turn turn;
     [composer() cancel];
+}
+
+bool TestPlatform::isSheetMoving() const
+{
+    return doubles::isSheetMoving();
 }
 
 void TestPlatform::carryOutCommands()

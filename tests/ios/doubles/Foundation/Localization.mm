@@ -1,13 +1,27 @@
-// Strings tables as the device's Foundation reads them: property lists of any format. GNUstep's knows the
-// oldest one only.
+// Strings tables as the device's Foundation reads them: property lists of any format, in the first of the
+// preferred languages that there is one for. GNUstep's knows the oldest format only, and has languages of its
+// own.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 
 namespace {
 
+NSString* pathOfTable(NSBundle* bundle, NSString* table)
+{
+    for (NSString* language in [NSLocale preferredLanguages]) {
+        NSString* path = [bundle pathForResource:table
+                                          ofType:@"strings"
+                                     inDirectory:nil
+                                 forLocalization:language];
+        if (path)
+            return path;
+    }
+    return [bundle pathForResource:table ofType:@"strings"];
+}
+
 NSString* localizedString(NSBundle* self, SEL, NSString* key, NSString* value, NSString* table)
 {
-    NSString* path = [self pathForResource:[table length] > 0 ? table : @"Localizable" ofType:@"strings"];
+    NSString* path = pathOfTable(self, [table length] > 0 ? table : @"Localizable");
     NSData* file = path ? [NSData dataWithContentsOfFile:path] : nil;
     NSDictionary* strings = file ? [NSPropertyListSerialization propertyListWithData:file
                                                                              options:NSPropertyListImmutable

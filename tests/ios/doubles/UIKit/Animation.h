@@ -29,6 +29,9 @@ template <typename Value> Value shown(const std::optional<Movement<Value>>&, con
 /// once, wherever it was moving.
 template <typename Value> void willChange(std::optional<Movement<Value>>&, const Value&);
 
+/// What the clock shows, in seconds.
+double currentTime();
+
 /// Forgets every animation that was begun and not committed.
 void resetAnimations();
 

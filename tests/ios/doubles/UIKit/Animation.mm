@@ -66,6 +66,11 @@ void advanceClock(double seconds)
     now += seconds;
 }
 
+double currentTime()
+{
+    return now;
+}
+
 void resetAnimations()
 {
     blocks.clear();

@@ -25,8 +25,10 @@ void refuseWhatIsNoNumber(CGRect frame)
 
 void layOutTree(UIView* view)
 {
-    if (std::exchange(stateOf(view).needsLayout, false))
+    if (std::exchange(stateOf(view).needsLayout, false)) {
         [view layoutSubviews];
+        [stateOf(view).controller viewDidLayoutSubviews];
+    }
     // Laying out a view may add and remove others.
     const auto subviews = stateOf(view).subviews;
     for (UIView* subview : subviews)
@@ -35,6 +37,22 @@ void layOutTree(UIView* view)
         if ([subview superview] == view)
             layOutTree(subview);
         [subview release];
+    }
+}
+
+/// Has the subviews follow a change of their superview's size.
+void resizeSubviews(UIView* view, CGSize before, CGSize after)
+{
+    for (UIView* subview in [view subviews]) {
+        const UIViewAutoresizing mask = [subview autoresizingMask];
+        if (mask == UIViewAutoresizingNone)
+            continue;
+        CGRect frame = [subview frame];
+        if (mask & UIViewAutoresizingFlexibleWidth)
+            frame.size.width += after.width - before.width;
+        if (mask & UIViewAutoresizingFlexibleHeight)
+            frame.size.height += after.height - before.height;
+        [subview setFrame:frame];
     }
 }
 
@@ -97,8 +115,10 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
     refuseWhatIsNoNumber(frame);
     willChange(_viewState->animation.frame, former);
     _viewState->frame = frame;
-    if (!NSEqualSizes(former.size, frame.size))
+    if (!NSEqualSizes(former.size, frame.size)) {
         [self setNeedsLayout];
+        resizeSubviews(self, former.size, frame.size);
+    }
 }
 
 - (CGRect)bounds
@@ -126,6 +146,17 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
     willChange(_viewState->animation.frame, former);
     _viewState->frame = frame;
     [self setNeedsLayout];
+    resizeSubviews(self, former.size, frame.size);
+}
+
+- (UIViewAutoresizing)autoresizingMask
+{
+    return _viewState->autoresizingMask;
+}
+
+- (void)setAutoresizingMask:(UIViewAutoresizing)mask
+{
+    _viewState->autoresizingMask = mask;
 }
 
 - (UIView*)superview

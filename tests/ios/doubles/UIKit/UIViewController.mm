@@ -1,3 +1,4 @@
+#include "tests/ios/doubles/UIKit/Animation.h"
 #include "tests/ios/doubles/UIKit/Block.h"
 #include "tests/ios/doubles/UIKit/UIViewState.h"
 #include "tests/ios/doubles/UIKit/UIWindowState.h"
@@ -9,6 +10,24 @@ struct UIViewControllerState {
     /// Not retained.
     UIViewController* presenting = nil;
 };
+
+namespace {
+
+/// When the sheet that was presented or dismissed last has arrived, on the clock, in seconds.
+double sheetArrival = 0;
+
+void sheetMoves(bool animated)
+{
+    constexpr double sheetTime = 0.5;
+    sheetArrival = animated ? brimsound::doubles::currentTime() + sheetTime : 0;
+}
+
+} // namespace
+
+bool brimsound::doubles::isSheetMoving()
+{
+    return currentTime() < sheetArrival;
+}
 
 @implementation UIViewController
 
@@ -28,6 +47,8 @@ struct UIViewControllerState {
             [[presented view] removeFromSuperview];
         [presented release];
     }
+    if (_viewControllerState->view)
+        brimsound::doubles::stateOf(_viewControllerState->view).controller = nil;
     [_viewControllerState->view release];
     delete _viewControllerState;
     [super dealloc];
@@ -44,7 +65,11 @@ struct UIViewControllerState {
 
 - (void)setView:(UIView*)view
 {
+    if (_viewControllerState->view)
+        brimsound::doubles::stateOf(_viewControllerState->view).controller = nil;
     brimsound::doubles::assignRetained(_viewControllerState->view, view);
+    if (view)
+        brimsound::doubles::stateOf(view).controller = self;
 }
 
 - (BOOL)isViewLoaded
@@ -67,6 +92,10 @@ struct UIViewControllerState {
 {
 }
 
+- (void)viewDidLayoutSubviews
+{
+}
+
 - (UIViewController*)presentedViewController
 {
     return _viewControllerState->presented;
@@ -82,6 +111,7 @@ struct UIViewControllerState {
         return;
     _viewControllerState->presented = [viewController retain];
     viewController->_viewControllerState->presenting = self;
+    sheetMoves(animated);
     UIWindow* const window = brimsound::doubles::currentKeyWindow();
     [[viewController view] setFrame:[window bounds]];
     [window addSubview:[viewController view]];
@@ -99,6 +129,7 @@ struct UIViewControllerState {
     _viewControllerState->presented = nil;
     presented->_viewControllerState->presenting = nil;
     [[presented view] removeFromSuperview];
+    sheetMoves(animated);
     brimsound::doubles::callBlock(completion);
     [presented release];
 }

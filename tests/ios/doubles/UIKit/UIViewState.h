@@ -11,6 +11,9 @@ struct UIViewState {
     CGPoint boundsOrigin {};
     /// Not retained.
     UIView* superview = nil;
+    /// Whose view this is. Not retained.
+    UIViewController* controller = nil;
+    UIViewAutoresizing autoresizingMask = UIViewAutoresizingNone;
     /// Retained, back to front.
     std::vector<UIView*> subviews;
     /// Retained, like the layer, which is nil until somebody asks for it.

@@ -10,6 +10,13 @@
 
 typedef uint64_t UIAccessibilityTraits;
 
+typedef NSUInteger UIViewAutoresizing;
+enum {
+    UIViewAutoresizingNone = 0,
+    UIViewAutoresizingFlexibleWidth = 1 << 1,
+    UIViewAutoresizingFlexibleHeight = 1 << 4,
+};
+
 @interface UIView : UIResponder
 #if defined(GNUSTEP)
 {
@@ -21,6 +28,7 @@ typedef uint64_t UIAccessibilityTraits;
 
 @property (nonatomic) CGRect frame;
 @property (nonatomic) CGRect bounds;
+@property (nonatomic) UIViewAutoresizing autoresizingMask;
 
 @property (nonatomic, readonly) UIView* superview;
 @property (nonatomic, readonly, copy) NSArray* subviews;

@@ -18,6 +18,7 @@
 - (void)loadView;
 - (void)viewDidLoad;
 - (void)viewDidUnload;
+- (void)viewDidLayoutSubviews;
 
 @property (nonatomic, readonly) UIViewController* presentedViewController;
 // Where blocks are not, `completion` can only be nil.
