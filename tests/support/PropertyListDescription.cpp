@@ -2,11 +2,14 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace brimsound::tests {
 
@@ -138,16 +141,27 @@ std::string describeEntries(plist_t node)
     plist_dict_iter position = nullptr;
     plist_dict_new_iter(node, &position);
     const Memory iterator(position);
-    std::string text = "<";
+    std::vector<std::pair<std::string, std::string>> entries;
     for (;;) {
-        char* key = nullptr;
+        char* text = nullptr;
         plist_t value = nullptr;
-        plist_dict_next_item(node, position, &key, &value);
-        const Memory owner(key);
+        plist_dict_next_item(node, position, &text, &value);
+        const Memory owner(text);
         if (!value)
-            return text + ">";
-        text += hexadecimal(key ? key : "") + "=" + describeNode(value) + ",";
+            break;
+        const auto key = hexadecimal(text ? text : "");
+        // It keeps keys that are repeated.
+        const auto before = std::find_if(
+            entries.begin(), entries.end(), [&](const auto& entry) { return entry.first == key; });
+        if (before != entries.end())
+            before->second = describeNode(value);
+        else
+            entries.emplace_back(key, describeNode(value));
     }
+    std::string all = "<";
+    for (const auto& [key, value] : entries)
+        all += key + "=" + value + ",";
+    return all + ">";
 }
 
 std::string describeNode(plist_t node)

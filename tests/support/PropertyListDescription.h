@@ -7,12 +7,12 @@
 
 namespace brimsound::tests {
 
-/// The value with everything in it, dictionaries in their order; numbers by their value, whatever they take in a
-/// file. plist_description.py describes likewise what Python has read.
+/// The value with everything in it, dictionaries in their order; numbers by their value, whatever they take
+/// in a file. plist_description.py describes likewise what Python has read.
 std::string descriptionOf(const PropertyList&);
 /// As libplist has it, which keeps of an integer the lower 64 bits.
 std::string descriptionForLibplist(const PropertyList&);
-/// What libplist makes of a file; "unreadable" when nothing.
+/// What libplist makes of a file, "unreadable" when nothing; of a key that is repeated, the last.
 std::string descriptionByLibplist(const std::string& file);
 
 } // namespace brimsound::tests

@@ -121,7 +121,8 @@ PropertyList RandomPropertyLists::scalar()
     case 8:
         return static_cast<double>(bits());
     case 9:
-        return PropertyList::Date { static_cast<double>(static_cast<std::int64_t>(bits() >> 34) - 500'000'000) };
+        return PropertyList::Date { static_cast<double>(
+            static_cast<std::int64_t>(bits() >> 34) - 500'000'000) };
     case 10:
         return PropertyList::Data(upTo(40), static_cast<std::byte>(upTo(255)));
     case 11:
@@ -137,12 +138,14 @@ PropertyList RandomPropertyLists::scalar()
 
 std::string RandomPropertyLists::head(unsigned kind, std::size_t count)
 {
-    const auto marker = [kind](std::size_t low) { return std::string(1, static_cast<char>(kind << 4 | low)); };
+    const auto marker
+        = [kind](std::size_t low) { return std::string(1, static_cast<char>(kind << 4 | low)); };
     if (count < 15 && !oneIn(4))
         return marker(count);
     const auto least = count < 0x100 ? 0u : 1u;
     const auto logarithm = least + upTo(3 - least);
-    return marker(15) + static_cast<char>(0x10 | logarithm) + bigEndian(count, std::size_t { 1 } << logarithm);
+    return marker(15) + static_cast<char>(0x10 | logarithm)
+        + bigEndian(count, std::size_t { 1 } << logarithm);
 }
 
 std::string RandomPropertyLists::fileText()
@@ -193,9 +196,8 @@ RandomPropertyLists::FileObject RandomPropertyLists::fileObject(
     std::size_t place, const std::vector<FileObject>& later)
 {
     // `later` holds the objects behind this one, the last one first.
-    const auto referenceTo = [&](std::size_t i) {
-        return bigEndian(place + later.size() - i, _referenceSize);
-    };
+    const auto referenceTo
+        = [&](std::size_t i) { return bigEndian(place + later.size() - i, _referenceSize); };
     const bool isDictionary = oneIn(2);
     if (later.empty() || oneIn(3)) {
         if (oneIn(3))
@@ -238,7 +240,8 @@ std::string RandomPropertyLists::file()
     }
     const auto offsetTable = bytes.size();
     return bytes + offsets + std::string(6, '\0') + static_cast<char>(offsetSize)
-        + static_cast<char>(_referenceSize) + bigEndian(count, 8) + bigEndian(0, 8) + bigEndian(offsetTable, 8);
+        + static_cast<char>(_referenceSize) + bigEndian(count, 8) + bigEndian(0, 8)
+        + bigEndian(offsetTable, 8);
 }
 
 } // namespace brimsound::tests

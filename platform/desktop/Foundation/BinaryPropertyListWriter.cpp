@@ -131,13 +131,15 @@ public:
         _next += bytes.size();
     }
 
+    void appendMarker(Kind kind, std::uint64_t low) { append(std::uint64_t { kind } << 4 | low, 1); }
+
     void appendHead(Kind kind, std::uint64_t count)
     {
         if (count < countFollows) {
-            append(kind << 4 | count, 1);
+            appendMarker(kind, count);
             return;
         }
-        append(kind << 4 | countFollows, 1);
+        appendMarker(kind, countFollows);
         appendInteger(count, numberSize(count));
     }
 
@@ -146,7 +148,7 @@ public:
         std::uint64_t logarithm = 0;
         while (std::size_t { 1 } << logarithm < size)
             ++logarithm;
-        append(IntegerKind << 4 | logarithm, 1);
+        appendMarker(IntegerKind, logarithm);
         append(number, size);
     }
 
@@ -171,7 +173,7 @@ void appendInteger(Output& output, const Object& integer)
         output.appendInteger(integer.number, size);
         return;
     }
-    output.append(IntegerKind << 4 | 4, 1);
+    output.appendMarker(IntegerKind, 4);
     output.append(integer.more, 8);
     output.append(integer.number, 8);
 }
@@ -199,7 +201,7 @@ void appendObject(Output& output, const Object& object, const ObjectGraph& graph
         return;
     case ObjectType::Uid: {
         const auto size = numberSize(object.number);
-        output.append(UidKind << 4 | (size - 1), 1);
+        output.appendMarker(UidKind, size - 1);
         output.append(object.number, size);
         return;
     }
