@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <set>
 #include <vector>
 
 namespace brimsound::tests {
@@ -204,6 +205,7 @@ RandomPropertyLists::FileObject RandomPropertyLists::fileObject(
             return { fileText(), 1, true };
         return { fileScalar() };
     }
+    std::set<std::string> names;
     std::string keys;
     std::string values;
     std::size_t count = 0;
@@ -211,7 +213,9 @@ RandomPropertyLists::FileObject RandomPropertyLists::fileObject(
     for (auto tries = upTo(20); tries > 0; --tries) {
         const auto element = upTo(later.size() - 1);
         const auto name = upTo(later.size() - 1);
-        if (total + later[element].values > mostValues || (isDictionary && !later[name].isText))
+        // A value whose key comes again would be read by some and passed over by others.
+        if (total + later[element].values > mostValues
+            || (isDictionary && (!later[name].isText || !names.insert(later[name].bytes).second)))
             continue;
         keys += referenceTo(name);
         values += referenceTo(element);

@@ -200,7 +200,7 @@ public:
     /// Whether plistlib wrote the file anew, which it must then have done byte by byte the same.
     bool expectTheBytesOfPlistlib() const
     {
-        if (_binary.empty() || isExcused(writingByPlistlib, *_value))
+        if (_binary.empty() || isExcused(readingByPlistlib, *_value) || isExcused(writingByPlistlib, *_value))
             return false;
         EXPECT_TRUE(_binary == _contents) << _name;
         return true;
@@ -287,6 +287,8 @@ TEST(AFileWrittenHere, IsReadAlikeByOthersAndHasTheBytesOfPlistlib)
 /// What the other programs make of the corpus's files where they do not read what is read here.
 const std::map<std::string, std::string> knownOfTheCorpus {
     { "doubling-references.plist", "its values have no end where objects that are shared stay shared" },
+    { "nested-500.plist", "it is too deep for the interpreter" },
+    { "no-text.xml", "libplist leaves bytes as they are that are no text, plistlib reads none" },
 };
 
 TEST(AFileOfTheCorpus, IsReadAsOthersReadItButForKnownDifferences)
