@@ -19,8 +19,29 @@ std::string_view characters(std::span<const std::byte> bytes)
     return { reinterpret_cast<const char*>(bytes.data()), bytes.size() };
 }
 
+template <typename Number> std::uint64_t loaded(const std::byte* bytes)
+{
+    Number number = 0;
+    for (std::size_t i = 0; i < sizeof number; ++i)
+        number = static_cast<Number>(number << 8 | std::to_integer<Number>(bytes[i]));
+    return number;
+}
+
 std::uint64_t bigEndian(std::span<const std::byte> bytes)
 {
+    // The usual sizes take one instruction each to load.
+    switch (bytes.size()) {
+    case 1:
+        return loaded<std::uint8_t>(bytes.data());
+    case 2:
+        return loaded<std::uint16_t>(bytes.data());
+    case 4:
+        return loaded<std::uint32_t>(bytes.data());
+    case 8:
+        return loaded<std::uint64_t>(bytes.data());
+    default:
+        break;
+    }
     std::uint64_t value = 0;
     for (const auto byte : bytes)
         value = value << 8 | std::to_integer<std::uint64_t>(byte);
@@ -63,14 +84,14 @@ private:
         _offsetSize = std::to_integer<std::size_t>(trailer[offsetSizeInTrailer]);
         _referenceSize = std::to_integer<std::size_t>(trailer[referenceSizeInTrailer]);
         _root = number(rootInTrailer);
-        const auto count = number(objectCountInTrailer);
+        _count = number(objectCountInTrailer);
         const auto table = number(offsetTableInTrailer);
         const auto end = _file.size() - trailerSize;
         if (!isNumberSize(_offsetSize) || !isNumberSize(_referenceSize) || table < magic.size() || table > end
-            || count > (end - table) / _offsetSize)
+            || _count > (end - table) / _offsetSize)
             return false;
         _objects = _file.first(table);
-        _offsets = _file.subspan(table, count * _offsetSize);
+        _offsets = _file.subspan(table, _count * _offsetSize);
         return true;
     }
 
@@ -267,7 +288,7 @@ private:
     /// From the object's marker to where the objects end; empty when there is no such object.
     std::span<const std::byte> objectAt(std::uint64_t number) const
     {
-        if (number >= _offsets.size() / _offsetSize)
+        if (number >= _count)
             return {};
         const auto offset = bigEndian(_offsets.subspan(number * _offsetSize, _offsetSize));
         return offset >= magic.size() && offset < _objects.size() ? _objects.subspan(offset)
@@ -285,6 +306,7 @@ private:
     std::span<const std::byte> _offsets;
     std::size_t _offsetSize = 0;
     std::size_t _referenceSize = 0;
+    std::uint64_t _count = 0;
     std::uint64_t _root = 0;
     PropertyListBudget _budget;
 };
