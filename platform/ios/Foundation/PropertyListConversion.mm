@@ -72,8 +72,7 @@ private:
         return value;
     }
 
-    std::optional<PropertyList::Array> elementsOf(
-        id<::NSFastEnumeration> native, std::size_t count, int depth)
+    std::optional<PropertyList::Array> elementsOf(id native, std::size_t count, int depth)
     {
         PropertyList::Array elements;
         elements.reserve(count);
