@@ -2,6 +2,11 @@
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 
+# The compiler, the linker, the tools and the headers of libc++ come from one release of LLVM: that of clang++.
+file(REAL_PATH /usr/bin/clang++ clang)
+cmake_path(GET clang PARENT_PATH llvm_tools)
+cmake_path(GET llvm_tools PARENT_PATH llvm)
+
 set(ios_sysroot ${CMAKE_CURRENT_LIST_DIR}/../platform/ios/sysroot)
 cmake_path(NORMAL_PATH ios_sysroot)
 
@@ -14,7 +19,7 @@ set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
 add_compile_options(
   -nostdinc++
   "SHELL:-isystem ${ios_sysroot}/libcxx"
-  "SHELL:-isystem /usr/lib/llvm-14/include/c++/v1"
+  "SHELL:-isystem ${llvm}/include/c++/v1"
 )
 if(SDKROOT)
   set(CMAKE_OSX_SYSROOT ${SDKROOT})
@@ -28,21 +33,21 @@ endif()
 add_compile_options("SHELL:-idirafter ${ios_sysroot}/frameworks")
 
 foreach(language CXX OBJCXX)
-  set(CMAKE_${language}_COMPILER /usr/bin/clang++-14)
+  set(CMAKE_${language}_COMPILER ${llvm_tools}/clang++)
   set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios9.0)
 endforeach()
 # The linker's version tells the compiler which options lld knows.
 string(JOIN " " CMAKE_MODULE_LINKER_FLAGS_INIT
   -fuse-ld=lld
-  --ld-path=/usr/bin/ld64.lld-14
+  --ld-path=${llvm_tools}/ld64.lld
   -mlinker-version=609
   -stdlib=libc++
   -F${ios_sysroot}/stubs/System/Library/PrivateFrameworks
 )
 
-set(CMAKE_AR /usr/bin/llvm-ar-14)
-set(CMAKE_RANLIB /usr/bin/llvm-ranlib-14)
-set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-14)
+set(CMAKE_AR ${llvm_tools}/llvm-ar)
+set(CMAKE_RANLIB ${llvm_tools}/llvm-ranlib)
+set(CMAKE_INSTALL_NAME_TOOL ${llvm_tools}/llvm-install-name-tool)
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)

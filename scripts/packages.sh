@@ -16,8 +16,9 @@ test_packages=(
 )
 # What the benchmarks take besides those that run the pane.
 bench_packages=(libbenchmark-dev libcairo2-dev python3 xvfb)
-# What it takes to build the device's bundle and its package. Another release of libc++ cannot be there at the same time.
-ios_packages=(cmake ninja-build clang-14 lld-14 llvm-14 libc++-14-dev dpkg git python3)
+# What it takes to build the device's bundle and its package. The compiler, the linker, the tools and the standard library
+# are of one release of LLVM, the one that the Debian release has as its own.
+ios_packages=(cmake ninja-build clang lld llvm libc++-dev dpkg git python3)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

@@ -72,7 +72,9 @@ class TheExecutable(unittest.TestCase):
 
     def test_shows_no_symbol_to_other_code(self):
         self.assertEqual(binary.exports(), [])
-        self.assertEqual(binary.weak_binds(), 0)
+        # Newer linkers look for the global operators new and delete in every library, as C++ lets programs replace them.
+        operators = {"__Znwm", "__Znam", "__ZdlPv", "__ZdaPv"}
+        self.assertLessEqual(binary.weak_binds(), operators)
         shown = [
             name for name, kind in binary.symbols() if kind & N_EXT and kind & N_TYPE and not kind & N_STAB
         ]

@@ -157,8 +157,8 @@ class MachO:
                 assert operation == 0, f"unknown operation {byte:#x}"
 
     def weak_binds(self):
-        """How many bytes ask for symbols that any library may take the place of."""
-        return self._dyld_info()["weak_bind"][1]
+        """The symbols that any library may take the place of."""
+        return {symbol for _, symbol, _ in self._bind_table(*self._dyld_info()["weak_bind"])}
 
     def exports(self):
         """The symbols that other code can find."""

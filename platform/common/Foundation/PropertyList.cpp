@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <charconv>
-#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
 #if __has_include(<xlocale.h>)
 #include <xlocale.h> // where the device's C library declares locales as values
+#else
+#include <clocale>
 #endif
 
 namespace brimsound {
