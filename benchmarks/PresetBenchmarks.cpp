@@ -46,6 +46,31 @@ void choosingAPreset(benchmark::State& state)
 }
 BENCHMARK(choosingAPreset)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond)->MinTime(2);
 
+/// The eleven announcements that choosing a preset makes besides, with what they cause: each reaches this
+/// process and the media server, which reads the file, and the next message waits for that. Against nothing
+/// but the ten messages and eleven writes.
+void announcingBesides(benchmark::State& state)
+{
+    const World world;
+    write_preferences(preferencesWithPresets(static_cast<std::size_t>(state.range(0))));
+    const auto file = world.preferencesFile();
+    const std::vector<double> values(11, 1.5);
+    const std::string bytes = bytesOf(file);
+    const auto carryOut = [&](bool announced) {
+        for (int change = 0; change < 11; ++change) {
+            if (change < 10)
+                sendBare(values);
+            writeBare(file, bytes);
+            if (announced)
+                announceBare();
+        }
+    };
+    Paired().run(
+        state, [&] { carryOut(true); }, [&] { carryOut(false); },
+        [] { desktop::SessionBus::shared().drain(); });
+}
+BENCHMARK(announcingBesides)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond)->MinTime(2);
+
 /// From the tap to the painted list.
 void openingThePanel(benchmark::State& state)
 {

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/bus/BusPointers.h"
+#include "platform/desktop/bus/Interfaces.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/store/presets.h"
 #include "settings/tweak.h"
@@ -68,6 +69,13 @@ void sendBare(const std::vector<double>& values)
     sd_bus_message* received = nullptr;
     check(sd_bus_call(bus, message.get(), 1000000, nullptr, &received), "calling");
     const desktop::BusMessage reply(received);
+}
+
+void announceBare()
+{
+    check(sd_bus_emit_signal(desktop::SessionBus::shared().connection(), desktop::notificationsPath,
+              desktop::notificationsInterface, desktop::postedSignal, "s", settingsFinishedNotification),
+        "announcing");
 }
 
 void writeBare(const std::filesystem::path& path, const std::string& bytes)

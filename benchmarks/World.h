@@ -30,6 +30,9 @@ PropertyList::Dictionary preferencesWithPresets(std::size_t count);
 /// One "equalizer_send" with eleven values and its reply, by plain sd-bus calls on the process's connection.
 void sendBare(const std::vector<double>& values);
 
+/// Tells everybody on the bus that the settings changed, by a plain sd-bus call.
+void announceBare();
+
 /// Overwrites the file in place, by plain system calls.
 void writeBare(const std::filesystem::path&, const std::string& bytes);
 

@@ -3,12 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -25,6 +23,8 @@ public:
 
     PropertyListDictionary();
     PropertyListDictionary(std::initializer_list<Entry> entries);
+    /// From entries whose keys may repeat: a key keeps its first place and its last value.
+    explicit PropertyListDictionary(std::vector<Entry> entries);
     PropertyListDictionary(const PropertyListDictionary&);
     PropertyListDictionary(PropertyListDictionary&&) noexcept;
     PropertyListDictionary& operator=(const PropertyListDictionary&);
@@ -49,20 +49,23 @@ public:
     bool operator==(const PropertyListDictionary&) const;
 
 private:
-    std::size_t positionOf(std::string_view key) const;
+    /// The positions of the entries, in the order of their keys.
+    using Index = std::vector<std::uint32_t>;
 
-    struct Hash : std::hash<std::string_view> {
-        using is_transparent = void;
-    };
-    using Index = std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>>;
+    std::size_t positionOf(std::string_view key) const;
+    const Index& index() const;
+    Index::iterator placeInIndex(std::string_view key) const;
+    void dropRepeatedKeys();
 
     std::vector<Entry> _entries;
-    // Where each key stands; made at the first look-up in a dictionary too long to be searched through.
+    // Made at the first look-up in a dictionary that is too long to be searched through.
     mutable std::unique_ptr<Index> _index;
 };
 
 /// One property-list value, with everything inside it; copies are deep, everything can be changed in place.
 /// Null (no value) stands for Foundation's nil: it converts to zero or false and cannot be serialised.
+/// Text is UTF-8. A file may hold half a surrogate pair as well: it is kept as three bytes, encoded as if it
+/// were a character.
 class PropertyList {
 public:
     using Array = std::vector<PropertyList>;
@@ -73,41 +76,83 @@ public:
         double secondsSinceReferenceDate = 0;
         bool operator==(const Date&) const = default;
     };
+    /// An integer beyond 64 bits with a sign: the halves of its two's complement of 128 bits.
+    struct WideInteger {
+        std::int64_t high = 0;
+        std::uint64_t low = 0;
+        bool operator==(const WideInteger&) const = default;
+    };
+    /// What a keyed archive refers to its objects by. Not a number: it converts to zero.
+    struct Uid {
+        std::uint64_t value = 0;
+        bool operator==(const Uid&) const = default;
+    };
+    /// The null object of a binary file, Foundation's NSNull.
+    struct NullObject {
+        bool operator==(const NullObject&) const = default;
+    };
+    /// A set, in the order of the file.
+    struct Set {
+        Array elements;
+        bool operator==(const Set&) const;
+    };
 
     PropertyList() = default;
     PropertyList(bool);
     PropertyList(int);
     PropertyList(std::int64_t);
-    /// A single-precision number keeps its exact value; the serialiser writes a real in four bytes when that
-    /// loses nothing.
+    PropertyList(std::uint64_t);
+    /// Becomes a plain integer when it fits into one.
+    PropertyList(WideInteger);
+    /// A real of single precision, which takes four bytes in a binary file.
     PropertyList(float);
+    /// A real of double precision. It equals one of single precision that has the same value.
     PropertyList(double);
     PropertyList(const char*);
     PropertyList(std::string_view);
     PropertyList(std::string);
     PropertyList(Data);
     PropertyList(Date);
+    PropertyList(Uid);
+    PropertyList(NullObject);
     PropertyList(Array);
+    PropertyList(Set);
     PropertyList(Dictionary);
 
     bool isNull() const { return std::holds_alternative<std::monostate>(_value); }
 
-    /// The value when it is of exactly that type (integers and reals do not mix here), else null.
+    /// The value when it is of exactly that type (integers and reals do not mix here), else null. A real is
+    /// given as a double whatever its precision.
     const bool* asBoolean() const { return std::get_if<bool>(&_value); }
     const std::int64_t* asInteger() const { return std::get_if<std::int64_t>(&_value); }
-    const double* asReal() const { return std::get_if<double>(&_value); }
+    const WideInteger* asWideInteger() const { return std::get_if<WideInteger>(&_value); }
+    const double* asReal() const
+    {
+        const auto* real = std::get_if<Real>(&_value);
+        return real ? &real->value : nullptr;
+    }
+    /// Whether it is a real of single precision.
+    bool isSingleReal() const
+    {
+        const auto* real = std::get_if<Real>(&_value);
+        return real && real->isSingle;
+    }
     const std::string* asString() const { return std::get_if<std::string>(&_value); }
     const Data* asData() const { return std::get_if<Data>(&_value); }
     const Date* asDate() const { return std::get_if<Date>(&_value); }
+    const Uid* asUid() const { return std::get_if<Uid>(&_value); }
+    const NullObject* asNullObject() const { return std::get_if<NullObject>(&_value); }
     const Array* asArray() const { return std::get_if<Array>(&_value); }
     Array* asArray() { return std::get_if<Array>(&_value); }
+    const Set* asSet() const { return std::get_if<Set>(&_value); }
+    Set* asSet() { return std::get_if<Set>(&_value); }
     const Dictionary* asDictionary() const { return std::get_if<Dictionary>(&_value); }
     Dictionary* asDictionary() { return std::get_if<Dictionary>(&_value); }
 
     /// Foundation's conversions. Numbers and booleans convert to one another as NSNumber's do. Strings
     /// convert as NSString's do: after leading blanks the longest number at the start, else 0; for boolValue,
     /// true when blanks, a sign and zeros are followed by Y, y, T, t or a digit from 1 to 9. Everything else,
-    /// null included, is zero or false.
+    /// null included, is zero or false. An integer beyond 64 bits becomes one by its lower half.
     float floatValue() const;
     double doubleValue() const;
     bool boolValue() const;
@@ -116,7 +161,14 @@ public:
     bool operator==(const PropertyList&) const = default;
 
 private:
-    std::variant<std::monostate, bool, std::int64_t, double, std::string, Data, Date, Array, Dictionary>
+    struct Real {
+        double value;
+        bool isSingle;
+        bool operator==(const Real& other) const { return value == other.value; }
+    };
+
+    std::variant<std::monostate, bool, std::int64_t, WideInteger, Real, std::string, Data, Date, Uid,
+        NullObject, Array, Set, Dictionary>
         _value;
 };
 

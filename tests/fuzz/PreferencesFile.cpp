@@ -30,6 +30,10 @@ float sumOf(const PropertyList& value)
         for (const auto& element : *array)
             sum += sumOf(element);
     }
+    if (const auto* set = value.asSet()) {
+        for (const auto& element : set->elements)
+            sum += sumOf(element);
+    }
     if (const auto* dictionary = value.asDictionary()) {
         for (const auto& entry : *dictionary)
             sum += sumOf(entry.value);

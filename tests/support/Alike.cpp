@@ -5,17 +5,31 @@
 
 namespace brimsound::tests {
 
+namespace {
+
+bool areAlikeNumbers(double one, double other)
+{
+    return one == other || (std::isnan(one) && std::isnan(other));
+}
+
+bool areAlikeElements(const PropertyList::Array& one, const PropertyList::Array& other)
+{
+    return std::ranges::equal(one, other, areAlike);
+}
+
+} // namespace
+
 bool areAlike(const PropertyList& one, const PropertyList& other)
 {
-    if (one.asReal() && other.asReal() && std::isnan(*one.asReal()))
-        return std::isnan(*other.asReal());
-    if (one.asDate() && other.asDate()) {
-        const auto distance
-            = one.asDate()->secondsSinceReferenceDate - other.asDate()->secondsSinceReferenceDate;
-        return std::abs(distance) < 2e-6;
-    }
+    if (one.asReal() && other.asReal())
+        return one.isSingleReal() == other.isSingleReal() && areAlikeNumbers(*one.asReal(), *other.asReal());
+    if (one.asDate() && other.asDate())
+        return areAlikeNumbers(
+            one.asDate()->secondsSinceReferenceDate, other.asDate()->secondsSinceReferenceDate);
     if (one.asArray() && other.asArray())
-        return std::ranges::equal(*one.asArray(), *other.asArray(), areAlike);
+        return areAlikeElements(*one.asArray(), *other.asArray());
+    if (one.asSet() && other.asSet())
+        return areAlikeElements(one.asSet()->elements, other.asSet()->elements);
     if (one.asDictionary() && other.asDictionary()) {
         const auto& entries = *other.asDictionary();
         return one.asDictionary()->size() == entries.size()

@@ -5,8 +5,7 @@
 
 namespace brimsound::tests {
 
-/// Whether the values are equal, every NaN being like every other, and a date like one a microsecond
-/// away, which is as fine as the file keeps them.
+/// Whether the values are of the same types and equal, every NaN being like every other.
 bool areAlike(const PropertyList&, const PropertyList&);
 
 } // namespace brimsound::tests

@@ -25,6 +25,12 @@ std::string referenceTo(int place)
     return bigEndian(static_cast<std::uint64_t>(place), 2);
 }
 
+std::string fileOf(const std::string& start, const std::string& offsets)
+{
+    return start + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(offsets.size() / 4, 8)
+        + bigEndian(0, 8) + bigEndian(start.size(), 8);
+}
+
 } // namespace
 
 std::string binaryFile(const std::vector<std::string>& objects)
@@ -35,9 +41,16 @@ std::string binaryFile(const std::vector<std::string>& objects)
         offsets += bigEndian(file.size(), 4);
         file += object;
     }
-    const auto offsetTable = file.size();
-    return file + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(objects.size(), 8) + bigEndian(0, 8)
-        + bigEndian(offsetTable, 8);
+    return fileOf(file, offsets);
+}
+
+std::string overlappingFile(const std::string& objects)
+{
+    const std::string file = "bplist00" + objects;
+    std::string offsets;
+    for (auto offset = file.size() - objects.size(); offset < file.size(); ++offset)
+        offsets += bigEndian(offset, 4);
+    return fileOf(file, offsets);
 }
 
 std::string arrayOf(std::initializer_list<int> references)
@@ -56,6 +69,16 @@ std::string arrayOfCopies(std::size_t count, int reference)
 std::string dictionaryOf(int key, int value)
 {
     return head(0xd, 1) + referenceTo(key) + referenceTo(value);
+}
+
+std::string dictionaryOf(const std::vector<int>& keys, const std::vector<int>& values)
+{
+    auto object = head(0xd, keys.size());
+    for (const auto* places : { &keys, &values }) {
+        for (const int place : *places)
+            object += referenceTo(place);
+    }
+    return object;
 }
 
 std::string stringOf(std::string_view bytes)

@@ -15,8 +15,6 @@ namespace brimsound {
 
 namespace {
 
-constexpr std::size_t longestToSearchThrough = 16;
-
 std::string_view withoutLeadingBlanks(std::string_view text)
 {
     text.remove_prefix(std::min(text.size(), text.find_first_not_of(" \t\n\v\f\r")));
@@ -74,98 +72,6 @@ std::int64_t integerValueOf(double real)
 
 } // namespace
 
-PropertyListDictionary::PropertyListDictionary() = default;
-PropertyListDictionary::PropertyListDictionary(PropertyListDictionary&&) noexcept = default;
-PropertyListDictionary& PropertyListDictionary::operator=(PropertyListDictionary&&) noexcept = default;
-PropertyListDictionary::~PropertyListDictionary() = default;
-
-PropertyListDictionary::PropertyListDictionary(std::initializer_list<Entry> entries)
-{
-    for (const auto& entry : entries)
-        set(entry.key, entry.value);
-}
-
-PropertyListDictionary::PropertyListDictionary(const PropertyListDictionary& other)
-    : _entries(other._entries)
-{
-}
-
-PropertyListDictionary& PropertyListDictionary::operator=(const PropertyListDictionary& other)
-{
-    return *this = PropertyListDictionary(other);
-}
-
-std::size_t PropertyListDictionary::size() const
-{
-    return _entries.size();
-}
-
-const PropertyListDictionary::Entry* PropertyListDictionary::begin() const
-{
-    return _entries.data();
-}
-
-const PropertyListDictionary::Entry* PropertyListDictionary::end() const
-{
-    return _entries.data() + _entries.size();
-}
-
-std::size_t PropertyListDictionary::positionOf(std::string_view key) const
-{
-    if (_entries.size() <= longestToSearchThrough) {
-        const auto found = std::find_if(begin(), end(), [&](const Entry& entry) { return entry.key == key; });
-        return static_cast<std::size_t>(found - begin());
-    }
-    if (!_index) {
-        _index = std::make_unique<Index>();
-        for (std::size_t position = 0; position < _entries.size(); ++position)
-            _index->emplace(_entries[position].key, position);
-    }
-    const auto found = _index->find(key);
-    return found == _index->end() ? _entries.size() : found->second;
-}
-
-const PropertyList* PropertyListDictionary::find(std::string_view key) const
-{
-    const auto position = positionOf(key);
-    return position < _entries.size() ? &_entries[position].value : nullptr;
-}
-
-PropertyList* PropertyListDictionary::find(std::string_view key)
-{
-    const auto position = positionOf(key);
-    return position < _entries.size() ? &_entries[position].value : nullptr;
-}
-
-void PropertyListDictionary::set(std::string_view key, PropertyList value)
-{
-    const auto position = positionOf(key);
-    if (position < _entries.size()) {
-        _entries[position].value = std::move(value);
-        return;
-    }
-    _entries.push_back({ std::string(key), std::move(value) });
-    if (_index)
-        _index->emplace(key, position);
-}
-
-void PropertyListDictionary::remove(std::string_view key)
-{
-    const auto position = positionOf(key);
-    if (position == _entries.size())
-        return;
-    _entries.erase(_entries.begin() + static_cast<std::ptrdiff_t>(position));
-    _index.reset();
-}
-
-bool PropertyListDictionary::operator==(const PropertyListDictionary& other) const
-{
-    return size() == other.size() && std::all_of(begin(), end(), [&](const Entry& entry) {
-        const auto* value = other.find(entry.key);
-        return value && *value == entry.value;
-    });
-}
-
 PropertyList::PropertyList(bool value)
     : _value(value)
 {
@@ -181,13 +87,27 @@ PropertyList::PropertyList(std::int64_t value)
 {
 }
 
+PropertyList::PropertyList(std::uint64_t value)
+    : PropertyList(WideInteger { 0, value })
+{
+}
+
+PropertyList::PropertyList(WideInteger value)
+{
+    const auto low = static_cast<std::int64_t>(value.low);
+    if (value.high == (low < 0 ? -1 : 0))
+        _value = low;
+    else
+        _value = value;
+}
+
 PropertyList::PropertyList(float value)
-    : _value(double { value })
+    : _value(Real { value, true })
 {
 }
 
 PropertyList::PropertyList(double value)
-    : _value(value)
+    : _value(Real { value, false })
 {
 }
 
@@ -216,7 +136,22 @@ PropertyList::PropertyList(Date value)
 {
 }
 
+PropertyList::PropertyList(Uid value)
+    : _value(value)
+{
+}
+
+PropertyList::PropertyList(NullObject value)
+    : _value(value)
+{
+}
+
 PropertyList::PropertyList(Array value)
+    : _value(std::move(value))
+{
+}
+
+PropertyList::PropertyList(Set value)
     : _value(std::move(value))
 {
 }
@@ -226,10 +161,18 @@ PropertyList::PropertyList(Dictionary value)
 {
 }
 
+bool PropertyList::Set::operator==(const Set& other) const
+{
+    return elements == other.elements;
+}
+
 float PropertyList::floatValue() const
 {
+    // Integers are rounded once.
     if (const auto* integer = asInteger())
         return static_cast<float>(*integer);
+    if (const auto* wide = asWideInteger(); wide && wide->high == 0)
+        return static_cast<float>(wide->low);
     return static_cast<float>(doubleValue());
 }
 
@@ -239,6 +182,8 @@ double PropertyList::doubleValue() const
         return *boolean ? 1 : 0;
     if (const auto* integer = asInteger())
         return static_cast<double>(*integer);
+    if (const auto* wide = asWideInteger())
+        return std::ldexp(static_cast<double>(wide->high), 64) + static_cast<double>(wide->low);
     if (const auto* real = asReal())
         return *real;
     if (const auto* string = asString())
@@ -257,6 +202,8 @@ std::int64_t PropertyList::integerValue() const
 {
     if (const auto* integer = asInteger())
         return *integer;
+    if (const auto* wide = asWideInteger())
+        return static_cast<std::int64_t>(wide->low);
     if (const auto* string = asString())
         return integerValueOf(*string);
     return integerValueOf(doubleValue());

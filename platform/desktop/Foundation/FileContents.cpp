@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -57,6 +58,30 @@ bool writeAll(int file, std::span<const std::byte> bytes)
     return true;
 }
 
+/// Has the disk set room aside for that many bytes of the file, from its start. False when there is none: the
+/// disk or the quota is full, or the file would be too large.
+bool reserve(int file, std::size_t length)
+{
+    if (length == 0)
+        return true;
+    int error = EINTR;
+    while (error == EINTR)
+        error = posix_fallocate(file, 0, static_cast<off_t>(length));
+    // Where the file system reserves nothing, glibc writes a zero into each new block instead. A C library
+    // that leaves that to the caller says so: the file is then overwritten without a reserve.
+    return error == 0 || error == EOPNOTSUPP;
+}
+
+void undoReserving(const std::filesystem::path& path, int file, std::size_t oldLength, bool isNew)
+{
+    // Room that was found for a part of it made the file longer.
+    if (ftruncate(file, static_cast<off_t>(oldLength)) != 0 || !isNew)
+        return;
+    // The path may be a link to where the file is.
+    std::error_code ignored;
+    std::filesystem::remove(std::filesystem::canonical(path, ignored), ignored);
+}
+
 } // namespace
 
 std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::path& path, std::size_t limit)
@@ -66,27 +91,43 @@ std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::pat
     if (!length || *length > limit)
         return std::nullopt;
 
-    std::vector<std::byte> bytes;
-    bytes.reserve(*length);
-    std::byte block[16 * 1024];
+    // One more than its length, so that what was written to it in the meantime shows.
+    std::vector<std::byte> bytes(*length + 1);
+    std::size_t end = 0;
     for (;;) {
-        const auto count = read(file.number(), block, sizeof block);
-        if (count == 0)
-            return bytes;
+        const auto count = read(file.number(), bytes.data() + end, bytes.size() - end);
         if (count < 0 && errno != EINTR)
             return std::nullopt;
+        if (count == 0)
+            break;
         if (count > 0)
-            bytes.insert(bytes.end(), block, block + count);
-        if (bytes.size() > limit)
+            end += static_cast<std::size_t>(count);
+        if (end > limit)
             return std::nullopt;
+        if (end == bytes.size())
+            bytes.resize(2 * end);
     }
+    bytes.resize(end);
+    return bytes;
 }
 
 bool overwriteFile(const std::filesystem::path& path, std::span<const std::byte> bytes)
 {
-    // Truncated only once it is known to be a file.
-    FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    return file.isRegularFile() && ftruncate(file.number(), 0) == 0 && writeAll(file.number(), bytes)
+    constexpr int flags = O_WRONLY | O_NONBLOCK | O_CLOEXEC;
+    int number = open(path.c_str(), flags);
+    const bool isNew = number < 0 && errno == ENOENT;
+    if (isNew)
+        number = open(path.c_str(), flags | O_CREAT, S_IRUSR | S_IWUSR);
+    FileDescriptor file(number);
+    const auto oldLength = file.length();
+    if (!oldLength)
+        return false;
+    if (!reserve(file.number(), bytes.size())) {
+        undoReserving(path, file.number(), *oldLength, isNew);
+        return false;
+    }
+    return writeAll(file.number(), bytes)
+        && (bytes.size() >= *oldLength || ftruncate(file.number(), static_cast<off_t>(bytes.size())) == 0)
         && file.close();
 }
 

@@ -9,8 +9,8 @@
 
 namespace brimsound::desktop {
 
-/// The property list that the bytes are, in any format. Nothing when they are none, or one out of bounds.
-/// Bytes in a string that are no text are replaced, so that whatever was read can be written again.
+/// The property list that the bytes are, binary or in XML. Nothing when they are none, or one out of bounds.
+/// Bytes in a text that are no text are replaced. Whatever was read can be written again.
 std::optional<PropertyList> parsePropertyList(std::span<const std::byte>);
 
 } // namespace brimsound::desktop

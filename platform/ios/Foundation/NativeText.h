@@ -8,10 +8,10 @@
 
 namespace brimsound::ios {
 
-/// In UTF-8; empty for nil. Half a surrogate pair, which has no UTF-8, becomes a question mark.
+/// In UTF-8; empty for nil. Half a surrogate pair is three bytes, encoded as if it were a character.
 std::string textOf(::NSString*);
 
-/// Autoreleased; nil for bytes that are not UTF-8.
+/// Autoreleased; nil for bytes that are not such UTF-8.
 ::NSString* nativeText(std::string_view);
 
 } // namespace brimsound::ios

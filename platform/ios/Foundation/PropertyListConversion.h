@@ -17,8 +17,9 @@ namespace brimsound::ios {
 std::optional<PropertyList> valueOf(
     id native, std::size_t mostValues = std::numeric_limits<std::size_t>::max());
 
-/// The native value, autoreleased; nil for null. One that holds null, or text that is not UTF-8, holds an
-/// NSNull in its place, which no property-list file can.
+/// The native value, autoreleased; nil for null, for text that is not UTF-8, and for numbers that the
+/// platform does not have. A container that holds such a one holds an NSNull in its place, which no
+/// property-list file can.
 id nativeValue(const PropertyList&);
 
 ::NSDictionary* nativeDictionary(const PropertyList::Dictionary&);

@@ -1,8 +1,10 @@
 #include "platform/ios/Foundation/PropertyListConversion.h"
 
 #include "platform/ios/Foundation/NativeText.h"
+#include "platform/ios/Foundation/NativeUid.h"
 
 #include <string_view>
+#include <vector>
 
 namespace brimsound::ios {
 
@@ -27,8 +29,16 @@ public:
             return textOf(native);
         if ([native isKindOfClass:[::NSNumber class]])
             return number(native);
+        if (const auto uid = uidOf(native))
+            return *uid;
         if ([native isKindOfClass:[::NSArray class]])
-            return array(native, depth);
+            return elementsOf(native, [native count], depth);
+        if ([native isKindOfClass:[::NSSet class]]) {
+            auto elements = elementsOf(native, [native count], depth);
+            if (!elements)
+                return std::nullopt;
+            return PropertyList::Set { std::move(*elements) };
+        }
         if ([native isKindOfClass:[::NSDictionary class]])
             return dictionary(native, depth);
         if ([native isKindOfClass:[::NSData class]]) {
@@ -37,6 +47,8 @@ public:
         }
         if ([native isKindOfClass:[::NSDate class]])
             return PropertyList::Date { [native timeIntervalSinceReferenceDate] };
+        if ([native isKindOfClass:[::NSNull class]])
+            return PropertyList::NullObject {};
         return std::nullopt;
     }
 
@@ -49,15 +61,21 @@ private:
         if (native == [::NSNumber numberWithBool:NO])
             return false;
         const std::string_view type = [native objCType];
-        if (type == @encode(float) || type == @encode(double))
+        if (type == @encode(float))
+            return [native floatValue];
+        if (type == @encode(double))
             return [native doubleValue];
-        return std::int64_t { [native longLongValue] };
+        const std::int64_t value = [native longLongValue];
+        // What does not fit with a sign is greater than zero nevertheless.
+        if (value < 0 && [native compare:[::NSNumber numberWithInt:0]] == NSOrderedDescending)
+            return std::uint64_t { [native unsignedLongLongValue] };
+        return value;
     }
 
-    std::optional<PropertyList> array(::NSArray* native, int depth)
+    std::optional<PropertyList::Array> elementsOf(id native, std::size_t count, int depth)
     {
         PropertyList::Array elements;
-        elements.reserve([native count]);
+        elements.reserve(count);
         for (id element in native) {
             auto value = read(element, depth + 1);
             if (!value)
@@ -69,30 +87,44 @@ private:
 
     std::optional<PropertyList> dictionary(::NSDictionary* native, int depth)
     {
-        PropertyList::Dictionary entries;
+        std::vector<PropertyListDictionary::Entry> entries;
+        entries.reserve([native count]);
         for (id key in native) {
             auto value = read([native objectForKey:key], depth + 1);
             if (!value || ![key isKindOfClass:[::NSString class]])
                 return std::nullopt;
-            entries.set(textOf(key), std::move(*value));
+            entries.push_back({ textOf(key), std::move(*value) });
         }
-        return entries;
+        return PropertyListDictionary(std::move(entries));
     }
 
     std::size_t _left;
 };
 
-::NSNumber* nativeReal(double real)
-{
-    // A file takes four bytes for a single, eight for a double.
-    const auto single = static_cast<float>(real);
-    return static_cast<double>(single) == real ? [::NSNumber numberWithFloat:single]
-                                               : [::NSNumber numberWithDouble:real];
-}
-
 id orNull(id native)
 {
     return native ? native : [::NSNull null];
+}
+
+::NSArray* nativeElements(const PropertyList::Array& elements)
+{
+    ::NSMutableArray* native = [::NSMutableArray arrayWithCapacity:elements.size()];
+    for (const auto& element : elements)
+        [native addObject:orNull(nativeValue(element))];
+    return native;
+}
+
+/// Nil for an integer beyond 64 bits, which no public class holds.
+::NSNumber* nativeNumber(PropertyList::WideInteger integer)
+{
+    return integer.high == 0 ? [::NSNumber numberWithUnsignedLongLong:integer.low] : nil;
+}
+
+::NSNumber* nativeReal(const PropertyList& value)
+{
+    // A file takes four bytes for a single, eight for a double.
+    return value.isSingleReal() ? [::NSNumber numberWithFloat:value.floatValue()]
+                                : [::NSNumber numberWithDouble:value.doubleValue()];
 }
 
 } // namespace
@@ -116,8 +148,10 @@ id nativeValue(const PropertyList& value)
         return [::NSNumber numberWithBool:*boolean];
     if (const auto* integer = value.asInteger())
         return [::NSNumber numberWithLongLong:*integer];
-    if (const auto* real = value.asReal())
-        return nativeReal(*real);
+    if (const auto* wide = value.asWideInteger())
+        return nativeNumber(*wide);
+    if (value.asReal())
+        return nativeReal(value);
     if (const auto* string = value.asString())
         return nativeText(*string);
     if (const auto* data = value.asData())
@@ -126,12 +160,14 @@ id nativeValue(const PropertyList& value)
         return [::NSDate dateWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
     if (const auto* dictionary = value.asDictionary())
         return nativeDictionary(*dictionary);
-    if (const auto* array = value.asArray()) {
-        ::NSMutableArray* native = [::NSMutableArray arrayWithCapacity:array->size()];
-        for (const auto& element : *array)
-            [native addObject:orNull(nativeValue(element))];
-        return native;
-    }
+    if (const auto* array = value.asArray())
+        return nativeElements(*array);
+    if (const auto* set = value.asSet())
+        return [::NSSet setWithArray:nativeElements(set->elements)];
+    if (const auto* uid = value.asUid())
+        return nativeUid(*uid);
+    if (value.asNullObject())
+        return [::NSNull null];
     return nil;
 }
 

@@ -93,6 +93,40 @@ TEST(ADictionary, GivesNothingForAKeyThatIsMissingOrHoldsAnotherType)
     }
 }
 
+TEST(ADictionary, KeepsOfRepeatedKeysTheLastValueInTheFirstPlace)
+{
+    using Entries = std::vector<PropertyListDictionary::Entry>;
+    const PropertyListDictionary dictionary(Entries { { "a", 1 }, { "b", 2 }, { "a", 3 }, { "a", 4 } });
+    EXPECT_THAT(keysOf(dictionary), ElementsAre("a", "b"));
+    EXPECT_EQ(*dictionary.find("a"), PropertyList(4));
+
+    Entries entries;
+    for (int i = 0; i < 300; ++i)
+        entries.push_back({ std::to_string(i % 100), i });
+    const PropertyListDictionary longer(std::move(entries));
+    ASSERT_EQ(longer.size(), 100u);
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(longer.begin()[i].key, std::to_string(i));
+        EXPECT_EQ(*longer.find(std::to_string(i)), PropertyList(200 + i));
+    }
+}
+
+TEST(ADictionary, FindsItsKeysWhenItGrowsLongAndShortAgain)
+{
+    PropertyList::Dictionary dictionary;
+    for (int i = 0; i < 40; ++i) {
+        dictionary.set(std::to_string(39 - i), i);
+        for (int j = 0; j <= i; ++j)
+            ASSERT_EQ(dictionary.find(std::to_string(39 - j))->integerValue(), j);
+        ASSERT_EQ(dictionary.find("none"), nullptr);
+    }
+    for (int i = 0; i < 40; ++i) {
+        dictionary.remove(std::to_string(i));
+        ASSERT_EQ(dictionary.find(std::to_string(i)), nullptr);
+        ASSERT_EQ(dictionary.size(), static_cast<std::size_t>(39 - i));
+    }
+}
+
 TEST(ALongDictionary, FindsItsKeysAfterEveryChange)
 {
     constexpr int size = 1000;

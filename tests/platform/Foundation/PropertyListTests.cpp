@@ -39,6 +39,36 @@ TEST(ANumber, OutOfRangeConvertsToTheNearestThatThereIs)
     EXPECT_EQ(PropertyList(1e300).floatValue(), std::numeric_limits<float>::infinity());
 }
 
+TEST(ANumber, Beyond64BitsConvertsAsNearAsItCan)
+{
+    const PropertyList largest(std::uint64_t { UINT64_MAX });
+    EXPECT_TRUE(largest.asWideInteger());
+    EXPECT_EQ(largest.doubleValue(), 0x1p64);
+    EXPECT_EQ(largest.floatValue(), 0x1p64f);
+    EXPECT_EQ(largest.integerValue(), -1);
+    EXPECT_TRUE(largest.boolValue());
+    EXPECT_EQ(PropertyList(PropertyList::WideInteger { -2, 0 }).doubleValue(), -0x1p65);
+    // Rounded once: by way of a double this would come out one step lower.
+    EXPECT_EQ(PropertyList((std::uint64_t { 1 } << 63) + (std::uint64_t { 1 } << 39) + 1).floatValue(),
+        0x1p63f + 0x1p40f);
+}
+
+TEST(ANumber, OfFewBitsIsAPlainInteger)
+{
+    EXPECT_EQ(PropertyList(std::uint64_t { 7 }), PropertyList(7));
+    EXPECT_EQ(PropertyList(PropertyList::WideInteger { -1, UINT64_MAX }), PropertyList(-1));
+    EXPECT_TRUE(PropertyList(PropertyList::WideInteger { 0, std::uint64_t { 1 } << 63 }).asWideInteger());
+    EXPECT_TRUE(PropertyList(PropertyList::WideInteger { -1, 0 }).asWideInteger());
+}
+
+TEST(AReal, EqualsOneOfAnotherPrecision)
+{
+    EXPECT_EQ(PropertyList(0.5f), PropertyList(0.5));
+    EXPECT_TRUE(PropertyList(0.5f).isSingleReal());
+    EXPECT_FALSE(PropertyList(0.5).isSingleReal());
+    EXPECT_FALSE(PropertyList(1).isSingleReal());
+}
+
 TEST(AString, ConvertsToTheNumberAtItsStart)
 {
     EXPECT_EQ(PropertyList("4.5 dB").doubleValue(), 4.5);
@@ -78,7 +108,8 @@ TEST(AString, IsTrueWhenItStartsWithAYesOrANumber)
 TEST(AnythingElse, ConvertsToZero)
 {
     const PropertyList others[] = { {}, PropertyList::Data { std::byte { 1 } }, PropertyList::Date { 5 },
-        PropertyList::Array { 1 }, PropertyList::Dictionary { { "one", 1 } } };
+        PropertyList::Array { 1 }, PropertyList::Dictionary { { "one", 1 } }, PropertyList::Uid { 1 },
+        PropertyList::NullObject {}, PropertyList::Set { PropertyList::Array { 1 } } };
     for (const auto& other : others) {
         EXPECT_EQ(other.floatValue(), 0);
         EXPECT_EQ(other.doubleValue(), 0);

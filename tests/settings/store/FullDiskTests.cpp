@@ -1,4 +1,4 @@
-// Files on a real disk that is full, and files of somebody else's, each in a process of the test's own.
+// Files on a real disk that takes no more, and files of somebody else's, each in a process of the test's own.
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
@@ -6,11 +6,19 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -62,28 +70,129 @@ bool fill(const fs::path& file)
 
 PropertyList::Dictionary preferencesWithLongName()
 {
-    return { { selectedPresetKey, std::string(6000, 'n') } };
+    return { { selectedPresetKey, std::string(10'000, 'n') } };
 }
 
-TEST(AFullDisk, LosesTheFileUntilThereIsRoomAgain)
+/// Has the system refuse with that error, from now on, to reserve room for a file.
+bool refuseToReserve(int error)
 {
-    const TemporaryRoot root;
-    inAProcessOfItsOwn("this user may mount no disk", [&] {
+    sock_filter instructions[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_fallocate, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | static_cast<unsigned>(error)),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program { std::size(instructions), instructions };
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0
+        && prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+class AFailedWrite : public testing::Test {
+protected:
+    AFailedWrite() { write_preferences(preferences); }
+
+    /// In a process of its own, whose preferences lie on a disk of four pages.
+    static void onASmallDisk(const std::function<void()>& action)
+    {
         const auto folder = desktop::resolveDevicePath(preferencesPath).parent_path();
-        if (!mountSmallDisk(folder))
-            _exit(impossible);
-        const PropertyList::Dictionary preferences { { enabledKey, false } };
-        write_preferences(preferences);
-        EXPECT_EQ(get_preferences(), preferences);
+        inAProcessOfItsOwn("this user may mount no disk", [&] {
+            if (!mountSmallDisk(folder))
+                _exit(impossible);
+            write_preferences(preferences);
+            action();
+        });
+    }
 
-        ASSERT_TRUE(fill(folder / "filler"));
+    static fs::path filler() { return desktop::resolveDevicePath(preferencesPath).parent_path() / "filler"; }
+
+    /// Writes what does not fit, and expects the old file.
+    void expectToKeepTheFile() const
+    {
+        const auto before = root.read(preferencesPath);
         write_preferences(preferencesWithLongName());
-        EXPECT_LT(root.read(preferencesPath).size(), 6000u);
-        EXPECT_TRUE(get_preferences().find(presetsKey)) << "no fresh ones";
+        EXPECT_TRUE(root.read(preferencesPath) == before);
+        EXPECT_EQ(get_preferences(), preferences);
+    }
 
-        fs::remove(folder / "filler");
+    TemporaryRoot root;
+    inline static const PropertyList::Dictionary preferences { { enabledKey, false } };
+};
+
+TEST_F(AFailedWrite, ToAFullDiskKeepsTheFile)
+{
+    onASmallDisk([this] {
+        ASSERT_TRUE(fill(filler()));
+        expectToKeepTheFile();
+        fs::remove(filler());
         write_preferences(preferencesWithLongName());
         EXPECT_EQ(get_preferences(), preferencesWithLongName());
+    });
+}
+
+TEST_F(AFailedWrite, ToAFullDiskThatReservesNothingKeepsTheFile)
+{
+    onASmallDisk([this] {
+        ASSERT_TRUE(fill(filler()));
+        // Room for a part of what is to be written.
+        fs::resize_file(filler(), fs::file_size(filler()) - 4096);
+        ASSERT_TRUE(refuseToReserve(EOPNOTSUPP));
+        expectToKeepTheFile();
+        fs::remove(filler());
+        write_preferences(preferencesWithLongName());
+        EXPECT_EQ(get_preferences(), preferencesWithLongName());
+    });
+}
+
+TEST_F(AFailedWrite, ToAFullDiskLeavesNoFileWhereThereWasNone)
+{
+    onASmallDisk([] {
+        const auto file = desktop::resolveDevicePath(preferencesPath);
+        fs::remove(file);
+        ASSERT_TRUE(fill(filler()));
+        write_preferences(preferencesWithLongName());
+        EXPECT_FALSE(fs::exists(file));
+
+        fs::create_symlink("elsewhere", file);
+        write_preferences(preferencesWithLongName());
+        EXPECT_TRUE(fs::is_symlink(file));
+        EXPECT_FALSE(fs::exists(file.parent_path() / "elsewhere"));
+    });
+}
+
+TEST_F(AFailedWrite, OfAShorterFileToAFullDiskIsNone)
+{
+    onASmallDisk([] {
+        write_preferences(preferencesWithLongName());
+        ASSERT_TRUE(fill(filler()));
+        write_preferences(preferences);
+        EXPECT_EQ(get_preferences(), preferences);
+    });
+}
+
+TEST_F(AFailedWrite, BeyondAQuotaKeepsTheFile)
+{
+    onASmallDisk([this] {
+        ASSERT_TRUE(refuseToReserve(EDQUOT));
+        expectToKeepTheFile();
+    });
+}
+
+TEST_F(AFailedWrite, OfAFileThatWouldBeTooLargeKeepsTheFile)
+{
+    inAProcessOfItsOwn("", [this] {
+        const rlimit small { 1000, RLIM_INFINITY };
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+        ASSERT_NE(std::signal(SIGXFSZ, SIG_IGN), SIG_ERR);
+        expectToKeepTheFile();
+    });
+}
+
+TEST_F(AFailedWrite, ToAReadOnlyDiskKeepsTheFile)
+{
+    onASmallDisk([this] {
+        const auto folder = desktop::resolveDevicePath(preferencesPath).parent_path();
+        ASSERT_EQ(mount("none", folder.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+        expectToKeepTheFile();
     });
 }
 

@@ -1,0 +1,262 @@
+#include "platform/desktop/Foundation/BinaryPropertyListWriter.h"
+
+#include "platform/common/Foundation/Utf16.h"
+#include "platform/desktop/Foundation/BinaryFormat.h"
+#include "platform/desktop/Foundation/PropertyListBudget.h"
+#include "platform/desktop/Foundation/UniqueObjects.h"
+
+#include <cstring>
+#include <vector>
+
+namespace brimsound::desktop {
+
+using namespace binary;
+
+namespace {
+
+/// The objects of a property list, numbered, and the references of its containers.
+class ObjectGraph {
+public:
+    ObjectGraph()
+    {
+        constexpr std::size_t usual = 512;
+        objects.reserve(usual);
+        references.reserve(usual);
+    }
+
+    /// The value's number; nothing when it cannot be written.
+    std::optional<std::uint32_t> add(const PropertyList& value, std::size_t depth = 0)
+    {
+        if (depth > deepestPropertyList)
+            return std::nullopt;
+        if (const auto scalar = scalarObject(value))
+            return addScalar(*scalar);
+        if (const auto* array = value.asArray())
+            return addElements(ObjectType::Array, *array, depth);
+        if (const auto* dictionary = value.asDictionary())
+            return addEntries(*dictionary, depth);
+        if (const auto* set = value.asSet())
+            return addElements(ObjectType::Set, set->elements, depth);
+        return std::nullopt;
+    }
+
+    std::vector<Object> objects;
+    std::vector<std::uint32_t> references;
+
+private:
+    std::optional<std::uint32_t> addScalar(const Object& scalar)
+    {
+        const auto length = scalar.bytes.size();
+        if ((scalar.type == ObjectType::Text && !_budget.takeText(length))
+            || (scalar.type == ObjectType::Data && !_budget.takeData(length)))
+            return std::nullopt;
+        const auto place = _unique.place(scalar, objects);
+        if (place.isNew && scalar.type == ObjectType::Text && !measureText(objects.back()))
+            return std::nullopt;
+        return place.number;
+    }
+
+    std::uint32_t addContainer(ObjectType type, std::size_t count)
+    {
+        const auto number = static_cast<std::uint32_t>(objects.size());
+        objects.push_back({ .type = type, .number = references.size(), .more = count });
+        references.resize(references.size() + count);
+        return number;
+    }
+
+    bool setReference(std::size_t index, std::optional<std::uint32_t> number)
+    {
+        if (number)
+            references[index] = *number;
+        return number.has_value();
+    }
+
+    std::optional<std::uint32_t> addElements(
+        ObjectType type, const PropertyList::Array& elements, std::size_t depth)
+    {
+        if (!_budget.takeValues(elements.size()))
+            return std::nullopt;
+        auto next = references.size();
+        const auto number = addContainer(type, elements.size());
+        for (const auto& element : elements) {
+            if (!setReference(next++, add(element, depth + 1)))
+                return std::nullopt;
+        }
+        return number;
+    }
+
+    std::optional<std::uint32_t> addEntries(const PropertyList::Dictionary& dictionary, std::size_t depth)
+    {
+        if (!_budget.takeEntries(dictionary.size()))
+            return std::nullopt;
+        auto next = references.size();
+        const auto number = addContainer(ObjectType::Dictionary, 2 * dictionary.size());
+        for (const auto& [key, value] : dictionary) {
+            if (!setReference(next++, addScalar({ .type = ObjectType::Text, .bytes = key })))
+                return std::nullopt;
+        }
+        for (const auto& [key, value] : dictionary) {
+            if (!setReference(next++, add(value, depth + 1)))
+                return std::nullopt;
+        }
+        return number;
+    }
+
+    UniqueObjects _unique;
+    PropertyListBudget _budget;
+};
+
+/// Writes into memory that is large enough.
+class Output {
+public:
+    explicit Output(std::byte* start)
+        : _start(start)
+        , _next(start)
+    {
+    }
+
+    std::size_t length() const { return static_cast<std::size_t>(_next - _start); }
+
+    void append(std::uint64_t number, std::size_t size)
+    {
+        for (auto place = _next + size; place != _next; number >>= 8)
+            *--place = static_cast<std::byte>(number);
+        _next += size;
+    }
+
+    void append(std::string_view bytes)
+    {
+        if (!bytes.empty())
+            std::memcpy(_next, bytes.data(), bytes.size());
+        _next += bytes.size();
+    }
+
+    void appendMarker(Kind kind, std::uint64_t low) { append(std::uint64_t { kind } << 4 | low, 1); }
+
+    void appendHead(Kind kind, std::uint64_t count)
+    {
+        if (count < countFollows) {
+            appendMarker(kind, count);
+            return;
+        }
+        appendMarker(kind, countFollows);
+        appendInteger(count, numberSize(count));
+    }
+
+    void appendInteger(std::uint64_t number, std::size_t size)
+    {
+        std::uint64_t logarithm = 0;
+        while (std::size_t { 1 } << logarithm < size)
+            ++logarithm;
+        appendMarker(IntegerKind, logarithm);
+        append(number, size);
+    }
+
+private:
+    std::byte* _start;
+    std::byte* _next;
+};
+
+void appendText(Output& output, const Object& text)
+{
+    output.appendHead(text.isAscii ? AsciiKind : Utf16Kind, text.units);
+    if (text.isAscii)
+        output.append(text.bytes);
+    else
+        text::forEachUnit(text.bytes, [&](char16_t unit) { output.append(unit, 2); });
+}
+
+void appendInteger(Output& output, const Object& integer)
+{
+    const auto size = integerSize(integer);
+    if (size <= 8) {
+        output.appendInteger(integer.number, size);
+        return;
+    }
+    output.appendMarker(IntegerKind, 4);
+    output.append(integer.more, 8);
+    output.append(integer.number, 8);
+}
+
+void appendObject(Output& output, const Object& object, const ObjectGraph& graph, std::size_t referenceSize)
+{
+    switch (object.type) {
+    case ObjectType::Null:
+        output.append(NullMarker, 1);
+        return;
+    case ObjectType::Boolean:
+        output.append(object.number != 0 ? TrueMarker : FalseMarker, 1);
+        return;
+    case ObjectType::Integer:
+        appendInteger(output, object);
+        return;
+    case ObjectType::Single:
+        output.append(SingleMarker, 1);
+        output.append(object.number, 4);
+        return;
+    case ObjectType::Double:
+    case ObjectType::Date:
+        output.append(object.type == ObjectType::Date ? DateMarker : DoubleMarker, 1);
+        output.append(object.number, 8);
+        return;
+    case ObjectType::Uid: {
+        const auto size = numberSize(object.number);
+        output.appendMarker(UidKind, size - 1);
+        output.append(object.number, size);
+        return;
+    }
+    case ObjectType::Data:
+        output.appendHead(DataKind, object.bytes.size());
+        output.append(object.bytes);
+        return;
+    case ObjectType::Text:
+        appendText(output, object);
+        return;
+    case ObjectType::Array:
+        output.appendHead(ArrayKind, countOf(object));
+        break;
+    case ObjectType::Set:
+        output.appendHead(SetKind, countOf(object));
+        break;
+    case ObjectType::Dictionary:
+        output.appendHead(DictionaryKind, countOf(object));
+        break;
+    }
+    for (std::size_t i = 0; i < object.more; ++i)
+        output.append(graph.references[object.number + i], referenceSize);
+}
+
+} // namespace
+
+std::optional<PropertyList::Data> writeBinaryPropertyList(const PropertyList& value)
+{
+    ObjectGraph graph;
+    const auto root = graph.add(value);
+    if (!root)
+        return std::nullopt;
+
+    const auto count = graph.objects.size();
+    const auto referenceSize = numberSize(count);
+    std::size_t offsetTable = magic.size();
+    for (const auto& object : graph.objects)
+        offsetTable += sizeOf(object, referenceSize);
+    const auto offsetSize = numberSize(offsetTable);
+
+    PropertyList::Data file(offsetTable + count * offsetSize + trailerSize);
+    Output output(file.data());
+    Output offsets(file.data() + offsetTable);
+    output.append(magic);
+    for (const auto& object : graph.objects) {
+        offsets.append(output.length(), offsetSize);
+        appendObject(output, object, graph, referenceSize);
+    }
+    Output trailer(file.data() + file.size() - trailerSize + offsetSizeInTrailer);
+    trailer.append(offsetSize, 1);
+    trailer.append(referenceSize, 1);
+    trailer.append(count, 8);
+    trailer.append(*root, 8);
+    trailer.append(offsetTable, 8);
+    return file;
+}
+
+} // namespace brimsound::desktop
