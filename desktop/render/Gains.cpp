@@ -1,7 +1,7 @@
 #include "desktop/render/Gains.h"
 
-#include "settings/store/preferences.h"
 #include "settings/TenGains.h"
+#include "settings/store/preferences.h"
 #include "settings/store/presets.h"
 
 #include <algorithm>
