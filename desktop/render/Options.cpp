@@ -53,7 +53,7 @@ audio::BandGains readGains(std::string_view text)
     constexpr auto separators = " \t\n,";
     audio::BandGains gains {};
     std::size_t count = 0;
-    for (auto start = text.find_first_not_of(separators); start != text.npos;
+    for (auto start = text.find_first_not_of(separators); start != std::string_view::npos;
          start = text.find_first_not_of(separators, start)) {
         const auto end = std::min(text.find_first_of(separators, start), text.size());
         const double gain = readGain(text.substr(start, end - start));

@@ -37,6 +37,14 @@ struct Mark {
 constexpr std::array<Mark, 10> marks { { { 20, "20 Hz" }, { 50, "50" }, { 100, "100" }, { 200, "200" },
     { 500, "500" }, { 1000, "1k" }, { 2000, "2k" }, { 5000, "5k" }, { 10000, "10k" }, { 20000, "20 kHz" } } };
 
+// Of each curve.
+constexpr int points = 1500;
+
+double frequencyOf(int point)
+{
+    return lowest * std::pow(highest / lowest, static_cast<double>(point) / points);
+}
+
 QFont font(double pixels, QFont::Weight weight = QFont::Normal)
 {
     QFont font("Inter");
@@ -62,7 +70,8 @@ public:
         , _ours(audio::EqualizerDesign(rate).solve(sliders, 0))
         , _plain(plainFilters(sliders))
     {
-        for (double frequency = lowest; frequency <= highest; frequency *= 1.01) {
+        for (int point = 0; point <= points; ++point) {
+            const double frequency = frequencyOf(point);
             for (const auto& targets : { _ours, _plain }) {
                 const double gain = audio::responseAt(targets, frequency);
                 _bottom = std::min(_bottom, gain);
@@ -107,7 +116,9 @@ private:
 
     void drawGrid()
     {
-        for (double gain = _bottom; gain <= _top; gain += decibelsPerLine) {
+        const int lines = static_cast<int>((_top - _bottom) / decibelsPerLine);
+        for (int line = 0; line <= lines; ++line) {
+            const double gain = _bottom + line * decibelsPerLine;
             _painter.setPen(QPen(gain == 0 ? zeroLine : grid, gain == 0 ? 1.5 : 1));
             _painter.drawLine(at(lowest, gain), at(highest, gain));
             const auto sign = gain > 0 ? "+" : gain < 0 ? "\u2212" : "";
@@ -125,8 +136,8 @@ private:
     void drawCurve(const audio::FilterTargets& targets, const QColor& color, double width)
     {
         QPainterPath path(at(lowest, audio::responseAt(targets, lowest)));
-        for (double x = 0; x <= plot.width(); x += 0.5) {
-            const double frequency = lowest * std::pow(highest / lowest, x / plot.width());
+        for (int point = 0; point <= points; ++point) {
+            const double frequency = frequencyOf(point);
             path.lineTo(at(frequency, audio::responseAt(targets, frequency)));
         }
         _painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -152,9 +163,9 @@ private:
     {
         // Beside the curves, where they are farthest apart.
         double widest = lowest;
-        for (double frequency = 100; frequency < highest; frequency *= 1.01) {
-            if (distance(frequency) > distance(widest))
-                widest = frequency;
+        for (int point = 0; point <= points; ++point) {
+            if (distance(frequencyOf(point)) > distance(widest))
+                widest = frequencyOf(point);
         }
         text(at(widest, audio::responseAt(_plain, widest)) - QPointF(14, 4), Qt::AlignRight,
             "The same gains as plain filters, Q 1.41", plain.darker(115), font(13, QFont::Medium));

@@ -1,6 +1,5 @@
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "platform/desktop/process/ChildProcess.h"
-#include "settings/store/preferences.h"
 #include "settings/tweak.h"
 #include "tests/render/Sounds.h"
 #include "tests/support/TemporaryFolder.h"
@@ -75,6 +74,13 @@ protected:
             outcome.errors, AllOf(StartsWith("brimsound-render: "), HasSubstr(reason), EndsWith("\n")));
         EXPECT_EQ(std::ranges::count(outcome.errors, '\n'), 1) << outcome.errors;
         EXPECT_THAT(files(), Not(testing::Contains(StartsWith("out"))));
+    }
+
+    static void storePreferences(PropertyList::Dictionary preferences)
+    {
+        const auto data
+            = dataWithPropertyList(std::move(preferences), NSPropertyListFormat::BinaryFormat_v1_0, 0);
+        ASSERT_TRUE(data && writeToFile(*data, preferencesPath, Atomically::No));
     }
 
     std::vector<std::string> files() const
@@ -196,7 +202,7 @@ TEST_F(Rendering, FindsThePresetsThatWereSaved)
 {
     writeSine("in.wav", 1000, 0.1f);
     const PropertyList::Array saved { -40, 0, 0, 0, 3.5, 0, 0, 0, 0, 40 };
-    write_preferences({ { presetsKey, PropertyList::Dictionary { { "Mine", saved } } } });
+    storePreferences({ { presetsKey, PropertyList::Dictionary { { "Mine", saved } } } });
     // Gains beyond the sliders' ends count as the ends.
     expectDone(run("in.wav out.wav --preset Mine"));
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), 3.5 - 12, 0.02);
@@ -204,14 +210,14 @@ TEST_F(Rendering, FindsThePresetsThatWereSaved)
     // Where presets were saved they are all there are.
     expectRefused(run("in.wav out.wav --preset Rock"), 1, "there is no preset \"Rock\"");
 
-    write_preferences({ { presetsKey, PropertyList::Dictionary {} } });
+    storePreferences({ { presetsKey, PropertyList::Dictionary {} } });
     expectDone(run("in.wav out.wav --preset Rock"));
 }
 
 TEST_F(Rendering, RefusesAPresetThatIsNotTenGains)
 {
     writeSine("in.wav", 1000, 0.1f);
-    write_preferences(
+    storePreferences(
         { { presetsKey, PropertyList::Dictionary { { "Short", PropertyList::Array { 1, 2 } } } } });
     expectRefused(run("in.wav out.wav --preset Short"), 1, "preset \"Short\" is not ten gains");
 }

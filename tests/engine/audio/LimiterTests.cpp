@@ -71,7 +71,7 @@ TEST(ALimiter, HoldsASineBelowFullScaleFromItsFirstSampleOn)
 TEST(ALimiter, LetsGoWithATimeConstantOfAFifthOfASecond)
 {
     // Down by 20 dB at once; then a quiet sound, which shows the gain.
-    Samples samples(48000 * 4, 0.01f);
+    Samples samples(192000, 0.01f);
     samples[0] = 9.8855309f;
     Limiter limiter(rate);
     limit(limiter, samples);
@@ -114,7 +114,7 @@ TEST(ALimiter, PutsSilenceInThePlaceOfWhatIsNoNumber)
 TEST(ALimiter, RecoversFromTheLargestNumber)
 {
     Limiter limiter(rate);
-    Samples samples(48000 * 4, 0.5f);
+    Samples samples(192000, 0.5f);
     samples[0] = std::numeric_limits<float>::max();
     samples[1] = -std::numeric_limits<float>::max();
     EXPECT_TRUE(limit(limiter, samples));

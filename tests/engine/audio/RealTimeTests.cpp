@@ -44,7 +44,8 @@ TEST(Processing, TakesNeitherMemoryNorLocksWhileTargetsArrive)
     std::atomic<bool> done = false;
     std::thread writer([&] {
         const EqualizerDesign design(48000);
-        for (double gain = -12; !done; gain = gain < 12 ? gain + 0.5 : -12) {
+        for (int count = 0; !done; ++count) {
+            const double gain = count % 25 - 12;
             BandGains sliders;
             sliders.fill(gain);
             handover.write(design.solve(sliders, -gain));

@@ -69,10 +69,10 @@ TEST(AHandover, LeavesWhatIsBeingReadAlone)
 
 TEST(AHandover, BetweenThreadsIsWholeInOrderAndEndsWithTheLast)
 {
-    constexpr double last = 100000;
+    constexpr int last = 100000;
     TripleBuffer<FilterTargets> buffer;
     std::thread writer([&] {
-        for (double number = 1; number <= last; ++number)
+        for (int number = 1; number <= last; ++number)
             buffer.write(numbered(number));
     });
     double newest = 0;
