@@ -71,7 +71,7 @@ public:
     ~Turn() { --_sink._turns; }
 
     // Counted before: either the end is seen here, or the turn is seen by the end.
-    bool mayPlay() const { return !_sink._closed; }
+    bool mayPlay() const { return _sink._mayPlay; }
 
 private:
     EqualizedSink& _sink;
@@ -107,11 +107,7 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
 
 EqualizedSink::~EqualizedSink()
 {
-    // PipeWire waits for the playing thread to leave a stream that ends, but each stream's turn uses the
-    // other one as well.
-    _closed = true;
-    while (_turns != 0)
-        std::this_thread::yield();
+    stopPlaying();
     // From here on the playing thread calls neither, and their listeners may go.
     for (const auto* side : { &_input, &_output }) {
         if (side->stream)
@@ -145,6 +141,15 @@ void EqualizedSink::connect(
         throw std::runtime_error("PipeWire does not connect a stream");
 }
 
+void EqualizedSink::stopPlaying()
+{
+    // PipeWire waits for the playing thread to leave a stream that changes, but a turn of one stream uses the
+    // other one as well.
+    _mayPlay = false;
+    while (_turns != 0)
+        std::this_thread::yield();
+}
+
 void EqualizedSink::set(const Settings& settings)
 {
     _settings = settings;
@@ -161,11 +166,9 @@ void EqualizedSink::inputProcess(void* side)
 {
     const auto& input = *static_cast<Side*>(side);
     const Turn turn(*input.owner);
-    if (!turn.mayPlay())
+    if (turn.mayPlay() && pw_stream_trigger_process(input.other->stream.get()) >= 0)
         return;
-    if (pw_stream_trigger_process(input.other->stream.get()) >= 0)
-        return;
-    // There is no device. The buffers go back, so that programs play on.
+    // There is no device, or it is not ready. The buffers go back, so that programs play on.
     if (auto* buffer = newestBuffer(input.stream.get()))
         pw_stream_queue_buffer(input.stream.get(), buffer);
 }
@@ -216,8 +219,11 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
 {
     auto& changed = *static_cast<Side*>(side);
     auto& self = *changed.owner;
-    if (!parameter)
+    if (!parameter) {
+        if (id == SPA_PARAM_Format && &changed == &self._output)
+            self.stopPlaying();
         return;
+    }
     if (id == SPA_PARAM_Format) {
         spa_audio_info_raw format {};
         if (spa_format_audio_raw_parse(parameter, &format) < 0 || format.rate == 0
@@ -234,8 +240,18 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
 
 void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state now, const char*)
 {
-    if (now == PW_STREAM_STATE_STREAMING)
-        static_cast<Side*>(side)->hasPlayed = true;
+    auto& changed = *static_cast<Side*>(side);
+    auto& self = *changed.owner;
+    const bool plays = now == PW_STREAM_STATE_STREAMING;
+    if (plays)
+        changed.hasPlayed = true;
+    if (&changed != &self._output)
+        return;
+    // To trigger an output that is still being made ready ends in a converter that PipeWire has not finished.
+    if (plays)
+        self._mayPlay = true;
+    else
+        self.stopPlaying();
 }
 
 void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)

@@ -57,6 +57,7 @@ private:
     void open(Side&, pw_core*, const char* name, pw_properties*);
     void connect(Side&, pw_direction, unsigned flags, const pw_stream_events&);
     void design();
+    void stopPlaying();
 
     static void inputProcess(void* side);
     static void outputProcess(void* side);
@@ -69,7 +70,7 @@ private:
     Changes _changes;
     unsigned _rate = 0;
     SoundChain _chain;
-    std::atomic<bool> _closed = false;
+    std::atomic<bool> _mayPlay = false;
     std::atomic<int> _turns = 0;
     Side _output;
     Side _input;
