@@ -8,10 +8,13 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace brimsound::engine {
 
@@ -20,6 +23,9 @@ namespace {
 /// The sink's part of a cycle ends before the output's does. Without this flag later versions hand out every
 /// second buffer only; earlier ones have no need of it and do not know it.
 constexpr unsigned asyncFlag = 1U << 10;
+
+/// The session manager has restored volumes by then, and no user has got hold of one yet.
+constexpr auto restoreTime = std::chrono::seconds(3);
 
 constexpr unsigned commonFlags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
 
@@ -43,6 +49,20 @@ pw_properties* outputProperties()
     auto* properties = commonProperties(outputName, "Brimsound output", "Stream/Output/Audio");
     pw_properties_set(properties, PW_KEY_NODE_PASSIVE, "true");
     return properties;
+}
+
+/// What a volume or a mute is when nobody has touched it; nothing for other controls.
+std::optional<float> usualValue(std::uint32_t control)
+{
+    switch (control) {
+    case SPA_PROP_volume:
+    case SPA_PROP_channelVolumes:
+        return 1.0F;
+    case SPA_PROP_mute:
+        return 0.0F;
+    default:
+        return std::nullopt;
+    }
 }
 
 /// The newest buffer that has come in; older ones go back.
@@ -256,22 +276,25 @@ void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state no
 
 void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)
 {
-    // Some session managers give a node the volume of an earlier run before it plays for the first time. What
-    // a mixer does to it later is the user's wish.
-    auto& restored = *static_cast<Side*>(side);
-    if (restored.hasPlayed)
+    // Some session managers give a new node the volume of an earlier run. What a mixer does to it later is
+    // the user's wish.
+    auto& changed = *static_cast<Side*>(side);
+    if (changed.hasPlayed && std::chrono::steady_clock::now() > changed.owner->_made + restoreTime)
         return;
-    const bool isVolume = id == SPA_PROP_volume || id == SPA_PROP_channelVolumes;
-    if (!isVolume && id != SPA_PROP_mute)
-        return;
-    const float wanted = isVolume ? 1 : 0;
-    std::array<float, audio::maximumChannels> values {};
-    values.fill(wanted);
-    const auto count = std::min<std::uint32_t>(control->n_values, audio::maximumChannels);
-    const bool differs
-        = std::any_of(control->values, control->values + count, [=](float value) { return value != wanted; });
-    if (differs)
-        pw_stream_set_control(restored.stream.get(), id, count, values.data(), 0);
+    const float* begin = control->values;
+    const auto usual = usualValue(id);
+    if (usual && std::any_of(begin, begin + control->n_values, [&](float value) { return value != *usual; }))
+        changed.restored[id] = control->n_values;
+}
+
+void EqualizedSink::resetControls()
+{
+    for (auto* side : { &_input, &_output }) {
+        for (const auto& [id, count] : std::exchange(side->restored, {})) {
+            std::vector<float> values(count, *usualValue(id));
+            pw_stream_set_control(side->stream.get(), id, count, values.data(), 0);
+        }
+    }
 }
 
 } // namespace brimsound::engine
