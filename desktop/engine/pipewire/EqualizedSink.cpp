@@ -8,10 +8,13 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace brimsound::engine {
 
@@ -20,6 +23,9 @@ namespace {
 /// The sink's part of a cycle ends before the output's does. Without this flag later versions hand out every
 /// second buffer only; earlier ones have no need of it and do not know it.
 constexpr unsigned asyncFlag = 1U << 10;
+
+/// The session manager has restored volumes by then, and no user has got hold of one yet.
+constexpr auto restoreTime = std::chrono::seconds(3);
 
 constexpr unsigned commonFlags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
 
@@ -43,6 +49,20 @@ pw_properties* outputProperties()
     auto* properties = commonProperties(outputName, "Brimsound output", "Stream/Output/Audio");
     pw_properties_set(properties, PW_KEY_NODE_PASSIVE, "true");
     return properties;
+}
+
+/// What a volume or a mute is when nobody has touched it; nothing for other controls.
+std::optional<float> usualValue(std::uint32_t control)
+{
+    switch (control) {
+    case SPA_PROP_volume:
+    case SPA_PROP_channelVolumes:
+        return 1.0F;
+    case SPA_PROP_mute:
+        return 0.0F;
+    default:
+        return std::nullopt;
+    }
 }
 
 /// The newest buffer that has come in; older ones go back.
@@ -71,7 +91,7 @@ public:
     ~Turn() { --_sink._turns; }
 
     // Counted before: either the end is seen here, or the turn is seen by the end.
-    bool mayPlay() const { return !_sink._closed; }
+    bool mayPlay() const { return _sink._mayPlay; }
 
 private:
     EqualizedSink& _sink;
@@ -107,11 +127,7 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
 
 EqualizedSink::~EqualizedSink()
 {
-    // PipeWire waits for the playing thread to leave a stream that ends, but each stream's turn uses the
-    // other one as well.
-    _closed = true;
-    while (_turns != 0)
-        std::this_thread::yield();
+    stopPlaying();
     // From here on the playing thread calls neither, and their listeners may go.
     for (const auto* side : { &_input, &_output }) {
         if (side->stream)
@@ -145,6 +161,15 @@ void EqualizedSink::connect(
         throw std::runtime_error("PipeWire does not connect a stream");
 }
 
+void EqualizedSink::stopPlaying()
+{
+    // PipeWire waits for the playing thread to leave a stream that changes, but a turn of one stream uses the
+    // other one as well.
+    _mayPlay = false;
+    while (_turns != 0)
+        std::this_thread::yield();
+}
+
 void EqualizedSink::set(const Settings& settings)
 {
     _settings = settings;
@@ -161,11 +186,9 @@ void EqualizedSink::inputProcess(void* side)
 {
     const auto& input = *static_cast<Side*>(side);
     const Turn turn(*input.owner);
-    if (!turn.mayPlay())
+    if (turn.mayPlay() && pw_stream_trigger_process(input.other->stream.get()) >= 0)
         return;
-    if (pw_stream_trigger_process(input.other->stream.get()) >= 0)
-        return;
-    // There is no device. The buffers go back, so that programs play on.
+    // There is no device, or it is not ready. The buffers go back, so that programs play on.
     if (auto* buffer = newestBuffer(input.stream.get()))
         pw_stream_queue_buffer(input.stream.get(), buffer);
 }
@@ -216,8 +239,11 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
 {
     auto& changed = *static_cast<Side*>(side);
     auto& self = *changed.owner;
-    if (!parameter)
+    if (!parameter) {
+        if (id == SPA_PARAM_Format && &changed == &self._output)
+            self.stopPlaying();
         return;
+    }
     if (id == SPA_PARAM_Format) {
         spa_audio_info_raw format {};
         if (spa_format_audio_raw_parse(parameter, &format) < 0 || format.rate == 0
@@ -234,28 +260,41 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
 
 void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state now, const char*)
 {
-    if (now == PW_STREAM_STATE_STREAMING)
-        static_cast<Side*>(side)->hasPlayed = true;
+    auto& changed = *static_cast<Side*>(side);
+    auto& self = *changed.owner;
+    const bool plays = now == PW_STREAM_STATE_STREAMING;
+    if (plays)
+        changed.hasPlayed = true;
+    if (&changed != &self._output)
+        return;
+    // To trigger an output that is still being made ready ends in a converter that PipeWire has not finished.
+    if (plays)
+        self._mayPlay = true;
+    else
+        self.stopPlaying();
 }
 
 void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)
 {
-    // Some session managers give a node the volume of an earlier run before it plays for the first time. What
-    // a mixer does to it later is the user's wish.
-    auto& restored = *static_cast<Side*>(side);
-    if (restored.hasPlayed)
+    // Some session managers give a new node the volume of an earlier run. What a mixer does to it later is
+    // the user's wish.
+    auto& changed = *static_cast<Side*>(side);
+    if (changed.hasPlayed && std::chrono::steady_clock::now() > changed.owner->_made + restoreTime)
         return;
-    const bool isVolume = id == SPA_PROP_volume || id == SPA_PROP_channelVolumes;
-    if (!isVolume && id != SPA_PROP_mute)
-        return;
-    const float wanted = isVolume ? 1 : 0;
-    std::array<float, audio::maximumChannels> values {};
-    values.fill(wanted);
-    const auto count = std::min<std::uint32_t>(control->n_values, audio::maximumChannels);
-    const bool differs
-        = std::any_of(control->values, control->values + count, [=](float value) { return value != wanted; });
-    if (differs)
-        pw_stream_set_control(restored.stream.get(), id, count, values.data(), 0);
+    const float* begin = control->values;
+    const auto usual = usualValue(id);
+    if (usual && std::any_of(begin, begin + control->n_values, [&](float value) { return value != *usual; }))
+        changed.restored[id] = control->n_values;
+}
+
+void EqualizedSink::resetControls()
+{
+    for (auto* side : { &_input, &_output }) {
+        for (const auto& [id, count] : std::exchange(side->restored, {})) {
+            std::vector<float> values(count, *usualValue(id));
+            pw_stream_set_control(side->stream.get(), id, count, values.data(), 0);
+        }
+    }
 }
 
 } // namespace brimsound::engine

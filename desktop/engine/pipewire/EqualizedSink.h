@@ -7,8 +7,10 @@
 #include "desktop/engine/pipewire/SoundChain.h"
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 
 namespace brimsound::engine {
@@ -39,6 +41,8 @@ public:
     std::uint64_t limitedBlocks() const { return _chain.limitedBlocks(); }
 
     void set(const Settings&);
+    /// Undoes what the session manager restored. Not from within PipeWire's own calls.
+    void resetControls();
     /// From now on there is silence.
     void mute() { _chain.mute(); }
 
@@ -49,6 +53,8 @@ private:
         Hook listener;
         Side* other = nullptr;
         bool hasPlayed = false;
+        /// Volumes and mutes that were restored, and how many values each has.
+        std::map<std::uint32_t, std::uint32_t> restored;
     };
 
     /// While one lives on the playing thread, and says that it may, the streams are there.
@@ -57,6 +63,7 @@ private:
     void open(Side&, pw_core*, const char* name, pw_properties*);
     void connect(Side&, pw_direction, unsigned flags, const pw_stream_events&);
     void design();
+    void stopPlaying();
 
     static void inputProcess(void* side);
     static void outputProcess(void* side);
@@ -68,8 +75,9 @@ private:
     Settings _settings;
     Changes _changes;
     unsigned _rate = 0;
+    const std::chrono::steady_clock::time_point _made = std::chrono::steady_clock::now();
     SoundChain _chain;
-    std::atomic<bool> _closed = false;
+    std::atomic<bool> _mayPlay = false;
     std::atomic<int> _turns = 0;
     Side _output;
     Side _input;

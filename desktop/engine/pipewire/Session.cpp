@@ -152,6 +152,10 @@ void Session::update()
 {
     if (_lost)
         return;
+    for (auto* sink : { _sink.get(), _nextSink.get() }) {
+        if (sink)
+            sink->resetControls();
+    }
     // A sink takes the other one's place only when programs can be moved to it: none plays past it.
     if (_nextSink && !_graph.serialOf(_nextSink->sinkNode()).empty()
         && _graph.deviceOf(_nextSink->outputNode())) {
