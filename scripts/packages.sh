@@ -9,7 +9,7 @@ run_packages=(
 )
 # What the tests take besides.
 test_packages=(
-    clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
+    ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
     locales python3 xvfb xdotool
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
