@@ -17,5 +17,7 @@
 #import <Foundation/NSNumber.h>
 #import <Foundation/NSObject.h>
 #import <Foundation/NSPropertyList.h>
+#import <Foundation/NSRange.h>
+#import <Foundation/NSSet.h>
 #import <Foundation/NSString.h>
 #import <Foundation/NSURL.h>

@@ -3,6 +3,12 @@
 
 #import <Foundation/NSObject.h>
 
+typedef enum NSComparisonResult : NSInteger {
+    NSOrderedAscending = -1,
+    NSOrderedSame = 0,
+    NSOrderedDescending = 1,
+} NSComparisonResult;
+
 @interface NSValue : NSObject <NSCopying>
 @property (readonly) const char* objCType;
 @property (readonly) void* pointerValue;
@@ -31,5 +37,6 @@
 + (NSNumber*)numberWithUnsignedInteger:(NSUInteger)value;
 + (NSNumber*)numberWithFloat:(float)value;
 + (NSNumber*)numberWithDouble:(double)value;
+- (NSComparisonResult)compare:(NSNumber*)other;
 - (BOOL)isEqualToNumber:(NSNumber*)other;
 @end

@@ -4,6 +4,7 @@
 #import <Foundation/NSArray.h>
 #import <Foundation/NSData.h>
 #import <Foundation/NSObject.h>
+#import <Foundation/NSRange.h>
 #include <stdarg.h>
 
 @class NSLocale;
@@ -34,6 +35,7 @@ enum : NSStringEncoding {
 - (instancetype)initWithBytes:(const void*)bytes
                        length:(NSUInteger)length
                      encoding:(NSStringEncoding)encoding;
+- (instancetype)initWithCharacters:(const unichar*)units length:(NSUInteger)length;
 - (instancetype)initWithData:(NSData*)data encoding:(NSStringEncoding)encoding;
 - (instancetype)initWithFormat:(NSString*)format
                         locale:(id)locale, ... __attribute__((format(__NSString__, 1, 3)));
@@ -41,6 +43,7 @@ enum : NSStringEncoding {
                         locale:(id)locale
                      arguments:(va_list)arguments __attribute__((format(__NSString__, 1, 0)));
 - (unichar)characterAtIndex:(NSUInteger)index;
+- (void)getCharacters:(unichar*)units range:(NSRange)range;
 - (BOOL)isEqualToString:(NSString*)other;
 - (BOOL)hasPrefix:(NSString*)prefix;
 - (BOOL)hasSuffix:(NSString*)suffix;
