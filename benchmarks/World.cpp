@@ -27,7 +27,8 @@ void check(int result, const char* what)
 } // namespace
 
 World::World()
-    : server(std::filesystem::read_symlink("/proc/self/exe").parent_path(), root.path())
+    : server(std::filesystem::read_symlink("/proc/self/exe").parent_path(), root.path(),
+        desktop::MediaServer::Sound::LeftAlone)
 {
 }
 

@@ -49,7 +49,7 @@ std::remove_pointer_t<std::remove_reference_t<Parameter>>* argumentAs(
         return value ? (*value)->asString() : nullptr;
     } else {
         auto* const* object = std::get_if<NSObject*>(&argument);
-        return object ? static_cast<std::remove_pointer_t<std::remove_reference_t<Parameter>>*>(*object)
+        return object ? dynamic_cast<std::remove_pointer_t<std::remove_reference_t<Parameter>>*>(*object)
                       : nullptr;
     }
 }

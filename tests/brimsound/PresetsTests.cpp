@@ -156,7 +156,7 @@ TEST_F(AScriptOfPresets, SavesUnderANameThatIsConfirmedWithAPointer)
 
     // The same with a finger, which needs to be told where the key is: at the field's right end.
     const auto pointed = playScript(
-        root, "press \"Presets\"\nsaverow\nwait 1\ntype \"Yours\"\nfinger down 240 110\nfinger up\nstate\n");
+        root, "press \"Presets\"\nsaverow\nwait 1\ntype \"Yours\"\nfinger down 237 66\nfinger up\nstate\n");
     EXPECT_EQ(pointed.status, 0) << pointed.errors;
     EXPECT_EQ(lastState(pointed).at("selected"), "Yours");
 }

@@ -207,10 +207,13 @@ TEST_F(AMediaServer, KeepsTheGainsWhileTheFileIsDamagedOrUnreadable)
     postSettingsFinished();
     store(Array { 1 });
     postSettingsFinished();
+    // The answer comes after the notifications were acted on. A file that is missing is no damaged one.
+    send(someGains);
     const auto file = root.path() / "var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
     std::filesystem::remove(file);
     std::filesystem::create_directory(file);
     postSettingsFinished();
+    send(someGains);
     std::filesystem::remove(file);
     store(Dictionary { { preampKey, 1.5 } });
     postSettingsFinished();

@@ -109,7 +109,7 @@ std::size_t sizeOf(const Object& object, std::size_t referenceSize)
     case ObjectType::Data:
         return headSize(object.bytes.size()) + object.bytes.size();
     case ObjectType::Text:
-        return headSize(object.units) + object.units * (object.isAscii ? 1u : 2u);
+        return headSize(object.units) + object.units * std::size_t { object.isAscii ? 1u : 2u };
     case ObjectType::Array:
     case ObjectType::Set:
     case ObjectType::Dictionary:

@@ -16,7 +16,9 @@ namespace {
 /// Has the subviews follow a change of their superview's size.
 void resizeSubviews(const std::vector<RetainPtr<UIView>>& subviews, CGSize before, CGSize after)
 {
-    for (const auto& subview : subviews) {
+    // A subview that is resized may change the list.
+    for (std::size_t i = 0; i < subviews.size(); ++i) {
+        const auto subview = subviews[i];
         const auto mask = subview->autoresizingMask();
         if (mask == UIViewAutoresizingNone)
             continue;
@@ -64,7 +66,7 @@ void UIView::setFrame(const CGRect& frame)
     const auto before = std::exchange(peer.frame, frame).size;
     if (before != frame.size) {
         peer.needsLayout = true;
-        resizeSubviews(subviews(), before, frame.size);
+        resizeSubviews(peer.subviews, before, frame.size);
     }
     desktop::setNeedsDisplay(*this);
 }

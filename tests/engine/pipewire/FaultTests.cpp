@@ -1,4 +1,5 @@
 // What goes wrong around the engine, and what is heard then.
+#include "platform/desktop/bus/PrivateBus.h"
 #include "settings/tweak.h"
 #include "tests/engine/pipewire/Desktop.h"
 
@@ -234,8 +235,9 @@ TEST_F(AFaultyDesktop, HasOneOfTwoEnginesAtATime)
     const auto begin = hw1->position();
     const auto errors = system.folder() / "errors";
     // Of another session, with a bus of its own, but the same PipeWire.
-    const Player second({ "dbus-run-session", "--", "sh", "-c", "exec \"$1\" --root \"$2\" 2>\"$3\"", "sh",
-        MEDIASERVERD, root.path(), errors });
+    const desktop::PrivateBus anotherBus;
+    const Player second(
+        { "sh", "-c", "exec \"$1\" --root \"$2\" 2>\"$3\"", "sh", MEDIASERVERD, root.path(), errors });
     ASSERT_TRUE(
         eventually([&] { return contentsOf(errors).find("another equalizer") != std::string::npos; }));
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));

@@ -34,7 +34,7 @@ TEST(AConvertedReal, KeepsItsPrecision)
 
 TEST(AConvertedText, KeepsNulsAndHalvesOfSurrogatePairs)
 {
-    for (const auto& text : { std::string("a\0b", 3), std::string("\xED\xA0\xBD"),
+    for (const auto& text : { std::string("a\0b", 3), std::string("\xED\xA0\xBD!"),
              std::string("x\xED\xBE\xA7"), std::string("\U0001F3A7 B\u00e4sse") }) {
         EXPECT_TRUE(thereAndBack(text) == PropertyList(text)) << text;
         EXPECT_TRUE(thereAndBack(PropertyList::Dictionary { { text, 1 } })

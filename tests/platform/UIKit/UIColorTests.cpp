@@ -82,22 +82,18 @@ TEST(AColor, IsTheSameWhenItIsPutTogetherAgain)
 
 TEST(AColor, ThatIsNoNumberCannotBeSplit)
 {
-    for (const double odd :
-        { std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity() }) {
-        Components components { 7, 7, 7, 7 };
-        auto& [hue, saturation, brightness, alpha] = components;
-        EXPECT_FALSE(UIColor::colorWithRedGreenBlueAlpha(0, odd, 0, 1)
-                         ->getHueSaturationBrightnessAlpha(hue, saturation, brightness, alpha));
-        EXPECT_THAT(components, ElementsAre(7, 7, 7, 7)) << "nothing was handed out";
-    }
+    constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+    Components components { 7, 7, 7, 7 };
+    auto& [hue, saturation, brightness, alpha] = components;
+    EXPECT_FALSE(UIColor::colorWithRedGreenBlueAlpha(0, notANumber, 0, 1)
+                     ->getHueSaturationBrightnessAlpha(hue, saturation, brightness, alpha));
+    EXPECT_THAT(components, ElementsAre(7, 7, 7, 7)) << "nothing was handed out";
 }
 
 TEST(Yellow, IsRedAndGreen)
 {
     EXPECT_THAT(rgbOf(*UIColor::yellowColor()), ElementsAre(1, 1, 0, 1));
 }
-
-} // namespace
 
 TEST(AColor, HasNoComponentsBeyondItsRange)
 {
@@ -106,12 +102,13 @@ TEST(AColor, HasNoComponentsBeyondItsRange)
         color->getRedGreenBlueAlpha(all[0], all[1], all[2], all[3]);
         return all;
     };
-    using Components = std::array<CGFloat, 4>;
     EXPECT_EQ(components(UIColor::colorWithRedGreenBlueAlpha(-0.5, 1.5, 2, 3)), (Components { 0, 1, 1, 1 }));
     EXPECT_EQ(components(UIColor::colorWithRedGreenBlueAlpha(1, -9, 0, -1)), (Components { 1, 0, 0, 0 }));
     EXPECT_EQ(components(UIColor::colorWithWhiteAlpha(2, -1)), (Components { 1, 1, 1, 0 }));
     EXPECT_EQ(
         components(UIColor::colorWithHueSaturationBrightnessAlpha(-1, 2, 3, 4)), (Components { 1, 0, 0, 1 }));
 }
+
+} // namespace
 
 } // namespace brimsound::tests

@@ -1,12 +1,14 @@
 #include "tests/support/sound/Recorder.h"
 
 #include "desktop/engine/pipewire/ChannelLayout.h"
+#include "tests/support/sound/SoundSystem.h"
 #include "tests/support/sound/Wait.h"
 
 #include <spa/param/audio/format-utils.h>
 
 #include <algorithm>
 #include <array>
+#include <sstream>
 #include <stdexcept>
 
 namespace brimsound::tests {
@@ -16,11 +18,31 @@ namespace {
 constexpr unsigned rate = 48000;
 constexpr std::size_t longest = 60 * rate;
 
+std::string uniqueName()
+{
+    static int count = 0;
+    return "recorder-" + std::to_string(++count);
+}
+
 } // namespace
 
 Recorder::Recorder(const std::string& device, const std::vector<std::string>& channels, unsigned frames)
-    : _channels(channels.size())
+    : _name(uniqueName())
+    , _channels(channels.size())
     , _samples(longest * channels.size())
+{
+    // A session manager that has just learned of a device may give the recorder to another one.
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        open(device, channels, frames);
+        if (eventually([this] { return position() > 0; }) && isLinkedTo(device))
+            return;
+        close();
+        _filled = 0;
+    }
+    throw std::runtime_error("nothing comes from the device " + device);
+}
+
+void Recorder::open(const std::string& device, const std::vector<std::string>& channels, unsigned frames)
 {
     static constexpr auto events = [] {
         pw_stream_events wanted {};
@@ -35,7 +57,7 @@ Recorder::Recorder(const std::string& device, const std::vector<std::string>& ch
     _stream = pw_stream_new_simple(pw_thread_loop_get_loop(_loop), "recorder",
         pw_properties_new(PW_KEY_TARGET_OBJECT, device.c_str(), PW_KEY_STREAM_CAPTURE_SINK, "true",
             PW_KEY_NODE_DONT_RECONNECT, "true", PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture",
-            PW_KEY_NODE_LATENCY, latency.c_str(), PW_KEY_NODE_NAME, "recorder", "state.restore-props",
+            PW_KEY_NODE_LATENCY, latency.c_str(), PW_KEY_NODE_NAME, _name.c_str(), "state.restore-props",
             "false", nullptr),
         &events, this);
 
@@ -52,20 +74,33 @@ Recorder::Recorder(const std::string& device, const std::vector<std::string>& ch
         PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS);
     pw_stream_connect(_stream, PW_DIRECTION_INPUT, PW_ID_ANY, flags, parameters, 1);
     pw_thread_loop_start(_loop);
-    if (!eventually([this] { return position() > 0; })) {
-        pw_thread_loop_stop(_loop);
-        pw_stream_destroy(_stream);
-        pw_thread_loop_destroy(_loop);
-        throw std::runtime_error("nothing comes from the device " + device);
-    }
 }
 
-Recorder::~Recorder()
+void Recorder::close()
 {
     pw_thread_loop_stop(_loop);
     pw_stream_destroy(_stream);
     pw_thread_loop_destroy(_loop);
     pw_deinit();
+}
+
+Recorder::~Recorder()
+{
+    close();
+}
+
+bool Recorder::isLinkedTo(const std::string& device) const
+{
+    // Each port has a line, and below it are those that it is linked to.
+    std::istringstream lines(outputOf({ "pw-link", "-l" }));
+    bool isOfDevice = false;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with(' '))
+            isOfDevice = line.starts_with(device + ":monitor_");
+        else if (isOfDevice && line.find("|-> " + _name + ":") != std::string::npos)
+            return true;
+    }
+    return false;
 }
 
 void Recorder::process(void* self)

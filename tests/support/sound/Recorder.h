@@ -32,8 +32,12 @@ public:
     Samples next(std::size_t count, std::size_t channel = 0) const;
 
 private:
+    void open(const std::string& device, const std::vector<std::string>& channels, unsigned frames);
+    void close();
+    bool isLinkedTo(const std::string& device) const;
     static void process(void* self);
 
+    const std::string _name;
     std::size_t _channels;
     std::vector<float> _samples;
     std::atomic<std::size_t> _filled = 0;
