@@ -19,7 +19,7 @@ using namespace brimsound::audio;
 namespace {
 
 constexpr double rate = 48000;
-constexpr std::size_t frames = 60 * 48000;
+constexpr std::size_t frames = 2'880'000;
 
 using Samples = std::vector<float>;
 
@@ -110,9 +110,8 @@ int main()
 {
     const auto pink = pinkNoise();
     const auto loud = clipped(pink);
-    std::vector<Samples> sines;
-    for (const double center : centers)
-        sines.push_back(sine(center));
+    std::vector<Samples> sines(centers.size());
+    std::ranges::transform(centers, sines.begin(), sine);
 
     std::puts("| Preset | preamp, dB | response, dB | pink noise, % | peak, dB | clipped noise, % | peak, dB "
               "| sines, % | "

@@ -29,6 +29,7 @@ void countAllocation()
 
 } // namespace
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizer's and the C library's.
 extern "C" {
 
 #ifdef WITH_ADDRESS_SANITIZER
@@ -83,6 +84,7 @@ int pthread_mutex_lock(pthread_mutex_t* mutex)
     return next(mutex);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace brimsound::tests {
 

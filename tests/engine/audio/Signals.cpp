@@ -91,11 +91,11 @@ double magnitudeAt(const Samples& samples, double frequency, double rate)
     // Horner's scheme, from the last sample to the first.
     double real = 0;
     double imaginary = 0;
-    for (auto sample = samples.rbegin(); sample != samples.rend(); ++sample) {
-        const double next = real * turn.real() - imaginary * turn.imag() + static_cast<double>(*sample);
+    std::for_each(samples.rbegin(), samples.rend(), [&](float sample) {
+        const double next = real * turn.real() - imaginary * turn.imag() + static_cast<double>(sample);
         imaginary = real * turn.imag() + imaginary * turn.real();
         real = next;
-    }
+    });
     return std::hypot(real, imaginary);
 }
 
