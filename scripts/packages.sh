@@ -3,13 +3,13 @@
 # What it takes to build and run the pane.
 run_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-wayland libplist-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
+    qt6-base-dev qt6-wayland libsystemd-dev libgmime-3.0-dev libglib2.0-dev
     libpipewire-0.3-dev libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
 # What the tests take besides.
 test_packages=(
-    ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev
+    ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
     locales python3 xvfb xdotool
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
@@ -17,7 +17,7 @@ test_packages=(
 )
 # What the benchmarks take besides those that run the pane.
 bench_packages=(
-    libbenchmark-dev libcairo2-dev python3 xvfb
+    libbenchmark-dev libcairo2-dev libplist-dev python3 xvfb
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules
 )
 # What it takes to build the device's bundle and its package. The compiler, the linker, the tools and the standard library
