@@ -25,4 +25,6 @@ list(TRANSFORM settings_test_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 # A language of the tests' own, which lies beside the pane's in the bundle that they run with.
 set(settings_test_resources ${CMAKE_CURRENT_LIST_DIR}/resources)
 # Where the files are that each platform writes.
-set(settings_test_definitions WRITTEN_FILES="${CMAKE_CURRENT_LIST_DIR}/store")
+set_source_files_properties(${CMAKE_CURRENT_LIST_DIR}/store/ExchangeTests.cpp PROPERTIES
+  COMPILE_DEFINITIONS WRITTEN_FILES="${CMAKE_CURRENT_LIST_DIR}/store"
+)
