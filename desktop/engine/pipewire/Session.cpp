@@ -26,7 +26,6 @@ constexpr auto releasePatience = 500ms;
 Session::Session(
     Core core, sd_event* event, PipeWireLoop& loop, const Settings& settings, const Reports& reports)
     : _loop(loop)
-    , _event(event)
     , _settings(settings)
     , _reports(reports)
     , _core(std::move(core))

@@ -41,7 +41,7 @@ private:
     static void coreDone(void* self, std::uint32_t id, int sequence);
     static void coreError(void* self, std::uint32_t id, int sequence, int result, const char* message);
     static void globalAdded(void* self, std::uint32_t id, std::uint32_t permissions, const char* type,
-        std::uint32_t version, const spa_dict* properties);
+        std::uint32_t version, const spa_dict* dictionary);
     static void globalRemoved(void* self, std::uint32_t id);
 
     void addNode(std::uint32_t id, std::map<std::string, std::string> properties);
@@ -56,7 +56,6 @@ private:
     void remakeUnlinkedSink();
 
     PipeWireLoop& _loop;
-    sd_event* _event;
     Settings _settings;
     const Reports& _reports;
 

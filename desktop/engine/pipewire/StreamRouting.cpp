@@ -66,7 +66,7 @@ void StreamRouting::metadataRemoved()
 }
 
 void StreamRouting::metadataChanged(
-    std::uint32_t subject, std::optional<std::string> key, std::optional<std::string> value)
+    std::uint32_t subject, const std::optional<std::string>& key, const std::optional<std::string>& value)
 {
     auto& targets = _targets[subject];
     if (!key || *key == targetObject)

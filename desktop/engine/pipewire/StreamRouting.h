@@ -55,8 +55,8 @@ public:
     void metadataRemoved();
     /// Somebody, perhaps this program, changed a key; without a value it was deleted, without a key all keys
     /// of that subject were.
-    void metadataChanged(
-        std::uint32_t subject, std::optional<std::string> key, std::optional<std::string> value);
+    void metadataChanged(std::uint32_t subject, const std::optional<std::string>& key,
+        const std::optional<std::string>& value);
     /// The name of the sink that the session manager plays to by default; empty when there is none.
     void defaultSinkChanged(const std::string& name);
 

@@ -54,7 +54,7 @@ protected:
     void appears(const StreamProperties& properties) { routing.streamChanged(stream, properties); }
     void targets(const char* key, std::optional<std::string> value)
     {
-        routing.metadataChanged(stream, key, std::move(value));
+        routing.metadataChanged(stream, key, value);
     }
     /// A stream that plays through the equalizer.
     void isRouted()
