@@ -52,7 +52,7 @@ protected:
     }
 
     void appears(const StreamProperties& properties) { routing.streamChanged(stream, properties); }
-    void targets(const char* key, std::optional<std::string> value)
+    void targets(const char* key, const std::optional<std::string>& value)
     {
         routing.metadataChanged(stream, key, value);
     }

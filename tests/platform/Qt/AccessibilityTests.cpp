@@ -341,8 +341,9 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
     interface.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     EXPECT_TRUE(field->isFirstResponder());
     QApplication::processEvents();
-    ASSERT_EQ(root().childCount(), 4) << "with the return key";
-    auto& editor = *root().child(2);
+    ASSERT_EQ(root().childCount(), 4);
+    EXPECT_EQ(root().child(2)->text(QAccessible::Name), "Return");
+    auto& editor = *root().child(3);
     EXPECT_NE(&editor, &interface);
     EXPECT_EQ(editor.role(), QAccessible::EditableText);
     EXPECT_EQ(editor.text(QAccessible::Name), "Name");

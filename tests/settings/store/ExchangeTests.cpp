@@ -70,7 +70,6 @@ TEST(AFileWrittenHere, IsTheOneThatIsReadElsewhere)
     const TestPlatform platform;
     const auto data = dataWithPropertyList(everyType(), NSPropertyListFormat::BinaryFormat_v1_0, 0);
     ASSERT_TRUE(data);
-    std::ofstream("/tmp/written-on-a-" THIS_PLATFORM ".plist", std::ios::binary).write(reinterpret_cast<const char*>(data->data()), static_cast<std::streamsize>(data->size()));
     EXPECT_TRUE(std::string(reinterpret_cast<const char*>(data->data()), data->size())
         == bytesOf(fileOf(THIS_PLATFORM)));
 }
