@@ -13,12 +13,15 @@ using desktop::ViewPeer;
 
 namespace {
 
+bool isFlexible(const RetainPtr<UIView>& view)
+{
+    return view->autoresizingMask() != UIViewAutoresizingNone;
+}
+
 /// Has the subviews follow a change of their superview's size.
 void resizeSubviews(const std::vector<RetainPtr<UIView>>& subviews, CGSize before, CGSize after)
 {
-    // A subview that is resized may change the list.
-    for (std::size_t i = 0; i < subviews.size(); ++i) {
-        const auto subview = subviews[i];
+    for (const auto& subview : subviews) {
         const auto mask = subview->autoresizingMask();
         if (mask == UIViewAutoresizingNone)
             continue;
@@ -66,7 +69,9 @@ void UIView::setFrame(const CGRect& frame)
     const auto before = std::exchange(peer.frame, frame).size;
     if (before != frame.size) {
         peer.needsLayout = true;
-        resizeSubviews(peer.subviews, before, frame.size);
+        // A copy, as a subview that is resized may change the list; most have none that follows.
+        if (std::ranges::any_of(peer.subviews, isFlexible))
+            resizeSubviews(subviews(), before, frame.size);
     }
     desktop::setNeedsDisplay(*this);
 }
