@@ -121,7 +121,7 @@ BrimsoundSettingsListController* BrimsoundSettingsListController::initForContent
 BrimsoundSettingsListController::~BrimsoundSettingsListController()
 {
     _cellBuiltAhead = nullptr;
-    writeSettings();
+    BrimsoundSettingsListController::writeSettings();
     setSettings({});
     _sliders = nullptr;
     _labels = nullptr;
