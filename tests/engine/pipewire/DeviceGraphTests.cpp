@@ -6,7 +6,6 @@
 namespace brimsound::engine {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

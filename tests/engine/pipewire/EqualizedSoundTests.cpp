@@ -156,7 +156,7 @@ TEST_F(EqualizedSound, TellsWhereItGoes)
     EXPECT_EQ(engine->next("rate"), 48000);
     auto output = engine->next("output");
     // Between two devices there may be none.
-    if (output == "")
+    if (output.empty())
         output = engine->next("output");
     EXPECT_EQ(output, "surround");
 }
