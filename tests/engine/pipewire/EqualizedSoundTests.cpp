@@ -154,10 +154,10 @@ TEST_F(EqualizedSound, TellsWhereItGoes)
     EXPECT_TRUE(engine->next("connected").get<bool>());
     EXPECT_EQ(engine->next("output"), "hw1");
     EXPECT_EQ(engine->next("rate"), 48000);
-    auto output = engine->next("output");
+    auto output = engine->next("output").get<std::string>();
     // Between two devices there may be none.
     if (output.empty())
-        output = engine->next("output");
+        output = engine->next("output").get<std::string>();
     EXPECT_EQ(output, "surround");
 }
 

@@ -69,7 +69,7 @@ TEST_F(AFaultyDesktop, PlaysOnAfterSamplesThatAreNoNumbers)
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
     const auto start = hw1->position();
     player.emplace(std::vector<std::string> { "pw-play", file });
-    hw1->next(3 * 48000);
+    hw1->next(144000);
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
     for (const float sample : hw1->samples(start))
         ASSERT_LE(std::abs(sample), 1.F);
