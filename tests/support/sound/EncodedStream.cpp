@@ -6,6 +6,7 @@
 #include <spa/pod/builder.h>
 
 #include <array>
+#include <cstdint>
 
 namespace brimsound::tests {
 
