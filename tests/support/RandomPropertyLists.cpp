@@ -89,8 +89,11 @@ PropertyList RandomPropertyLists::container(int depth)
 
 std::string RandomPropertyLists::text()
 {
-    if (oneIn(4))
-        return std::string(upTo(300), static_cast<char>('a' + upTo(20)));
+    if (oneIn(4)) {
+        std::string repeated;
+        repeated.append(upTo(300), static_cast<char>('a' + upTo(20)));
+        return repeated;
+    }
     return texts[upTo(texts.size() - 1)];
 }
 
