@@ -42,7 +42,7 @@ public:
     /// Takes the device away, as when it is unplugged.
     void unplug(const std::string& device);
     /// Brings it (back).
-    void plugIn(const std::string& device);
+    void plugIn(const std::string& name);
     /// What a user does in a panel: this sink is to be the default.
     void chooseDefault(const std::string& sink);
     /// The name of the sink that is the default now.
