@@ -132,8 +132,9 @@ TEST_F(ABadFile, OfPartsInEveryOddTypeKeepsThemWhenASwitchIsFlipped)
     const auto saved = contents();
     for (const std::size_t i : { 0u, 1u, 2u, 5u })
         EXPECT_NE(saved.find(odd[i]), std::string::npos) << i;
-    EXPECT_TRUE(areAlike(get_preferences(), preferences));
-    const auto& values = *get_preferences().find("odd")->asArray();
+    const auto read = get_preferences();
+    EXPECT_TRUE(areAlike(read, preferences));
+    const auto& values = *read.find("odd")->asArray();
     EXPECT_TRUE(values.at(3).asNullObject());
     EXPECT_EQ(values.at(4).asSet()->elements.size(), 2u);
 }
