@@ -16,7 +16,7 @@ namespace brimsound::tests {
 namespace {
 
 constexpr unsigned rate = 48000;
-constexpr std::size_t longest = 60 * rate;
+constexpr std::size_t longest = std::size_t { 60 } * rate;
 
 std::string uniqueName()
 {
