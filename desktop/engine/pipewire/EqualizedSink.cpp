@@ -156,8 +156,9 @@ void EqualizedSink::connect(
     spa_pod_builder builder {};
     spa_pod_builder_init(&builder, bytes.data(), bytes.size());
     const spa_pod* parameters[] = { spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format) };
-    const auto all = static_cast<pw_stream_flags>(commonFlags | flags);
-    if (pw_stream_connect(side.stream.get(), direction, PW_ID_ANY, all, parameters, 1) < 0)
+    if (pw_stream_connect(side.stream.get(), direction, PW_ID_ANY,
+            static_cast<pw_stream_flags>(commonFlags | flags), parameters, 1)
+        < 0)
         throw std::runtime_error("PipeWire does not connect a stream");
 }
 
