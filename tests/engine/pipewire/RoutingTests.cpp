@@ -67,7 +67,10 @@ TEST_F(APlayingDesktop, PlaysToTheOutputThatTheUserPicks)
 
 TEST_F(APlayingDesktop, PlaysToTheNextOutputWhenOneIsUnpluggedAndBack)
 {
-    playEqualized();
+    // Not pw-play: a device that returns makes some versions of it believe that its file has ended.
+    engine.emplace();
+    player.emplace(std::vector<std::string> { "paplay", tone });
+    ASSERT_TRUE(comesTo(hw1, equalizedLevel));
     const auto before = hw1.position();
     system.unplug("hw1");
     EXPECT_TRUE(comesTo(hw2, equalizedLevel));
