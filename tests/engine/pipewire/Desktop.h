@@ -57,13 +57,18 @@ protected:
             std::cerr << system.report();
     }
 
+    static bool isNear(double level, double wanted)
+    {
+        return level > wanted * 0.97 - 1e-4 && level < wanted * 1.03 + 1e-4;
+    }
+
     /// Whether the device comes to play at that level for a while.
     static testing::AssertionResult comesTo(const Recorder& device, double wanted)
     {
         double found = 0;
         const bool came = eventually([&] {
             found = level(device.next(9600));
-            return found > wanted * 0.97 - 1e-4 && found < wanted * 1.03 + 1e-4;
+            return isNear(found, wanted);
         });
         return (came ? testing::AssertionSuccess() : testing::AssertionFailure())
             << "the level is " << found << ", not " << wanted;

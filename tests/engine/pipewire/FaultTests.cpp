@@ -3,6 +3,7 @@
 #include "settings/tweak.h"
 #include "tests/engine/pipewire/Desktop.h"
 
+#include <algorithm>
 #include <cmath>
 #include <csignal>
 #include <fstream>
@@ -18,6 +19,14 @@ std::string contentsOf(const std::filesystem::path& path)
     std::ostringstream text;
     text << std::ifstream(path).rdbuf();
     return text.str();
+}
+
+std::size_t countOf(const std::string& part, const std::string& text)
+{
+    std::size_t count = 0;
+    for (auto found = text.find(part); found != std::string::npos; found = text.find(part, found + 1))
+        ++count;
+    return count;
 }
 
 /// The largest amplitude of a frequency in any 10 ms.
@@ -47,6 +56,22 @@ protected:
         engine.emplace();
         player.emplace(playTone);
         ASSERT_TRUE(comesTo(*hw1, equalizedLevel));
+    }
+
+    /// A factor for each of two channels.
+    static void setVolume(std::uint32_t node, const std::string& volume)
+    {
+        outputOf({ "pw-cli", "set-param", std::to_string(node), "Props",
+            "{ channelVolumes: [ " + volume + " " + volume + " ] }" });
+    }
+
+    /// Whether the session manager has written that text for its next start.
+    bool isStored(const std::string& text)
+    {
+        std::error_code missing;
+        return std::ranges::any_of(
+            std::filesystem::directory_iterator(system.folder() / "state/wireplumber", missing),
+            [&](const auto& file) { return contentsOf(file.path()).find(text) != std::string::npos; });
     }
 
     std::optional<Recorder> hw1;
@@ -122,12 +147,19 @@ TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndSaysSoOnce)
 {
     hw1.reset();
     system.killPipeWire();
+    // Each attempt leaves a line in the log of PipeWire's library.
+    const auto log = system.folder() / "library.log";
     const auto errors = system.folder() / "errors";
-    engine.emplace(errors);
+    {
+        const EnvironmentVariable level("PIPEWIRE_DEBUG", "mod.protocol-native:4");
+        const EnvironmentVariable file("PIPEWIRE_LOG", log.c_str());
+        engine.emplace(errors);
+    }
     EXPECT_TRUE(send(preamp(-3)));
     EXPECT_EQ(engine->next("vals")[0], -6);
     EXPECT_EQ(engine->next("vals")[0], -3);
-    std::this_thread::sleep_for(std::chrono::seconds(2));
+    const auto socket = "runtime_dir:" + (system.folder() / "run").string();
+    ASSERT_TRUE(eventually([&] { return countOf(socket, contentsOf(log)) >= 4; })) << "it does not try again";
     EXPECT_THAT(
         contentsOf(errors), testing::MatchesRegex("mediaserverd: PipeWire cannot be reached[^\n]*\n"));
     EXPECT_TRUE(send(preamp(preampDecibels)));
@@ -163,27 +195,28 @@ TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
 {
     start();
     // What happens to a volume right after the start is not taken for a user's doing.
-    std::this_thread::sleep_for(std::chrono::seconds(3));
-    outputOf({ "pactl", "set-sink-volume", "brimsound", "50%" });
-    EXPECT_TRUE(comesTo(*hw1, equalizedLevel / 8));
+    EXPECT_TRUE(eventually([&] {
+        outputOf({ "pactl", "set-sink-volume", "brimsound", "50%" });
+        return isNear(level(hw1->next(24000)), equalizedLevel / 8);
+    }));
     outputOf({ "pactl", "set-sink-volume", "brimsound", "100%" });
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
 
     // The output's volume and target are the user's as well, but not for good.
     const Recorder hw2("hw2");
     const auto output = nodeOf("brimsound.output");
-    outputOf(
-        { "pw-cli", "set-param", std::to_string(output), "Props", "{ channelVolumes: [ 0.125 0.125 ] }" });
+    setVolume(output, "0.125");
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel / 8));
     system.moveStream(output, "hw2");
     EXPECT_TRUE(comesTo(hw2, equalizedLevel / 8));
     outputOf({ "pactl", "set-sink-volume", "brimsound", "50%" });
-    // The session manager keeps them in its own time.
-    std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+    // The session manager keeps such values in its own time, and all at once: what was set last as well.
+    setVolume(nodeOf("pw-play"), "0.21875");
+    ASSERT_TRUE(eventually([&] { return isStored("0.21875"); }));
     engine->stop();
     engine.emplace();
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
-    EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
+    EXPECT_TRUE(comesTo(*hw1, equalizedLevel * 0.21875));
     EXPECT_TRUE(comesTo(hw2, 0));
 }
 
