@@ -1,14 +1,16 @@
 // The engine of a build without a sound server to talk to.
 #include "desktop/engine/SoundEngine.h"
 
+#include <utility>
+
 namespace brimsound::engine {
 
 class SoundEngine::Implementation { };
 
 SoundEngine::SoundEngine(sd_event*, const Settings&, Reports reports)
 {
-    if (reports.problem)
-        reports.problem("this build has no PipeWire: sound is played as it is");
+    if (const auto problem = std::move(reports.problem))
+        problem("this build has no PipeWire: sound is played as it is");
 }
 
 SoundEngine::~SoundEngine() = default;
