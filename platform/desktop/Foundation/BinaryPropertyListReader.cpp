@@ -6,6 +6,8 @@
 #include "platform/desktop/Foundation/UnicodeText.h"
 
 #include <bit>
+#include <cstring>
+#include <endian.h>
 #include <string_view>
 
 namespace brimsound::desktop {
@@ -19,11 +21,10 @@ std::string_view characters(std::span<const std::byte> bytes)
     return { reinterpret_cast<const char*>(bytes.data()), bytes.size() };
 }
 
-template <typename Number> std::uint64_t loaded(const std::byte* bytes)
+template <typename Number> Number loaded(const std::byte* bytes)
 {
     Number number = 0;
-    for (std::size_t i = 0; i < sizeof number; ++i)
-        number = static_cast<Number>(number << 8 | std::to_integer<Number>(bytes[i]));
+    std::memcpy(&number, bytes, sizeof number);
     return number;
 }
 
@@ -34,11 +35,11 @@ std::uint64_t bigEndian(std::span<const std::byte> bytes)
     case 1:
         return loaded<std::uint8_t>(bytes.data());
     case 2:
-        return loaded<std::uint16_t>(bytes.data());
+        return be16toh(loaded<std::uint16_t>(bytes.data()));
     case 4:
-        return loaded<std::uint32_t>(bytes.data());
+        return be32toh(loaded<std::uint32_t>(bytes.data()));
     case 8:
-        return loaded<std::uint64_t>(bytes.data());
+        return be64toh(loaded<std::uint64_t>(bytes.data()));
     default:
         break;
     }

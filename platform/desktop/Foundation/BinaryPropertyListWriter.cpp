@@ -5,7 +5,9 @@
 #include "platform/desktop/Foundation/PropertyListBudget.h"
 #include "platform/desktop/Foundation/UniqueObjects.h"
 
+#include <algorithm>
 #include <cstring>
+#include <endian.h>
 #include <vector>
 
 namespace brimsound::desktop {
@@ -24,36 +26,35 @@ public:
         references.reserve(usual);
     }
 
-    /// The value's number; nothing when it cannot be written.
-    std::optional<std::uint32_t> add(const PropertyList& value, std::size_t depth = 0)
+    /// Gives the value and everything in it their numbers. False when it cannot be written.
+    bool add(const PropertyList& value, std::uint32_t& number, std::size_t depth = 0)
     {
         if (depth > deepestPropertyList)
-            return std::nullopt;
+            return false;
         if (const auto scalar = scalarObject(value))
-            return addScalar(*scalar);
+            return addScalar(*scalar, number);
         if (const auto* array = value.asArray())
-            return addElements(ObjectType::Array, *array, depth);
+            return addElements(ObjectType::Array, *array, number, depth);
         if (const auto* dictionary = value.asDictionary())
-            return addEntries(*dictionary, depth);
+            return addEntries(*dictionary, number, depth);
         if (const auto* set = value.asSet())
-            return addElements(ObjectType::Set, set->elements, depth);
-        return std::nullopt;
+            return addElements(ObjectType::Set, set->elements, number, depth);
+        return false;
     }
 
     std::vector<Object> objects;
     std::vector<std::uint32_t> references;
 
 private:
-    std::optional<std::uint32_t> addScalar(const Object& scalar)
+    bool addScalar(const Object& scalar, std::uint32_t& number)
     {
         const auto length = scalar.bytes.size();
         if ((scalar.type == ObjectType::Text && !_budget.takeText(length))
             || (scalar.type == ObjectType::Data && !_budget.takeData(length)))
-            return std::nullopt;
+            return false;
         const auto place = _unique.place(scalar, objects);
-        if (place.isNew && scalar.type == ObjectType::Text && !measureText(objects.back()))
-            return std::nullopt;
-        return place.number;
+        number = place.number;
+        return !place.isNew || scalar.type != ObjectType::Text || measureText(objects.back());
     }
 
     std::uint32_t addContainer(ObjectType type, std::size_t count)
@@ -64,42 +65,42 @@ private:
         return number;
     }
 
-    bool setReference(std::size_t index, std::optional<std::uint32_t> number)
+    bool addMember(const PropertyList& value, std::size_t reference, std::size_t depth)
     {
-        if (number)
-            references[index] = *number;
-        return number.has_value();
+        std::uint32_t number = 0;
+        if (!add(value, number, depth))
+            return false;
+        references[reference] = number;
+        return true;
     }
 
-    std::optional<std::uint32_t> addElements(
-        ObjectType type, const PropertyList::Array& elements, std::size_t depth)
+    bool addKey(const std::string& key, std::size_t reference)
+    {
+        return addScalar({ .type = ObjectType::Text, .bytes = key }, references[reference]);
+    }
+
+    bool addElements(
+        ObjectType type, const PropertyList::Array& elements, std::uint32_t& number, std::size_t depth)
     {
         if (!_budget.takeValues(elements.size()))
-            return std::nullopt;
+            return false;
         auto next = references.size();
-        const auto number = addContainer(type, elements.size());
-        for (const auto& element : elements) {
-            if (!setReference(next++, add(element, depth + 1)))
-                return std::nullopt;
-        }
-        return number;
+        number = addContainer(type, elements.size());
+        return std::all_of(elements.begin(), elements.end(),
+            [&](const auto& element) { return addMember(element, next++, depth + 1); });
     }
 
-    std::optional<std::uint32_t> addEntries(const PropertyList::Dictionary& dictionary, std::size_t depth)
+    bool addEntries(const PropertyList::Dictionary& dictionary, std::uint32_t& number, std::size_t depth)
     {
         if (!_budget.takeEntries(dictionary.size()))
-            return std::nullopt;
+            return false;
         auto next = references.size();
-        const auto number = addContainer(ObjectType::Dictionary, 2 * dictionary.size());
-        for (const auto& [key, value] : dictionary) {
-            if (!setReference(next++, addScalar({ .type = ObjectType::Text, .bytes = key })))
-                return std::nullopt;
-        }
-        for (const auto& [key, value] : dictionary) {
-            if (!setReference(next++, add(value, depth + 1)))
-                return std::nullopt;
-        }
-        return number;
+        number = addContainer(ObjectType::Dictionary, 2 * dictionary.size());
+        return std::all_of(dictionary.begin(), dictionary.end(), [&](const auto& entry) {
+            return addKey(entry.key, next++);
+        }) && std::all_of(dictionary.begin(), dictionary.end(), [&](const auto& entry) {
+            return addMember(entry.value, next++, depth + 1);
+        });
     }
 
     UniqueObjects _unique;
@@ -117,11 +118,23 @@ public:
 
     std::size_t length() const { return static_cast<std::size_t>(_next - _start); }
 
+    /// Of 1, 2, 4 or 8 bytes.
     void append(std::uint64_t number, std::size_t size)
     {
-        for (auto place = _next + size; place != _next; number >>= 8)
-            *--place = static_cast<std::byte>(number);
-        _next += size;
+        // Each takes one instruction to store.
+        switch (size) {
+        case 1:
+            store(static_cast<std::uint8_t>(number));
+            return;
+        case 2:
+            store(htobe16(static_cast<std::uint16_t>(number)));
+            return;
+        case 4:
+            store(htobe32(static_cast<std::uint32_t>(number)));
+            return;
+        default:
+            store(htobe64(number));
+        }
     }
 
     void append(std::string_view bytes)
@@ -153,6 +166,12 @@ public:
     }
 
 private:
+    template <typename Number> void store(Number number)
+    {
+        std::memcpy(_next, &number, sizeof number);
+        _next += sizeof number;
+    }
+
     std::byte* _start;
     std::byte* _next;
 };
@@ -231,8 +250,8 @@ void appendObject(Output& output, const Object& object, const ObjectGraph& graph
 std::optional<PropertyList::Data> writeBinaryPropertyList(const PropertyList& value)
 {
     ObjectGraph graph;
-    const auto root = graph.add(value);
-    if (!root)
+    std::uint32_t root = 0;
+    if (!graph.add(value, root))
         return std::nullopt;
 
     const auto count = graph.objects.size();
@@ -254,7 +273,7 @@ std::optional<PropertyList::Data> writeBinaryPropertyList(const PropertyList& va
     trailer.append(offsetSize, 1);
     trailer.append(referenceSize, 1);
     trailer.append(count, 8);
-    trailer.append(*root, 8);
+    trailer.append(root, 8);
     trailer.append(offsetTable, 8);
     return file;
 }

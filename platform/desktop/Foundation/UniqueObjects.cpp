@@ -8,23 +8,15 @@ namespace brimsound::desktop::binary {
 
 namespace {
 
-/// The random choice of a hash.
-struct Hash {
-    std::uint64_t point;
-    std::uint64_t ofNumber;
-    std::uint64_t ofMore;
-    std::uint64_t ofBytes;
-};
-
 constexpr std::uint64_t prime = (std::uint64_t { 1 } << 61) - 1;
 
-const Hash& hash()
+const RandomHash& hashOfThisProcess()
 {
-    static const Hash chosen = [] {
+    static const RandomHash chosen = [] {
         std::random_device random;
         const auto number = [&] { return std::uint64_t { random() } << 32 | random(); };
         // Odd factors; a point that is neither 0 nor 1.
-        return Hash { number() % (prime - 2) + 2, number() | 1, number() | 1, number() | 1 };
+        return RandomHash { number() % (prime - 2) + 2, number() | 1, number() | 1, number() | 1 };
     }();
     return chosen;
 }
@@ -38,7 +30,7 @@ std::uint64_t timesModuloPrime(std::uint64_t a, std::uint64_t b)
 }
 
 /// The value of a polynomial, whose coefficients are the bytes, seven at a time, at the point.
-std::uint64_t hashOfBytes(std::string_view bytes)
+std::uint64_t hashOfBytes(std::string_view bytes, std::uint64_t point)
 {
     constexpr std::size_t atATime = 7;
     std::uint64_t value = bytes.size();
@@ -47,22 +39,27 @@ std::uint64_t hashOfBytes(std::string_view bytes)
         const auto count = std::min(atATime, bytes.size());
         std::memcpy(&coefficient, bytes.data(), count);
         bytes.remove_prefix(count);
-        value = timesModuloPrime((value + coefficient) % prime, hash().point);
+        value = timesModuloPrime((value + coefficient) % prime, point);
     }
     return value;
 }
 
-std::uint32_t hashOf(const Object& object)
+std::uint32_t hashOf(const Object& object, const RandomHash& hash)
 {
-    auto value = object.number * hash().ofNumber
-        + (object.more << 4 | static_cast<unsigned>(object.type)) * hash().ofMore;
+    auto value = object.number * hash.ofNumber
+        + (object.more << 4 | static_cast<unsigned>(object.type)) * hash.ofMore;
     if (!object.bytes.empty())
-        value += hashOfBytes(object.bytes) * hash().ofBytes;
+        value += hashOfBytes(object.bytes, hash.point) * hash.ofBytes;
     // The upper bits depend on all of them.
     return static_cast<std::uint32_t>(value >> 32);
 }
 
 } // namespace
+
+UniqueObjects::UniqueObjects()
+    : _hash(hashOfThisProcess())
+{
+}
 
 std::size_t UniqueObjects::firstSlot(std::uint32_t hash) const
 {
@@ -73,7 +70,7 @@ UniqueObjects::Place UniqueObjects::place(const Object& object, std::vector<Obje
 {
     if (2 * _used >= _slots.size())
         grow();
-    const auto hash = hashOf(object);
+    const auto hash = hashOf(object, _hash);
     auto slot = firstSlot(hash);
     for (; _slots[slot].taken != 0; slot = (slot + 1) & (_slots.size() - 1)) {
         const auto number = _slots[slot].taken - 1;

@@ -9,11 +9,21 @@
 
 namespace brimsound::desktop::binary {
 
+/// The choice of a hash.
+struct RandomHash {
+    std::uint64_t point;
+    std::uint64_t ofNumber;
+    std::uint64_t ofMore;
+    std::uint64_t ofBytes;
+};
+
 /// Finds the number of an object that is the same as one met before: a hash table with open addressing. Its
 /// hash is chosen at random when the process starts, so that nobody can write a file whose values all
 /// collide.
 class UniqueObjects {
 public:
+    UniqueObjects();
+
     struct Place {
         std::uint32_t number;
         bool isNew;
@@ -32,6 +42,7 @@ private:
     std::size_t firstSlot(std::uint32_t hash) const;
     void grow();
 
+    const RandomHash& _hash;
     static constexpr unsigned smallest = 10;
     unsigned _logarithmOfSize = smallest;
     std::size_t _used = 0;
