@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto limitedInterval = 1s;
-/// How long the session manager gets to link the output after it came back.
+/// How long the session manager gets to link the output to the device.
 constexpr auto linkPatience = 2s;
 constexpr auto releasePatience = 500ms;
 
@@ -78,7 +78,7 @@ void Session::coreDone(void* self, std::uint32_t id, int sequence)
     if (session._metadataAsked == sequence) {
         session._metadataAsked.reset();
         session._routing.metadataReady();
-        session._unlinkedTimer.start(linkPatience);
+        session._mayStayUnlinked = true;
     }
 }
 
@@ -171,6 +171,10 @@ void Session::update()
             own = { _sink->sinkNode(), std::move(serial), _sink->outputNode() };
     }
     _routing.setOwnNodes(own);
+    if (_mayStayUnlinked && hasDefaultDevice()) {
+        _mayStayUnlinked = false;
+        _unlinkedTimer.start(linkPatience);
+    }
     writeMetadata();
     report();
 }
@@ -258,11 +262,14 @@ void Session::tellLimited()
     _limitedTimer.start(limitedInterval);
 }
 
+bool Session::hasDefaultDevice() const
+{
+    return _metadata && _metadata->defaultSink() != sinkName && _graph.sinkNamed(_metadata->defaultSink());
+}
+
 void Session::remakeUnlinkedSink()
 {
-    // A session manager that came back may not care for streams that were there before.
-    if (!_sink || _nextSink || !_metadata || _graph.deviceOf(_sink->outputNode())
-        || !_graph.sinkNamed(_metadata->defaultSink()) || _metadata->defaultSink() == sinkName)
+    if (!_sink || _nextSink || _graph.deviceOf(_sink->outputNode()) || !hasDefaultDevice())
         return;
     const auto layout = _sink->layout();
     _sink.reset();

@@ -53,6 +53,7 @@ private:
     void writeMetadata();
     void report();
     void tellLimited();
+    bool hasDefaultDevice() const;
     void remakeUnlinkedSink();
 
     PipeWireLoop& _loop;
@@ -69,6 +70,8 @@ private:
     std::unique_ptr<EqualizedSink> _sink;
     /// Takes the place of `_sink` once the graph knows it.
     std::unique_ptr<EqualizedSink> _nextSink;
+    /// A session manager that came back may not care for streams that were there before.
+    bool _mayStayUnlinked = false;
     bool _yields = false;
     bool _lost = false;
 

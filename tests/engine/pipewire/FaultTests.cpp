@@ -143,6 +143,27 @@ TEST_F(AFaultyDesktop, HasItsStreamsMovedAgainAfterTheSessionManagerWasKilled)
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
 }
 
+TEST_F(AFaultyDesktop, IsHeardAgainWhenTheSessionManagerBringsItsDevicesBackLate)
+{
+    start();
+    hw1.reset();
+    player.reset();
+    system.killSessionManager();
+    // Hardware is the session manager's, and goes and comes with it.
+    for (const auto* name : { "surround", "hw2", "hw1" })
+        system.unplug(name);
+    system.startSessionManager();
+    // Some take their time.
+    std::this_thread::sleep_for(std::chrono::seconds(3));
+    system.plugIn("hw1");
+    ASSERT_TRUE(system.waitForDefault("hw1"));
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
+    hw1.emplace("hw1");
+    player.emplace(playTone);
+    EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
+    EXPECT_LT(loudest(hw1->samples()), equalizedLimit);
+}
+
 TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndSaysSoOnce)
 {
     hw1.reset();
