@@ -33,10 +33,6 @@ bool mayBeMoved(const StreamProperties& stream)
 
 void StreamRouting::setOwnNodes(const std::optional<OwnNodes>& own)
 {
-    if (own == _own)
-        return;
-    if (!own || !_own || own->output != _own->output)
-        _outputTarget.reset();
     _own = own;
 }
 
@@ -61,7 +57,6 @@ void StreamRouting::metadataRemoved()
 {
     _ready = false;
     _targets.clear();
-    _outputTarget.reset();
     _defaultSink.clear();
 }
 
@@ -73,8 +68,6 @@ void StreamRouting::metadataChanged(
         targets.object = value;
     if (!key || *key == targetNode)
         targets.node = value;
-    if (!targets.object && !targets.node)
-        _targets.erase(subject);
 }
 
 void StreamRouting::defaultSinkChanged(const std::string& name)
@@ -172,7 +165,8 @@ std::vector<MetadataWrite> StreamRouting::takeWrites()
 
 std::vector<MetadataWrite> StreamRouting::release()
 {
-    if (_ready && _own && !_released) {
+    // Without a sink of its own it moved nothing: those are another equalizer's.
+    if (_own) {
         for (const auto& [id, properties] : _streams) {
             const auto found = _targets.find(id);
             if (found == _targets.end() || wishOf(found->second) != Wish::Equalizer)

@@ -40,8 +40,6 @@ public:
         std::uint32_t sink = 0;
         std::string sinkSerial;
         std::uint32_t output = 0;
-
-        bool operator==(const OwnNodes&) const = default;
     };
     void setOwnNodes(const std::optional<OwnNodes>&);
 

@@ -62,6 +62,14 @@ TEST_F(AGraph, TellsADevicesChannelsInTheirOrder)
     port(81, 51, "0", "LFE");
     EXPECT_THAT(graph.sinkNamed("hw1")->channels, ElementsAre("FL", "FR", "FC", "RR"));
     EXPECT_FALSE(graph.sinkNamed("hw2"));
+    graph.removed(72);
+    EXPECT_THAT(graph.sinkNamed("hw1")->channels, ElementsAre("FL", "FR", "FC"));
+}
+
+TEST_F(AGraph, TakesNothingElseForASink)
+{
+    graph.nodeAdded(50, { { "media.class", "Audio/Source" }, { "node.name", "hw1" } });
+    EXPECT_FALSE(graph.sinkNamed("hw1"));
 }
 
 TEST_F(AGraph, FindsTheOlderSinkOfAnotherClient)

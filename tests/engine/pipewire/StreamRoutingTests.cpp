@@ -204,6 +204,11 @@ TEST_F(Routing, MovesAStreamAgainWhoseKeysWereAllDeleted)
     isRouted();
     routing.metadataChanged(stream, std::nullopt, std::nullopt);
     EXPECT_THAT(routing.takeWrites(), ElementsAre(move(stream)));
+    targets("target.object", "1055");
+    targets("target.node", "55");
+    ASSERT_THAT(routing.takeWrites(), IsEmpty());
+    routing.metadataChanged(stream, std::nullopt, std::nullopt);
+    EXPECT_THAT(routing.takeWrites(), ElementsAre(move(stream)));
 }
 
 TEST_F(Routing, MovesAllAgainWhenTheSessionManagerCameBack)
@@ -238,6 +243,13 @@ TEST_F(Routing, GivesEveryStreamBackAtTheEndAndMovesNoneAfterwards)
     EXPECT_THAT(routing.release(), IsEmpty());
 }
 
+TEST_F(Routing, GivesNothingBackThatAnotherEqualizerMoved)
+{
+    isRouted();
+    routing.setOwnNodes(std::nullopt);
+    EXPECT_THAT(routing.release(), IsEmpty());
+}
+
 TEST_F(Routing, SendsTheOutputToTheLastDeviceWhenTheUserChoosesTheEqualizer)
 {
     routing.defaultSinkChanged("hw2");
@@ -247,6 +259,24 @@ TEST_F(Routing, SendsTheOutputToTheLastDeviceWhenTheUserChoosesTheEqualizer)
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
     routing.defaultSinkChanged("hw1");
     EXPECT_THAT(routing.takeWrites(), ElementsAre(deletion(output, "target.object")));
+    EXPECT_THAT(routing.takeWrites(), IsEmpty());
+}
+
+TEST_F(Routing, RemembersTheLastDeviceWhileThereIsNone)
+{
+    routing.defaultSinkChanged("hw2");
+    routing.defaultSinkChanged("");
+    routing.defaultSinkChanged("brimsound");
+    EXPECT_THAT(
+        routing.takeWrites(), ElementsAre(MetadataWrite { output, "target.object", "Spa:String", "hw2" }));
+}
+
+TEST_F(Routing, ForgetsTheDefaultWithTheSessionManager)
+{
+    routing.defaultSinkChanged("brimsound");
+    ASSERT_EQ(routing.takeWrites().size(), 1u);
+    routing.metadataRemoved();
+    routing.metadataReady();
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }
 
@@ -267,6 +297,19 @@ TEST_F(Routing, LeavesTheOutputWhereTheUserMovedIt)
     routing.defaultSinkChanged("brimsound");
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
     routing.defaultSinkChanged("hw1");
+    EXPECT_THAT(routing.takeWrites(), IsEmpty());
+}
+
+TEST_F(Routing, LeavesTheOutputWhereTheUserMovedItWhileTheEqualizerWasTheDefault)
+{
+    routing.defaultSinkChanged("brimsound");
+    ASSERT_EQ(routing.takeWrites().size(), 1u);
+    routing.metadataChanged(output, "target.object", "1055");
+    EXPECT_THAT(routing.takeWrites(), IsEmpty());
+    routing.defaultSinkChanged("hw2");
+    EXPECT_THAT(routing.takeWrites(), IsEmpty());
+    // Where it had once been sent.
+    routing.metadataChanged(output, "target.object", "hw1");
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }
 
