@@ -36,6 +36,7 @@ TEST_F(AGraph, KnowsTheDeviceThatANodeIsLinkedTo)
     sink(50, "hw1");
     sink(60, "hw2");
     graph.nodeAdded(41, { { "media.class", "Stream/Output/Audio" } });
+    graph.linkAdded(80, { { "link.output.node", "42" }, { "link.input.node", "50" } });
     EXPECT_FALSE(graph.deviceOf(41));
     graph.linkAdded(90, { { "link.output.node", "41" }, { "link.input.node", "60" } });
     EXPECT_EQ(graph.deviceOf(41)->name, "hw2");
@@ -77,6 +78,7 @@ TEST_F(AGraph, FindsTheOlderSinkOfAnotherClient)
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, ""));
     sink(50, "brimsound", "30");
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1050")) << "its own";
+    EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1055")) << "its own before this one";
     sink(60, "brimsound", "31");
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1050"));
     EXPECT_TRUE(graph.hasOlderSink("brimsound", 30, "1070"));
