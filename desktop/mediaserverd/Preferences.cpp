@@ -27,9 +27,9 @@ bool isMissing()
 
 std::optional<Preferences> readPreferences()
 {
-    if (isMissing())
-        return Preferences {};
     const auto file = readPropertyListFile(preferencesPath);
+    if (!file && isMissing())
+        return Preferences {};
     const auto* preferences = file ? file->asDictionary() : nullptr;
     if (!preferences)
         return std::nullopt;

@@ -1,12 +1,14 @@
 // Property-list values: what preferences, messages and bundle resources are made of.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -118,6 +120,13 @@ public:
     PropertyList(Array);
     PropertyList(Set);
     PropertyList(Dictionary);
+
+    /// A real in place, as the constructors make it.
+    template <std::floating_point Number> PropertyList& operator=(Number value)
+    {
+        _value = Real { value, std::is_same_v<Number, float> };
+        return *this;
+    }
 
     bool isNull() const { return std::holds_alternative<std::monostate>(_value); }
 

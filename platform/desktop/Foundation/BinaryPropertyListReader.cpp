@@ -121,7 +121,10 @@ private:
             if (bytes.size() < 8)
                 return false;
             const auto number64 = std::bit_cast<double>(bigEndian(bytes.first(8)));
-            value = marker == DateMarker ? PropertyList(PropertyList::Date { number64 }) : number64;
+            if (marker == DateMarker)
+                value = PropertyList::Date { number64 };
+            else
+                value = number64;
             return true;
         }
         default:
