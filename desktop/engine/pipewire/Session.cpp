@@ -117,13 +117,12 @@ void Session::globalRemoved(void* self, std::uint32_t id)
     if (id == session._metadataId) {
         session._metadata.reset();
         session._metadataAsked.reset();
-        session._metadataId = SPA_ID_INVALID;
     }
 }
 
 void Session::addNode(std::uint32_t id, std::map<std::string, std::string> properties)
 {
-    if (properties["media.class"] == "Stream/Output/Audio" && properties["node.name"] != outputName) {
+    if (properties["media.class"] == "Stream/Output/Audio") {
         auto* registry = reinterpret_cast<pw_registry*>(_registry.get());
         Proxy proxy(static_cast<pw_proxy*>(
             pw_registry_bind(registry, id, PW_TYPE_INTERFACE_Node, PW_VERSION_NODE, 0)));

@@ -276,6 +276,29 @@ TEST_F(ADesktopWithoutDevices, PlaysWhenOneIsPluggedIn)
     EXPECT_TRUE(engine.process().running());
 }
 
+TEST_F(ADesktopWithoutDevices, LetsOneSleepWhenNothingPlays)
+{
+    const auto stateOf = [this](const std::string& name) {
+        std::string state;
+        const auto id = system.node(name);
+        for (const auto& object : system.graph()) {
+            if (object.at("id") == id)
+                state = object.at("info").value("state", "");
+        }
+        return state;
+    };
+    system.plugIn("hw1");
+    const Engine engine;
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
+    for (int round = 0; round < 2; ++round) {
+        const auto player = std::make_unique<Player>(playTone);
+        ASSERT_TRUE(eventually([&] { return stateOf("hw1") == "running"; }));
+        ASSERT_TRUE(eventually([&] { return stateOf("brimsound") == "running"; }));
+        player->signal(SIGTERM);
+        EXPECT_TRUE(eventually([&] { return stateOf("hw1") != "running"; }));
+    }
+}
+
 TEST_F(APlayingDesktop, PlaysOnWhileThereIsNoDevice)
 {
     const auto threeSeconds = system.folder() / "three.wav";
