@@ -218,8 +218,9 @@ void Session::makeSink(const ChannelLayout& layout)
     place.reset();
     place = std::make_unique<EqualizedSink>(_core.get(), layout, _settings,
         EqualizedSink::Changes { [this](unsigned rate) {
-                                    if (_reports.rate)
+                                    if (_reports.rate && rate != _reportedRate)
                                         _reports.rate(rate);
+                                    _reportedRate = rate;
                                 },
             [this](double headroom) {
                 if (_reports.headroom && headroom != _reportedHeadroom)
@@ -243,7 +244,7 @@ void Session::report()
 {
     const auto device = _sink ? _graph.deviceOf(_sink->outputNode()) : std::nullopt;
     auto name = device ? device->name : std::string();
-    if (_answered != _asked || !_sink || name == _reportedOutput)
+    if (!_sink || name == _reportedOutput)
         return;
     if (_reports.output)
         _reports.output(name);

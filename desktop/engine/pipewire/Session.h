@@ -83,6 +83,7 @@ private:
     std::optional<int> _metadataAsked;
 
     std::string _reportedOutput;
+    unsigned _reportedRate = 0;
     std::optional<double> _reportedHeadroom;
     /// By sinks that were replaced.
     std::uint64_t _limitedBefore = 0;

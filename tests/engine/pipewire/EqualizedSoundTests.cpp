@@ -220,6 +220,12 @@ TEST_F(EqualizedSound, ChangesItsChannelsWithTheDeviceAndIsNeverLouder)
     EXPECT_LT(loudest(surround.samples()), equalizedLimit);
     EXPECT_TRUE(
         eventually([&] { return system.targetsOf("brimsound.output") == std::set<std::string> { "hw1" }; }));
+
+    // Of a new pair, only what is different is told.
+    system.setMetadata("settings", 0, "clock.force-rate", "44100", "");
+    EXPECT_EQ(engine->next("rate"), 44100);
+    ASSERT_TRUE(send(preamp(-3)));
+    EXPECT_NEAR(engine->next("headroom").get<double>(), -3, 0.01);
 }
 
 } // namespace brimsound::tests
