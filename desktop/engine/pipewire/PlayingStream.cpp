@@ -37,7 +37,6 @@ void PlayingStream::info(void* self, const pw_node_info* info)
     if (!(info->change_mask & PW_NODE_CHANGE_MASK_PROPS))
         return;
     stream._properties.values = toMap(info->props);
-    stream._hasInfo = true;
     stream.tell();
 }
 
@@ -56,6 +55,7 @@ void PlayingStream::done(void* self, std::uint32_t, int sequence)
     auto& stream = *static_cast<PlayingStream*>(self);
     if (sequence != stream._sync || stream._hasFormats)
         return;
+    // The properties came before the answer.
     stream._hasFormats = true;
     stream._properties.encoded = stream._offersEncoded && !stream._offersRaw;
     stream.tell();
@@ -63,7 +63,7 @@ void PlayingStream::done(void* self, std::uint32_t, int sequence)
 
 void PlayingStream::tell()
 {
-    if (_hasInfo && _hasFormats)
+    if (_hasFormats)
         _changed(_properties);
 }
 

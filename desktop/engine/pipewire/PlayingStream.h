@@ -29,7 +29,6 @@ private:
     std::function<void(const StreamProperties&)> _changed;
     StreamProperties _properties;
     int _sync = 0;
-    bool _hasInfo = false;
     bool _hasFormats = false;
     bool _offersRaw = false;
     bool _offersEncoded = false;

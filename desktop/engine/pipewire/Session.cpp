@@ -166,7 +166,8 @@ void Session::update()
     std::optional<StreamRouting::OwnNodes> own;
     if (_sink) {
         auto serial = _graph.serialOf(_sink->sinkNode());
-        if (!serial.empty() && !_graph.serialOf(_sink->outputNode()).empty())
+        // The output was made before.
+        if (!serial.empty())
             own = { _sink->sinkNode(), std::move(serial), _sink->outputNode() };
     }
     _routing.setOwnNodes(own);

@@ -1,9 +1,13 @@
 // What the settings do to the sound, by what arrives at the device.
+#include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
 #include "tests/engine/pipewire/Desktop.h"
+#include "tests/support/EnvironmentVariable.h"
+#include "tests/support/MediaServer.h"
 
 #include <cmath>
 #include <numbers>
+#include <sys/stat.h>
 
 namespace brimsound::tests {
 namespace {
@@ -147,6 +151,41 @@ TEST_F(EqualizedSound, IsAsItIsWhenTheEqualizerIsSwitchedOff)
     EXPECT_TRUE(send(preamp(0)));
 }
 
+TEST_F(EqualizedSound, IsAsItIsWithASilentServer)
+{
+    const MediaServer server;
+    player.emplace(playTone);
+    EXPECT_TRUE(comesTo(hw1, sineLevel));
+    EXPECT_FALSE(system.node("brimsound"));
+    EXPECT_EQ(system.metadata(nodeOf("pw-play"), "target.object"), std::nullopt);
+}
+
+TEST_F(EqualizedSound, ComesWithAWindowAndNotWithAScript)
+{
+    const auto isServed = [] { return desktop::SessionBus::shared().hasOwner(messagingCenterName); };
+    player.emplace(playTone);
+    {
+        // A pipe that never ends.
+        const auto script = system.folder() / "script";
+        ASSERT_EQ(mkfifo(script.c_str(), 0600), 0);
+        const Player headless({ "sh", "-c", R"(exec "$1" --headless --root "$2" --script - 0<>"$3")", "sh",
+            BRIMSOUND, root.path(), script });
+        ASSERT_TRUE(eventually(isServed));
+        hw1.next(24000);
+        EXPECT_TRUE(comesTo(hw1, sineLevel));
+        EXPECT_FALSE(system.node("brimsound"));
+    }
+    ASSERT_TRUE(eventually([&] { return !isServed(); }));
+    {
+        // Its window is shown nowhere.
+        const EnvironmentVariable noScreen("QT_QPA_PLATFORM", "minimal");
+        const Player window({ BRIMSOUND, "--root", root.path() });
+        EXPECT_TRUE(comesTo(hw1, equalizedLevel));
+        EXPECT_TRUE(system.node("brimsound"));
+    }
+    EXPECT_TRUE(comesTo(hw1, sineLevel)) << "the window is closed";
+}
+
 TEST_F(EqualizedSound, TellsWhereItGoes)
 {
     start();
@@ -199,6 +238,21 @@ TEST_F(EqualizedSound, HasTheChannelsOfTheDevice)
         EXPECT_NEAR(sixEqualized[channel], sixAsTheyAre[channel] * 0.5011872, 0.002) << channels[channel];
         EXPECT_NEAR(stereoEqualized[channel], stereoAsItIs[channel] * 0.5011872, 0.002) << channels[channel];
     }
+}
+
+TEST_F(EqualizedSound, KeepsItsChannelsWhileThereIsNoDevice)
+{
+    system.chooseDefault("surround");
+    ASSERT_TRUE(system.waitForDefault("surround"));
+    engine.emplace();
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "surround" }));
+    const auto sink = nodeOf("brimsound");
+    for (const auto* name : { "hw1", "hw2", "surround" })
+        system.unplug(name);
+    ASSERT_TRUE(system.waitForDefault("brimsound"));
+    system.plugIn("surround");
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "surround" }));
+    EXPECT_EQ(nodeOf("brimsound"), sink) << "it was made anew";
 }
 
 TEST_F(EqualizedSound, ChangesItsChannelsWithTheDeviceAndIsNeverLouder)

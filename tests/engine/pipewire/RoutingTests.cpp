@@ -205,12 +205,21 @@ TEST_F(APlayingDesktop, LeavesEncodedStreamsAlone)
 {
     engine.emplace();
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
-    const EncodedStream encoded;
+    const EncodedStream encoded(EncodedStream::Offers::EncodedAlone);
     const auto stream = nodeOf("encoded");
     // What starts after it has been decided on later.
     player.emplace(playTone);
     ASSERT_TRUE(comesTo(hw1, equalizedLevel));
     EXPECT_EQ(system.metadata(stream, "target.object"), std::nullopt);
+}
+
+TEST_F(APlayingDesktop, EqualizesStreamsThatCanDoWithoutEncoding)
+{
+    engine.emplace();
+    ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
+    const EncodedStream decoded(EncodedStream::Offers::RawToo);
+    const auto stream = nodeOf("encoded");
+    EXPECT_TRUE(eventually([&] { return system.metadata(stream, "target.object") == "brimsound"; }));
 }
 
 TEST_F(APlayingDesktop, PlaysToTheLastDeviceWhenTheUserChoosesTheEqualizer)

@@ -8,10 +8,12 @@
 namespace brimsound::tests {
 
 /// A stream for AC-3 as it goes over an S/PDIF cable, which only a device could decode, with the node name
-/// "encoded". It plays nothing.
+/// "encoded". It may offer to decode it itself. It plays nothing.
 class EncodedStream {
 public:
-    EncodedStream();
+    enum class Offers { EncodedAlone, RawToo };
+
+    explicit EncodedStream(Offers);
     EncodedStream(const EncodedStream&) = delete;
     EncodedStream& operator=(const EncodedStream&) = delete;
     ~EncodedStream();
