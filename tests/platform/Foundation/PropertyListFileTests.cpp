@@ -168,9 +168,9 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForADevice)
 TEST_F(ReadingAPropertyListFile, GivesNothingForWhatIsNoPropertyList)
 {
     testing::internal::CaptureStderr();
-    for (auto* contents :
-        { "", " ", "garbage", "bplist00", "bplist00 and then nothing that makes sense, at length", "<plist>",
-            "<plist/>", "<html></html>", "<plist><dict><key>a</key>", "\xff\xfe\x01" })
+    for (auto* contents : { "", " ", "garbage", "bplist00",
+             "bplist00 and then nothing that makes sense, at length", "<plist>", "<plist/>", "<html></html>",
+             "{ ENABLED = 1; }", "( 1, 2 )", "<plist><dict><key>a</key>", "\xff\xfe\x01" })
         EXPECT_EQ(reading(contents), std::nullopt) << contents;
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
