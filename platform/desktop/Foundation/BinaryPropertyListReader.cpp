@@ -88,7 +88,7 @@ private:
         _count = number(objectCountInTrailer);
         const auto table = number(offsetTableInTrailer);
         const auto end = _file.size() - trailerSize;
-        if (!isNumberSize(_offsetSize) || !isNumberSize(_referenceSize) || table < magic.size() || table > end
+        if (!isNumberSize(_offsetSize) || !isNumberSize(_referenceSize) || table > end
             || _count > (end - table) / _offsetSize)
             return false;
         _objects = _file.first(table);
