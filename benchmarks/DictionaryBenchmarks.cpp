@@ -20,6 +20,7 @@ namespace {
 std::vector<PropertyListDictionary::Entry> entriesFor(const benchmark::State& state)
 {
     std::vector<PropertyListDictionary::Entry> entries;
+    entries.reserve(static_cast<std::size_t>(state.range(0)));
     for (int i = 0; i < state.range(0); ++i)
         entries.push_back({ "Preset " + std::to_string(i), PropertyList(i) });
     return entries;
