@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <random>
 
 using namespace brimsound::tests;
@@ -81,6 +80,6 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(
     const auto result = mutated(file, random);
     if (result.size() > mostBytes)
         return LLVMFuzzerMutate(data, size, mostBytes);
-    std::memcpy(data, result.data(), result.size());
+    std::ranges::copy(result, data);
     return result.size();
 }
