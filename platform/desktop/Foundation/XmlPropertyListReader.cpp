@@ -33,7 +33,7 @@ public:
         }
         if (element == "array" || element == "dict") {
             _open.push_back({ .isDictionary = element == "dict" });
-            return _open.size() <= deepestPropertyList + 1;
+            return true;
         }
         _element = element;
         _text.clear();
@@ -85,6 +85,8 @@ private:
     {
         if (_open.empty())
             return !_root;
+        if (_open.size() > deepestPropertyList)
+            return false;
         if (_open.back().isDictionary)
             return _open.back().key && _budget.takeEntries(2);
         return _budget.takeValues(2);

@@ -195,17 +195,28 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForContainersNestedWithoutEnd)
     EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, TakesContainersNestedDeep)
+TEST_F(ReadingAPropertyListFile, TakesValuesInUpToFiveHundredAndTwelveContainers)
 {
-    constexpr int depth = 500;
-    EXPECT_NE(
-        reading("<plist>" + repeat("<array>", depth) + repeat("</array>", depth) + "</plist>"), std::nullopt);
-
-    std::vector<std::string> objects;
-    for (int i = 0; i < depth; ++i)
-        objects.push_back(arrayOf({ i + 1 }));
-    objects.push_back("\x09");
-    EXPECT_NE(reading(binaryFile(objects)), std::nullopt);
+    const auto markup = [](int depth, const std::string& value) {
+        return "<plist>" + repeat("<array>", depth) + value + repeat("</array>", depth) + "</plist>";
+    };
+    const auto binaryOf = [](int depth, const std::string& value) {
+        std::vector<std::string> objects;
+        for (int i = 0; i < depth; ++i)
+            objects.push_back(arrayOf({ i + 1 }));
+        objects.push_back(value);
+        return binaryFile(objects);
+    };
+    for (const auto& deepest : { markup(512, "<true/>"), markup(512, "<array/>"), markup(512, "<dict/>"),
+             binaryOf(512, "\x09"), binaryOf(512, "\xa0"), binaryOf(512, "\xd0") }) {
+        const auto value = reading(deepest);
+        ASSERT_TRUE(value);
+        EXPECT_TRUE(dataWithPropertyList(*value, binary, 0));
+        EXPECT_TRUE(dataWithPropertyList(*value, xml, 0));
+    }
+    for (const auto& deeper : { markup(513, "<true/>"), markup(513, "<array/>"), markup(513, "<dict/>"),
+             binaryOf(513, "\x09"), binaryOf(513, "\xa0"), binaryOf(513, "\xd0") })
+        EXPECT_EQ(reading(deeper), std::nullopt);
 }
 
 TEST_F(ReadingAPropertyListFile, GivesNothingForAnArrayThatContainsItself)
@@ -350,9 +361,13 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNoText)
 TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNestedTooDeepToBeReadAgain)
 {
     PropertyList deep = 1;
-    for (int i = 0; i < 600; ++i)
+    for (int i = 0; i < 512; ++i)
         deep = PropertyList::Array { std::move(deep) };
-    EXPECT_EQ(dataWithPropertyList(deep, binary, 0), std::nullopt);
+    for (const auto format : { binary, xml })
+        EXPECT_TRUE(dataWithPropertyList(deep, format, 0));
+    deep = PropertyList::Array { std::move(deep) };
+    for (const auto format : { binary, xml })
+        EXPECT_EQ(dataWithPropertyList(deep, format, 0), std::nullopt);
 }
 
 TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
