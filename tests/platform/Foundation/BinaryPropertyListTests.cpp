@@ -168,6 +168,16 @@ TEST(ABinaryObject, ThatEndsBehindTheObjectsIsNone)
         EXPECT_EQ(readingObject(object), std::nullopt) << testing::PrintToString(object);
 }
 
+TEST(ABinaryContainer, HasNoReferencesBehindTheObjects)
+{
+    // The table that follows starts with zeros, which would refer to the first object.
+    for (const auto& container : { bytes({ 0xa1 }), bytes({ 0xc1 }), bytes({ 0xd1, 0, 0 }) }) {
+        auto file = binaryFile({ stringOf("a"), container });
+        file[file.size() - 32 + 23] = 1;
+        EXPECT_EQ(reading(file), std::nullopt) << testing::PrintToString(container);
+    }
+}
+
 TEST(ABinaryObject, OfAnUnknownKindIsNone)
 {
     for (const unsigned marker :

@@ -258,6 +258,15 @@ TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
     EXPECT_NE(dataWithPropertyList(*value, binary, 0), std::nullopt);
 }
 
+TEST_F(ReadingAPropertyListFile, GivesNothingForTextThatGetsTooLongToBeSaved)
+{
+    // Each byte that is none becomes three.
+    const auto value = reading(binaryFile({ stringOf(std::string(4'000'000, '\xff')) }));
+    ASSERT_TRUE(value);
+    EXPECT_TRUE(dataWithPropertyList(*value, binary, 0));
+    EXPECT_EQ(reading(binaryFile({ stringOf(std::string(5'000'000, '\xff')) })), std::nullopt);
+}
+
 TEST_F(ReadingAPropertyListFile, KeepsAMomentBeforeTheReferenceDate)
 {
     const auto date = std::string("\x33\xbf\xf8\0\0\0\0\0\0", 9);
