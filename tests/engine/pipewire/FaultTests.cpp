@@ -296,6 +296,10 @@ TEST_F(AFaultyDesktop, HasOneOfTwoEnginesAtATime)
         eventually([&] { return contentsOf(errors).find("another equalizer") != std::string::npos; }));
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
     EXPECT_LT(loudest(hw1->samples(begin)), equalizedLimit);
+    // It says so once, whatever comes and goes.
+    system.plugIn("hw3");
+    system.unplug("hw3");
+    EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
     engine->stop();
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel)) << "the second one takes over";
     EXPECT_EQ(countOf("another equalizer", contentsOf(errors)), 1u);

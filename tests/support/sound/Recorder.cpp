@@ -1,6 +1,7 @@
 #include "tests/support/sound/Recorder.h"
 
 #include "desktop/engine/pipewire/ChannelLayout.h"
+#include "tests/support/EnvironmentVariable.h"
 #include "tests/support/sound/SoundSystem.h"
 #include "tests/support/sound/Wait.h"
 
@@ -50,6 +51,11 @@ void Recorder::open(const std::string& device, const std::vector<std::string>& c
         wanted.process = process;
         return wanted;
     }();
+    // The thread that records has real-time priority, as those that play have: later versions give it by
+    // themselves.
+#if !PW_CHECK_VERSION(1, 4, 0)
+    const EnvironmentVariable configuration("PIPEWIRE_CONFIG_NAME", "client-rt.conf");
+#endif
     pw_init(nullptr, nullptr);
     _loop = pw_thread_loop_new("recorder", nullptr);
     const auto latency = std::to_string(frames) + "/" + std::to_string(rate);
