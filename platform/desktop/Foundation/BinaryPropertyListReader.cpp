@@ -324,7 +324,7 @@ bool isBinaryPropertyList(std::span<const std::byte> bytes)
 
 std::optional<PropertyList> readBinaryPropertyList(std::span<const std::byte> bytes)
 {
-    if (!isBinaryPropertyList(bytes) || bytes.size() > longestPropertyListFile)
+    if (!isBinaryPropertyList(bytes))
         return std::nullopt;
     return Reader(bytes).read();
 }
