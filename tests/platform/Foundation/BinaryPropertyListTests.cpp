@@ -156,6 +156,7 @@ TEST(ABinaryDictionary, HasTextsForKeys)
 {
     EXPECT_EQ(reading(binaryFile({ dictionaryOf(1, 1), "\x09" })), std::nullopt);
     EXPECT_EQ(reading(binaryFile({ dictionaryOf(1, 1), arrayOf({}) })), std::nullopt);
+    EXPECT_EQ(reading(binaryFile({ dictionaryOf(1, 1), bytes({ 0x41, 'a' }) })), std::nullopt);
 }
 
 TEST(ABinaryObject, ThatEndsBehindTheObjectsIsNone)
@@ -198,6 +199,10 @@ TEST(ABinaryFile, WithAWrongTrailerIsNone)
         file[trailer + offset] = value;
         EXPECT_EQ(reading(file), std::nullopt) << offset;
     }
+    // The magic would be a text.
+    auto early = good;
+    early[trailer - 1] = 0;
+    EXPECT_EQ(reading(early), std::nullopt) << "an object in the magic";
     auto other = good;
     other[7] = '1';
     EXPECT_EQ(reading(other), std::nullopt) << "of another version";

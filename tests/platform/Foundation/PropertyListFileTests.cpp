@@ -239,6 +239,13 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
         objects.push_back(arrayOf({ i + 1, i + 1 }));
     objects.push_back("\x09");
     EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
+
+    // The entries count by themselves: their key takes no room.
+    std::vector<std::string> dictionaries { dictionaryOf(1, 2), stringOf("") };
+    for (int i = 2; i < 100; ++i)
+        dictionaries.push_back(dictionaryOf({ 1, 1 }, { i + 1, i + 1 }));
+    dictionaries.emplace_back("\x09");
+    EXPECT_EQ(reading(binaryFile(dictionaries)), std::nullopt);
 }
 
 TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
@@ -383,6 +390,16 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
 {
     EXPECT_TRUE(dataWithPropertyList(PropertyList::Array(600'000, true), binary, 0));
     EXPECT_FALSE(dataWithPropertyList(PropertyList::Array(650'000, true), binary, 0));
+    EXPECT_TRUE(dataWithPropertyList(std::string(12'000'000, 'a'), binary, 0));
+    EXPECT_FALSE(dataWithPropertyList(std::string(13'000'000, 'a'), binary, 0));
+
+    std::vector<PropertyListDictionary::Entry> entries;
+    entries.reserve(340'000);
+    for (int i = 0; i < 340'000; ++i)
+        entries.push_back({ std::to_string(i), true });
+    EXPECT_FALSE(dataWithPropertyList(PropertyListDictionary(entries), binary, 0));
+    entries.resize(200'000);
+    EXPECT_TRUE(dataWithPropertyList(PropertyListDictionary(entries), binary, 0));
 }
 
 TEST_F(WritingAPropertyListFile, TakesTenThousandPresets)
