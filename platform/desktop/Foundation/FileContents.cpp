@@ -67,9 +67,8 @@ bool reserve(int file, std::size_t length)
     int error = EINTR;
     while (error == EINTR)
         error = posix_fallocate(file, 0, static_cast<off_t>(length));
-    // Where the file system reserves nothing, glibc writes a zero into each new block instead. A C library
-    // that leaves that to the caller says so: the file is then overwritten without a reserve.
-    return error == 0 || error == EOPNOTSUPP;
+    // Where the file system reserves nothing, the C library writes a zero into each new block instead.
+    return error == 0;
 }
 
 void undoReserving(const std::filesystem::path& path, int file, std::size_t oldLength, bool isNew)
