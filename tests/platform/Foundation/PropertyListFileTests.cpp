@@ -309,6 +309,14 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatIsTooLong)
     EXPECT_EQ(reading(binaryOf(longest + 1)), std::nullopt);
 }
 
+TEST_F(ReadingAPropertyListFile, TakesNoMemoryForAFileThatIsTooLong)
+{
+    root.write(path, "bplist00");
+    // It holds next to nothing, and claims more than any machine has.
+    fs::resize_file(root.path() / "values.plist", std::uintmax_t { 1 } << 42);
+    EXPECT_EQ(readPropertyListFile(path), std::nullopt);
+}
+
 TEST_F(ReadingAPropertyListFile, GivesNothingForReferencesToNowhere)
 {
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 7 }) })), std::nullopt);
