@@ -203,23 +203,39 @@ double cost(const Subject& subject)
     return (cpuSeconds(subject.process) - before) / passed.count();
 }
 
-Json measure(SoundSystem& system, const std::vector<Subject>& subjects, const std::filesystem::path& tone)
+/// Both in a sound system of their own, whose blocks have that many frames.
+void measure(int quantum, Json& results)
 {
-    Json results = Json::array();
-    for (const int quantum : { 64, 256, 1024 }) {
-        system.setMetadata("settings", 0, "clock.force-quantum", std::to_string(quantum), "");
-        for (const auto& subject : subjects) {
-            const Player player(subject, tone);
-            auto result = latency(subject);
-            result["residue"] = drag(subject);
-            result["core"] = cost(subject);
-            result["quantum"] = quantum;
-            result["name"] = subject.name;
-            results.push_back(result);
-            std::cerr << result.dump() << "\n";
-        }
+    const TemporaryRoot root;
+    SoundSystem system;
+    system.setMetadata("settings", 0, "clock.force-quantum", std::to_string(quantum), "");
+    storePreferences(preamp(0));
+    Engine engine;
+    FilterChain chain(system.folder());
+    // Two minutes for each measurement.
+    const auto tone = system.folder() / "tone.wav";
+    writeSound(tone, sine(120));
+    const Subject subjects[] {
+        { "The engine", "brimsound",
+            [](double gain) {
+                tests::Gains gains {};
+                gains[band + 1] = gain;
+                send(gains);
+            },
+            engine.process().processIdentifier() },
+        { "PipeWire's filter chain", "chain", [&](double gain) { chain.setGain(band, gain); },
+            chain.processIdentifier() },
+    };
+    for (const auto& subject : subjects) {
+        const Player player(subject, tone);
+        auto result = latency(subject);
+        result["residue"] = drag(subject);
+        result["core"] = cost(subject);
+        result["quantum"] = quantum;
+        result["name"] = subject.name;
+        results.push_back(result);
+        std::cerr << result.dump() << "\n";
     }
-    return results;
 }
 
 } // namespace
@@ -231,26 +247,10 @@ int main(int argumentCount, char** arguments)
         return 2;
     }
     try {
-        const TemporaryRoot root;
-        SoundSystem system;
-        storePreferences(preamp(0));
-        Engine engine;
-        FilterChain chain(system.folder());
-        // Two minutes for each measurement.
-        const auto tone = system.folder() / "tone.wav";
-        writeSound(tone, sine(120));
-        const std::vector<Subject> subjects {
-            { "The engine", "brimsound",
-                [](double gain) {
-                    tests::Gains gains {};
-                    gains[band + 1] = gain;
-                    send(gains);
-                },
-                engine.process().processIdentifier() },
-            { "PipeWire's filter chain", "chain", [&](double gain) { chain.setGain(band, gain); },
-                chain.processIdentifier() },
-        };
-        std::ofstream(arguments[1]) << measure(system, subjects, tone).dump(1) << "\n";
+        Json results = Json::array();
+        for (const int quantum : { 64, 256, 1024 })
+            measure(quantum, results);
+        std::ofstream(arguments[1]) << results.dump(1) << "\n";
     } catch (const std::exception& error) {
         std::fprintf(stderr, "sound_latency: %s\n", error.what());
         return 1;
