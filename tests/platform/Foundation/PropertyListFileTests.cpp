@@ -197,7 +197,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForContainersNestedWithoutEnd)
 
 TEST_F(ReadingAPropertyListFile, TakesValuesInUpToFiveHundredAndTwelveContainers)
 {
-    const auto markup = [](int depth, const std::string& value) {
+    const auto markup = [](std::size_t depth, const std::string& value) {
         return "<plist>" + repeat("<array>", depth) + value + repeat("</array>", depth) + "</plist>";
     };
     const auto binaryOf = [](int depth, const std::string& value) {
