@@ -398,8 +398,8 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
 {
     EXPECT_TRUE(dataWithPropertyList(PropertyList::Array(600'000, true), binary, 0));
     EXPECT_FALSE(dataWithPropertyList(PropertyList::Array(650'000, true), binary, 0));
-    EXPECT_TRUE(dataWithPropertyList(std::string(12'000'000, 'a'), binary, 0));
-    EXPECT_FALSE(dataWithPropertyList(std::string(13'000'000, 'a'), binary, 0));
+    EXPECT_TRUE(dataWithPropertyList(repeat("a", 12'000'000), binary, 0));
+    EXPECT_FALSE(dataWithPropertyList(repeat("a", 13'000'000), binary, 0));
 
     std::vector<PropertyListDictionary::Entry> entries;
     entries.reserve(340'000);
