@@ -1,11 +1,15 @@
+#include "platform/UIKit/UIButton.h"
 #include "platform/UIKit/UISlider.h"
 #include "platform/UIKit/UISwitch.h"
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/AlertPeer.h"
 #include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/UIKit/ImagePeer.h"
 #include "platform/desktop/UIKit/SliderPeer.h"
 #include "platform/desktop/UIKit/TablePeer.h"
+#include "platform/desktop/UIKit/TextButton.h"
+#include "platform/desktop/UIKit/TextFieldPeer.h"
 #include "platform/desktop/UIKit/Theme.h"
 #include "platform/desktop/UIKit/ViewPeer.h"
 #include "tests/platform/UIKit/Images.h"
@@ -16,6 +20,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace brimsound::tests {
@@ -266,6 +271,88 @@ TEST_F(APicture, OfASwitchShowsItsKnobOnTheSideWhereItIs)
     toggle->setOn(true, Animated::No);
     EXPECT_THAT(pixel(46, 25), isWhite);
     EXPECT_THAT(pixel(18, 25), IsThemed(desktop::theme::switchOn));
+}
+
+TEST_F(APicture, OfATextButtonIsShadedWhileAFingerIsOnIt)
+{
+    const auto button = make<desktop::TextButton>("OK", UIFont::systemFontOfSize(17), [] {});
+    button->setFrame(CGRectMake(10, 10, 60, 40));
+    window->addSubview(*button);
+    EXPECT_THAT(pixel(12, 12), isWhite);
+    window->touchDown({ { 20, 20 }, desktop::Pointer::Finger });
+    EXPECT_THAT(pixel(12, 12), IsThemed(desktop::theme::rowPressed));
+    EXPECT_THAT(pixel(69, 49), IsThemed(desktop::theme::rowPressed));
+    window->touchMove({ 20, 300 });
+    EXPECT_THAT(pixel(12, 12), isWhite);
+    window->touchMove({ 20, 20 });
+    EXPECT_THAT(pixel(12, 12), IsThemed(desktop::theme::rowPressed));
+    window->touchUp({ 20, 20 });
+    EXPECT_THAT(pixel(12, 12), isWhite);
+}
+
+TEST_F(APicture, OfATextFieldShowsItsReturnKeyWhileItIsEditedAndPaleWhileItIsPressed)
+{
+    const auto field = make<UITextField>(CGRectMake(0, 10, 100, 28));
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    window->addSubview(*field);
+    // The key's color has no red and the white around it has all of it, so the least red tells how strong the
+    // key is.
+    const auto leastRed = [&] {
+        const auto picture = pictureOf(*window, 4);
+        const auto key = peerOf(*field).returnKey->frame();
+        int least = 255;
+        for (int y = 4 * 10; y < 4 * 38; ++y) {
+            for (int x = static_cast<int>(4 * key.origin.x); x < 4 * 100; ++x)
+                least = std::min(least, picture.pixelColor(x, y).red());
+        }
+        return least;
+    };
+    EXPECT_EQ(leastRed(), 255) << "no key yet";
+    field->becomeFirstResponder();
+    EXPECT_LE(leastRed(), 10);
+    window->touchDown({ { 95, 24 }, desktop::Pointer::Mouse });
+    EXPECT_NEAR(leastRed(), 255 * 0.7, 10);
+    window->touchMove({ 95, 300 });
+    EXPECT_LE(leastRed(), 10);
+    window->touchCancel();
+    field->resignFirstResponder();
+    EXPECT_EQ(leastRed(), 255);
+}
+
+TEST_F(APicture, OfAnAlertInALowWindowHasNoTextOnTheButtons)
+{
+    const auto pictureWith = [&](const std::string& message) {
+        make<UIAlertView>("", message, nullptr, "", std::vector<std::string> { "" })->show();
+        desktop::Clock::shared().advance(1);
+        auto picture = pictureOf(*window, 1);
+        window->alerts().dismissAll();
+        desktop::Clock::shared().advance(1);
+        return picture;
+    };
+    const auto lower = [](const QImage& picture) { return picture.copy(0, 36, 100, 44); };
+    const auto without = pictureWith("");
+    const auto with = pictureWith("mmm mmm mmm mmm mmm mmm mmm mmm mmm mmm mmm mmm");
+    EXPECT_NE(with, without);
+    EXPECT_EQ(lower(with), lower(without));
+}
+
+TEST_F(APicture, OfAFocusRingFollowsTheRoundedCornersAroundItsView)
+{
+    const auto panel = make<UIView>(CGRectMake(0, 0, 100, 80));
+    panel->layer().setCornerRadius(20);
+    panel->setClipsToBounds(true);
+    window->addSubview(*panel);
+    const auto button = make<UIButton>(CGRectMake(0, 0, 100, 80));
+    panel->addSubview(*button);
+    peerOf(*button).showsFocus = true;
+    // The line's middle is an arc of 16 points around the corner's own middle.
+    const auto picture = pictureOf(*window, 4);
+    const int onTheArc = static_cast<int>(std::lround(4 * (20 - 16 / std::sqrt(2.0))));
+    EXPECT_THAT(picture.pixelColor(onTheArc, onTheArc), IsThemed(desktop::theme::tint));
+    EXPECT_THAT(picture.pixelColor(onTheArc - 7, onTheArc - 7), isWhite) << "nothing outside of it";
+    EXPECT_THAT(picture.pixelColor(4 * 50, 4 * 4), IsThemed(desktop::theme::tint));
+    EXPECT_THAT(picture.pixelColor(4 * 50, 4 * 2), isWhite);
+    peerOf(*button).showsFocus = false;
 }
 
 TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)

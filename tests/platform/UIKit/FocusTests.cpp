@@ -757,6 +757,15 @@ TEST_F(TheKeyboardInAList, HasARingAroundTheRow)
     EXPECT_EQ(list.peer().focusRing().rect, CGRectMake(4, 48, 312, 36));
 }
 
+TEST_F(TheKeyboardInAList, HasARingBesideTheRoundedCornersThatCutTheListOff)
+{
+    press(Key::Tab);
+    EXPECT_EQ(list.peer().focusRing().radius, 10);
+    list.window->layer().setCornerRadius(20);
+    list.window->setClipsToBounds(true);
+    EXPECT_EQ(list.peer().focusRing().radius, 16);
+}
+
 TEST(AFocusRing, KeepsToWhatShowsOfAView)
 {
     const auto window = make<Window>(CGSize { 320, 400 });
