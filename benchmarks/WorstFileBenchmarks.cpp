@@ -20,18 +20,11 @@ std::string copiesOf(std::size_t count, const std::string& object)
     return binaryFile({ dictionaryOf(1, 2), stringOf("k"), arrayOfCopies(count, 3), object });
 }
 
-/// Keys of one hash for a hash that multiplies by 33, as many do: two characters after one another stand for
-/// two others.
-std::string collidingKeys()
+std::string keysThatCollide()
 {
-    constexpr int pairs = 16;
     std::string entries;
-    for (unsigned bits = 0; bits < 1u << pairs; ++bits) {
-        std::string key;
-        for (int pair = 0; pair < pairs; ++pair)
-            key += (bits >> pair & 1u) != 0 ? "aB" : "b!";
+    for (const auto& key : collidingKeys())
         entries += "<key>" + key + "</key><true/>";
-    }
     return "<plist><dict>" + entries + "</dict></plist>";
 }
 
@@ -83,7 +76,7 @@ const bool added = [] {
     addBenchmark("copiesOfABoolean", [] { return copiesOf(100'000, "\x09"); });
     addBenchmark("copiesOfAnArray", [] { return copiesOf(150'000, "\xa0"); });
     addBenchmark("copiesOfALongText", [] { return copiesOf(50, stringOf(std::string(100'000, 'x'))); });
-    addBenchmark("keysThatCollide", collidingKeys);
+    addBenchmark("keysThatCollide", keysThatCollide);
     addBenchmark("referencesThatDouble", doublingReferences);
     addBenchmark("deepAndWide", nestedArrays);
     addBenchmark("aCountBeyondTheFile", countBeyondTheFile);

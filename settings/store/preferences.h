@@ -10,8 +10,8 @@ namespace brimsound {
 /// calls this anew: the file is the only store.
 PropertyList::Dictionary get_preferences();
 
-/// Overwrites the file in place with the preferences as a binary property list. A failure is not reported, and
-/// leaves the file as it was wherever writeToFile reserves the room for the new one first.
+/// Overwrites the file in place with the preferences as a binary property list. A failure is not reported,
+/// and leaves the file as it was wherever writeToFile reserves the room for the new one first.
 void write_preferences(PropertyList::Dictionary preferences);
 
 } // namespace brimsound

@@ -95,4 +95,17 @@ std::string repeat(std::string_view text, std::size_t times)
     return all;
 }
 
+std::vector<std::string> collidingKeys()
+{
+    constexpr int pairs = 16;
+    std::vector<std::string> keys;
+    for (unsigned bits = 0; bits < 1u << pairs; ++bits) {
+        std::string key;
+        for (int pair = 0; pair < pairs; ++pair)
+            key += (bits >> pair & 1u) != 0 ? "aB" : "b!";
+        keys.push_back(std::move(key));
+    }
+    return keys;
+}
+
 } // namespace brimsound::tests

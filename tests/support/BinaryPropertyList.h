@@ -29,4 +29,8 @@ std::string stringOf(std::string_view bytes);
 /// The text that many times.
 std::string repeat(std::string_view text, std::size_t times);
 
+/// 65,536 keys of one hash for a hash that multiplies by 33, as many do: two characters after one another
+/// stand for two others.
+std::vector<std::string> collidingKeys();
+
 } // namespace brimsound::tests

@@ -166,7 +166,7 @@ void Session::update()
     std::optional<StreamRouting::OwnNodes> own;
     if (_sink) {
         auto serial = _graph.serialOf(_sink->sinkNode());
-        // The output was made before.
+        // The output is made before the sink, so it is in the graph as well.
         if (!serial.empty())
             own = { _sink->sinkNode(), std::move(serial), _sink->outputNode() };
     }

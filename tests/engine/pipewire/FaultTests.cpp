@@ -153,7 +153,7 @@ TEST_F(AFaultyDesktop, IsHeardAgainWhenTheSessionManagerBringsItsDevicesBackLate
     for (const auto* name : { "surround", "hw2", "hw1" })
         system.unplug(name);
     system.startSessionManager();
-    // Some take their time.
+    // Longer than the engine first waits for the output to be linked.
     std::this_thread::sleep_for(std::chrono::seconds(3));
     system.plugIn("hw1");
     ASSERT_TRUE(system.waitForDefault("hw1"));

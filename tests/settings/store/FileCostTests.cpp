@@ -156,22 +156,7 @@ TEST_F(AFileThatCosts, StaysWithinBoundsWithLongTexts)
         expectWithinBounds(manyTimes, markupWithText(text));
 }
 
-/// Keys of one hash for a hash that multiplies by 33, as many do: two characters after one another stand for
-/// two others.
-std::vector<std::string> collidingKeys()
-{
-    constexpr int pairs = 16;
-    std::vector<std::string> keys;
-    for (unsigned bits = 0; bits < 1u << pairs; ++bits) {
-        std::string key;
-        for (int pair = 0; pair < pairs; ++pair)
-            key += (bits >> pair & 1u) != 0 ? "aB" : "b!";
-        keys.push_back(std::move(key));
-    }
-    return keys;
-}
-
-/// A dictionary of those keys, each for the object behind the last of them.
+/// A dictionary of the keys, each for the object behind the last of them.
 std::vector<std::string> dictionaryOfKeys(const std::vector<std::string>& keys)
 {
     std::vector<int> places;
