@@ -37,7 +37,7 @@ void BrimsoundSettingsListController::sliderChanged(UISlider& sender)
                 highest = (*_sliders)[i]->value();
         }
         preamp().setValue(-highest);
-        // As if the preamp had been moved: that recolours every band, this one too, and sends once.
+        // As if the preamp had been moved: that recolors every band, this one too, and sends once.
         sliderChanged(preamp());
         return;
     }

@@ -22,7 +22,7 @@ class BrimsoundSettingsListController;
 // Process-wide, shared by all controllers and never reset: an observer that is registered once has to find
 // whichever controller is there when a notification comes.
 
-/// The sliders' captions, the preamp's first; that one is localised by the first controller and null until
+/// The sliders' captions, the preamp's first; that one is localized by the first controller and null until
 /// then.
 extern std::array<std::optional<std::string>, 11> FREQUENCY_STRS;
 /// Whether the observer for the settings-finished notification is registered.
@@ -33,7 +33,7 @@ extern bool _autoPreamp;
 /// How many deliveries of the settings-finished notification are still to be ignored, because the pane posted
 /// them.
 extern std::uint32_t _notificationsToSkip;
-/// The controller initialised last, not retained; null when it is gone.
+/// The controller initialized last, not retained; null when it is gone.
 extern BrimsoundSettingsListController* _activeController;
 
 /// Where the sliders are.
@@ -67,7 +67,7 @@ public:
     const Specifiers& specifiers() override;
 
     RetainPtr<UITableViewCell> tableViewCellForRowAtIndexPath(UITableView&, const NSIndexPath&) override;
-    /// Gives a band slider's track the colour of the gain that band and preamp add up to; given the preamp
+    /// Gives a band slider's track the color of the gain that band and preamp add up to; given the preamp
     /// slider, does so for every band and moves the black bar. The preamp's own track stays black.
     void updateSliderColor(UISlider&);
 

@@ -1,11 +1,11 @@
-// The colour that stands for a gain.
+// The color that stands for a gain.
 #pragma once
 
 #include "platform/UIKit/UIColor.h"
 
 namespace brimsound {
 
-/// Red and green of a gain's colour, from 0 to 1; blue is always 0.
+/// Red and green of a gain's color, from 0 to 1; blue is always 0.
 struct GainColor {
     float red;
     float green;

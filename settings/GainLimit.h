@@ -3,7 +3,7 @@
 
 namespace brimsound {
 
-/// A gain's range either way, in dB: that of every slider, of the gain colour and of a curve's bars.
+/// A gain's range either way, in dB: that of every slider, of the gain color and of a curve's bars.
 inline constexpr float gainLimit = 12;
 
 } // namespace brimsound

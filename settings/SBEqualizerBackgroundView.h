@@ -9,7 +9,7 @@
 namespace brimsound {
 
 /// Ten bars side by side, one a band, the lowest at the left. They stand on the view's bottom edge: empty at
-/// -12 dB, half the view's height at 0 dB, all of it at +12 dB. Their colour is that of their gain, unless a
+/// -12 dB, half the view's height at 0 dB, all of it at +12 dB. Their color is that of their gain, unless a
 /// fixed one is set. Gains are arrays of ten, in dB; null means that there are none, which shows as ten
 /// yellow bars of half the height.
 ///
@@ -20,16 +20,16 @@ public:
     /// initWithFrame:gains:, initWithFrame: and init.
     explicit SBEqualizerBackgroundView(const CGRect& frame = {}, const float* gains = nullptr);
 
-    /// Gives all bars one colour at once, which they keep whatever the gains. Null brings back the colours of
+    /// Gives all bars one color at once, which they keep whatever the gains. Null brings back the colors of
     /// the gains at the next setGains.
     void setColor(const RetainPtr<UIColor>&);
-    /// From the next setGains on, colours have this saturation (0 to 1) in place of their own, and a fixed
-    /// colour is dropped. -0.5 or less means that they keep their own.
+    /// From the next setGains on, colors have this saturation (0 to 1) in place of their own, and a fixed
+    /// color is dropped. -0.5 or less means that they keep their own.
     void setSaturation(float);
 
     /// Copies the gains, which need to be there no longer than the call.
     void setGains(const float* gains);
-    /// Animated, the bars move to their new places and colours over half a second.
+    /// Animated, the bars move to their new places and colors over half a second.
     void setGainsAnimated(const float* gains, Animated);
     /// The view's own copy, null when there is none. It is the same buffer until gains are set to null, which
     /// frees it.

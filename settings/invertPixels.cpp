@@ -28,7 +28,7 @@ std::uint32_t alphaForEachColor(std::uint32_t pixel)
 }
 
 /// Whether no color is above its pixel's alpha: then subtracting the colors from the alpha borrows from no
-/// neighbour.
+/// neighbor.
 bool arePremultiplied(std::span<const std::uint32_t> pixels)
 {
     std::uint32_t borrows = 0;
