@@ -19,7 +19,7 @@ public:
 
     const std::string& bundlePath() const { return _path; }
 
-    /// The device path of a resource, a localised one from the user's most preferred language that has it.
+    /// The device path of a resource, a localized one from the user's most preferred language that has it.
     /// Nothing when the bundle does not hold it.
     std::optional<std::string> pathForResource(std::string_view name, std::string_view type) const;
 

@@ -65,7 +65,7 @@ private:
 };
 
 /// One property-list value, with everything inside it; copies are deep, everything can be changed in place.
-/// Null (no value) stands for Foundation's nil: it converts to zero or false and cannot be serialised.
+/// Null (no value) stands for Foundation's nil: it converts to zero or false and cannot be serialized.
 /// Text is UTF-8. A file may hold half a surrogate pair as well: it is kept as three bytes, encoded as if it
 /// were a character.
 class PropertyList {

@@ -24,7 +24,7 @@ enum class Atomically { No, Yes };
 /// when there is no file, when it cannot be read, or when it is not a property list.
 std::optional<PropertyList> readPropertyListFile(const std::string& path);
 
-/// Serialises the value. Nothing when it cannot be: when it is, or holds, null.
+/// Serializes the value. Nothing when it cannot be: when it is, or holds, null.
 std::optional<PropertyList::Data> dataWithPropertyList(
     const PropertyList&, NSPropertyListFormat, NSPropertyListWriteOptions);
 

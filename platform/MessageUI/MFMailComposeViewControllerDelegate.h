@@ -19,7 +19,7 @@ class MFMailComposeViewControllerDelegate {
 public:
     virtual ~MFMailComposeViewControllerDelegate() = default;
 
-    /// The user sent or cancelled the mail; the sheet still stands. `error` is null unless the result is
+    /// The user sent or canceled the mail; the sheet still stands. `error` is null unless the result is
     /// Failed.
     virtual void mailComposeControllerDidFinishWithResultError(
         MFMailComposeViewController&, MFMailComposeResult, const NSError* /*error*/)

@@ -15,7 +15,7 @@ public:
     /// The target, which the get, set and action selectors are sent to, is not retained.
     PSSpecifier(const std::string& name, NSObject& target, PropertyList::Dictionary properties);
 
-    /// The localised label.
+    /// The localized label.
     std::string name() const;
     NSObject& target() const;
 

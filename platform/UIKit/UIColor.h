@@ -1,4 +1,4 @@
-// Colours.
+// Colors.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -6,7 +6,7 @@
 
 namespace brimsound {
 
-/// An unchanging colour in RGB. Components run from 0 to 1: what is below counts as 0 and what is above as 1.
+/// An unchanging color in RGB. Components run from 0 to 1: what is below counts as 0 and what is above as 1.
 class UIColor : public NSObject {
 public:
     static RetainPtr<UIColor> colorWithRedGreenBlueAlpha(
@@ -25,9 +25,9 @@ public:
     /// Black at alpha 0.
     static RetainPtr<UIColor> clearColor();
 
-    /// Hands out the components. False, with nothing handed out, for a colour that has none in RGB.
+    /// Hands out the components. False, with nothing handed out, for a color that has none in RGB.
     bool getRedGreenBlueAlpha(CGFloat& red, CGFloat& green, CGFloat& blue, CGFloat& alpha) const;
-    /// The same for hue, saturation and brightness: false where a component is no number. A grey has hue 0.
+    /// The same for hue, saturation and brightness: false where a component is no number. A gray has hue 0.
     bool getHueSaturationBrightnessAlpha(
         CGFloat& hue, CGFloat& saturation, CGFloat& brightness, CGFloat& alpha) const;
 

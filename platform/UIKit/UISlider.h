@@ -23,7 +23,7 @@ public:
     /// Lowers the minimum along when it would be above.
     void setMaximumValue(float);
 
-    /// The colour of the track between its start and the thumb; null for the platform's own.
+    /// The color of the track between its start and the thumb; null for the platform's own.
     RetainPtr<UIColor> minimumTrackTintColor() const;
     void setMinimumTrackTintColor(RetainPtr<UIColor>);
 

@@ -44,7 +44,7 @@ public:
     /// The cell of a row that is on view, else null.
     UITableViewCell* cellForRowAtIndexPath(const NSIndexPath&) const;
 
-    /// The hairlines between rows; null (as at first) for the platform's own colour.
+    /// The hairlines between rows; null (as at first) for the platform's own color.
     RetainPtr<UIColor> separatorColor() const;
     void setSeparatorColor(RetainPtr<UIColor>);
 

@@ -51,7 +51,7 @@ public:
     /// The cell sizes it to its bounds; null (as at first) for none.
     UIView* backgroundView() const;
     void setBackgroundView(RetainPtr<UIView>);
-    /// At first a view in the platform's own grey, or in the background colour that it is given. The cell
+    /// At first a view in the platform's own gray, or in the background color that it is given. The cell
     /// holds it apart, and puts it into the view tree, sized to its bounds, while the row is pressed or
     /// selected; null for a row that then looks as ever.
     UIView* selectedBackgroundView() const;

@@ -27,7 +27,7 @@ enum class UITextAutocapitalizationType {
 
 /// Edits its text while it is the first responder, which a touch makes it. It has no border and no background
 /// of its own. Text that does not fit scrolls while it is edited and ends in an ellipsis otherwise. How the
-/// keyboard looks, what its return key says and what it capitalises by itself are wishes to a keyboard on the
+/// keyboard looks, what its return key says and what it capitalizes by itself are wishes to a keyboard on the
 /// screen; one with keys of its own types what it types.
 class UITextField : public UIControl {
 public:

@@ -87,7 +87,7 @@ public:
     bool isFirstResponder() const;
 
     /// Makes changes that show as movements of that many seconds, starting now: of frames, alphas and
-    /// background colours. The views have their new values at once.
+    /// background colors. The views have their new values at once.
     static void animateWithDurationAnimations(double seconds, const std::function<void()>& animations);
 
 protected:

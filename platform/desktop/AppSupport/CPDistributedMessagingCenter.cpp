@@ -27,7 +27,7 @@ struct MessagingCenterPeer : Peer {
     std::string path;
 };
 
-// A negative errno, or the error that came as reply, is in `error` afterwards.
+// A negative errno, or the error that came as reply, is in `error` afterward.
 int call(const MessagingCenterPeer& center, const std::string& name, const PropertyList::Dictionary& userInfo,
     PropertyList::Dictionary& reply, sd_bus_error& error)
 {

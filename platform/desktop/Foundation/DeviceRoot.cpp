@@ -74,7 +74,7 @@ void prepareDeviceRoot()
 
 fs::path resolveDevicePath(std::string_view devicePath)
 {
-    // Normalising an absolute path leaves no ".." in it.
+    // Normalizing an absolute path leaves no ".." in it.
     const auto path = ("/" / fs::path(devicePath)).lexically_normal();
     static const fs::path bundle = "/Library/PreferenceBundles/BrimsoundSettings.bundle";
     if (startsWith(path, bundle))

@@ -10,7 +10,7 @@ namespace brimsound {
 
 namespace {
 
-// "" is the bundle's own folder, for what is not localised.
+// "" is the bundle's own folder, for what is not localized.
 std::vector<std::string> resourceFolders()
 {
     std::vector<std::string> folders;

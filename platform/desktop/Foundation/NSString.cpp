@@ -7,8 +7,8 @@ namespace brimsound {
 
 std::string stringWithFormat(const char* format, double number)
 {
-    static const locale_t unlocalised = newlocale(LC_ALL_MASK, "C", nullptr);
-    const locale_t before = uselocale(unlocalised);
+    static const locale_t unlocalized = newlocale(LC_ALL_MASK, "C", nullptr);
+    const locale_t before = uselocale(unlocalized);
     // As much as a string holds without memory of its own, which is enough for a caption.
     std::string text;
     text.resize(text.capacity());

@@ -165,7 +165,7 @@ bool SessionBus::processOne()
         if (!bus)
             return false;
         const int handled = sd_bus_process(bus, nullptr);
-        // Busy: this was called by a handler, and the call that is under way goes on afterwards.
+        // Busy: this was called by a handler, and the call that is under way goes on afterward.
         if (handled == -EBUSY)
             continue;
         // A handler may have opened another one meanwhile.
@@ -193,7 +193,7 @@ void SessionBus::process()
 
 void SessionBus::drain()
 {
-    // Called by a handler: the call that is under way goes on afterwards.
+    // Called by a handler: the call that is under way goes on afterward.
     if (!listener() || sd_bus_get_current_message(_listener.get()))
         return;
     // Messages come in their order. When the bus has answered the speaker, it has passed on what that said;

@@ -67,7 +67,7 @@ PSListController::~PSListController() = default;
 PSListController* PSListController::initForContentSize(CGSize size)
 {
     ios::answerSelectors(*this);
-    // A native initialiser that fails takes the caller's reference with it; ours leaves it to the caller.
+    // A native initializer that fails takes the caller's reference with it; ours leaves it to the caller.
     BRListController* native = [nativeOf(*this) retain];
     if (![native br_baseInitForContentSize:ios::native(size)])
         return nullptr;

@@ -1,4 +1,4 @@
-// Colours.
+// Colors.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>
