@@ -16,7 +16,7 @@ enum class PanelState {
 /// Hidden for a panel that was never shown (null).
 PanelState panelStateOf(const PlaylistSaver*);
 
-/// The fields of a state line. Sliders, labels, colours and bar are empty or null while there is no pane or
+/// The fields of a state line. Sliders, labels, colors and bar are empty or null while there is no pane or
 /// its sliders are not built; rows and selected preset are those of the panel's last showing.
 Json stateOf(const PaneHost&);
 

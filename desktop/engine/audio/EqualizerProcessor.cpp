@@ -122,10 +122,10 @@ void EqualizerProcessor::beginStep() noexcept
     _coefficients = _end;
     _position = 0;
     _settled = _preamp.isAt(_targets.preamp);
-    _preamp.stepTowards(_targets.preamp, _share);
+    _preamp.stepToward(_targets.preamp, _share);
     for (std::size_t band = 0; band < bandCount; ++band) {
         _settled = _settled && _gains[band].isAt(_targets.gains[band]);
-        _gains[band].stepTowards(_targets.gains[band], _share);
+        _gains[band].stepToward(_targets.gains[band], _share);
     }
     if (!_settled)
         _end = coefficientsOfSmoothers();

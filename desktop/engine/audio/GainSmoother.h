@@ -15,9 +15,9 @@ public:
 
     void jumpTo(double target) { _first = _second = target; }
 
-    /// One step towards the target; `share` is what each pole covers of its distance, 1 - exp(-step / time
+    /// One step toward the target; `share` is what each pole covers of its distance, 1 - exp(-step / time
     /// constant). Ends on the target exactly.
-    void stepTowards(double target, double share)
+    void stepToward(double target, double share)
     {
         // A ten-thousandth of a dB is beyond hearing.
         constexpr double near = 1e-4;

@@ -58,7 +58,7 @@ public:
     /// The name of the sink that the session manager plays to by default; empty when there is none.
     void defaultSinkChanged(const std::string& name);
 
-    /// What has to be written now, in this order. It counts as written afterwards.
+    /// What has to be written now, in this order. It counts as written afterward.
     std::vector<MetadataWrite> takeWrites();
     /// What gives every stream back. Nothing is moved from then on.
     std::vector<MetadataWrite> release();
