@@ -17,9 +17,9 @@ constexpr double edgeWidth = 11;
 /// From 0 to 255.
 std::uint32_t alphaAt(std::size_t x, std::size_t y)
 {
-    const auto fromCentre
+    const auto fromCenter
         = [](std::size_t at) { return std::fmod(static_cast<double>(at), discDistance) - discDistance / 2; };
-    const double distance = std::hypot(fromCentre(x), fromCentre(y));
+    const double distance = std::hypot(fromCenter(x), fromCenter(y));
     const double inside = std::clamp((discRadius - distance) / edgeWidth, 0.0, 1.0);
     return static_cast<std::uint32_t>(std::lround(inside * 255));
 }

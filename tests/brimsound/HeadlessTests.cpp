@@ -129,7 +129,7 @@ TEST_F(AScript, ShowsTheStateOfThePane)
     EXPECT_EQ(state.at("colors")[0], (Json { 0.0, 0.0, 0.0, 1.0 }));
     EXPECT_EQ(state.at("colors")[3], (Json { 1.0, 1.0, 0.0, 1.0 }));
     EXPECT_EQ(state.at("colors")[4], (Json { 0.0, 1.0, 0.0, 1.0 }));
-    // The bar at the thumb's centre of a band at +12: 14 points before the slider's end.
+    // The bar at the thumb's center of a band at +12: 14 points before the slider's end.
     EXPECT_EQ(state.at("blackBar"), (Json { 35 + 280 - 14.0, 54.0, 1.0, 420.0 }));
     EXPECT_EQ(state.at("panel"), "hidden");
     EXPECT_EQ(state.at("switches"),

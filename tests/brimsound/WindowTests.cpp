@@ -98,7 +98,7 @@ TEST_F(ARealWindow, CanBeResized)
     pane.say("wait 0.2");
     pane.say("touch 0");
     pane.say("drag 0 6");
-    // The sliders are as wide as the row but for 40 points, and the thumb's centre keeps 14 from their ends.
+    // The sliders are as wide as the row but for 40 points, and the thumb's center keeps 14 from their ends.
     const double bar = pane.state().at("blackBar")[0];
     EXPECT_NEAR(bar, 35 + 14 + (360 - 28) * (12 - 6) / 24.0, 1e-4);
 }

@@ -170,7 +170,7 @@ TEST_F(ThePrincipalClass, ShowsNoMailWhereThereIsNothingToShowItOver)
     [controller release];
 }
 
-TEST_F(ThePrincipalClass, AnswersNothingBeforeItIsInitialised)
+TEST_F(ThePrincipalClass, AnswersNothingBeforeItIsInitialized)
 {
     // The class learns its selectors with the first controller.
     [open() release];

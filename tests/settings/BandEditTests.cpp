@@ -159,7 +159,7 @@ TEST_F(DraggingABand, IgnoresThePreampItselfWhenLookingForTheHighest)
     EXPECT_EQ(pane.slider(0).value(), -2);
 }
 
-TEST_F(DraggingABand, RecoloursAllBandsAndMovesTheBarWithThePreamp)
+TEST_F(DraggingABand, RecolorsAllBandsAndMovesTheBarWithThePreamp)
 {
     const Pane pane(platform);
     const auto barBefore = pane.controller().blackBar()->frame().origin.x;
@@ -230,7 +230,7 @@ TEST_F(LettingGoOfASlider, IsNotTakenForAChangeFromElsewhere)
     EXPECT_EQ(_notificationsToSkip, 0u);
 }
 
-TEST_F(LettingGoOfASlider, OutsideOrCancelledOrDoneEditingSavesAsWell)
+TEST_F(LettingGoOfASlider, OutsideOrCanceledOrDoneEditingSavesAsWell)
 {
     const Pane pane(platform);
     pane.liftOutside(3);

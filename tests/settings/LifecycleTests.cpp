@@ -49,7 +49,7 @@ TEST_F(OpeningThePane, FillsTheCaptions)
         EXPECT_EQ(FREQUENCY_STRS[i], captions[i]);
 }
 
-TEST_F(OpeningThePane, LocalisesTheCaptionOnceInAProcess)
+TEST_F(OpeningThePane, LocalizesTheCaptionOnceInAProcess)
 {
     FREQUENCY_STRS[0] = "Vor";
     openController();
@@ -262,7 +262,7 @@ TEST_F(ANotification, ReloadsTheSlidersAndSendsNothing)
     EXPECT_THAT(pane.trace(), ElementsAre(deliversFinished, logsReload));
 }
 
-TEST_F(ANotification, RecoloursTheBandsAndMovesTheBar)
+TEST_F(ANotification, RecolorsTheBandsAndMovesTheBar)
 {
     const Pane pane(platform);
     const auto before = pane.controller().blackBar()->frame().origin.x;

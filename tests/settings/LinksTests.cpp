@@ -131,7 +131,7 @@ TEST_F(TheIssueReport, GoesWithoutPreferencesThatAreNotThere)
     EXPECT_EQ(platform.preferencesFile(), "");
 }
 
-TEST_F(TheIssueReport, IsDismissedAlikeWhetherSentOrCancelled)
+TEST_F(TheIssueReport, IsDismissedAlikeWhetherSentOrCanceled)
 {
     press("reportIssue:");
     platform.takeTrace();

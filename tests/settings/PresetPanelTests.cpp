@@ -420,7 +420,7 @@ TEST_F(TheCancelBar, LetGoOutsideKeepsThePanel)
     EXPECT_EQ(pane.root().alpha(), 1);
 }
 
-TEST_F(TheCancelBar, KeepsItsPressedLookAfterACancelledTouchUntilThePanelHides)
+TEST_F(TheCancelBar, KeepsItsPressedLookAfterACanceledTouchUntilThePanelHides)
 {
     const PresetPane pane(platform);
     pane.showPresets();

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 class SliderCell : public testing::Test {
 protected:
     /// The x of the bar for a preamp, worked out apart from the pane: where a thumb of that width has its
-    /// centre at the negated value.
+    /// center at the negated value.
     static double barX(const Pane& pane, double preamp)
     {
         const auto frame = pane.slider(0).frame();
@@ -27,7 +27,7 @@ protected:
 };
 
 using TheSliderRow = SliderCell;
-using TheGainColour = SliderCell;
+using TheGainColor = SliderCell;
 using TheBlackBar = SliderCell;
 
 TEST_F(TheSliderRow, IsTheOnlyTallOne)
@@ -256,7 +256,7 @@ TEST_F(TheSliderRow, NumbersTheControlEventsAsThePlatformDoes)
         0xC01C0u);
 }
 
-TEST_F(TheGainColour, RunsFromBlackThroughGreenYellowAndRedToBlack)
+TEST_F(TheGainColor, RunsFromBlackThroughGreenYellowAndRedToBlack)
 {
     const std::vector<std::tuple<float, float, float>> telling { { -24, 0, 0 }, { -18, 0, 0.5f },
         { -12, 0, 1 }, { -6, 0.5f, 1 }, { 0, 1, 1 }, { 6, 1, 0.5f }, { 12, 1, 0 }, { 18, 0.5f, 0 },
@@ -267,7 +267,7 @@ TEST_F(TheGainColour, RunsFromBlackThroughGreenYellowAndRedToBlack)
     }
 }
 
-TEST_F(TheGainColour, IsThatOfBandAndPreampTogether)
+TEST_F(TheGainColor, IsThatOfBandAndPreampTogether)
 {
     const Pane pane(platform);
     const auto colorFor = [&](float preamp, float band) {
@@ -281,7 +281,7 @@ TEST_F(TheGainColour, IsThatOfBandAndPreampTogether)
     EXPECT_THAT(colorFor(6, 12), ElementsAre(0.5, 0, 0, 1));
 }
 
-TEST_F(TheGainColour, OfOneBandIsUpdatedAlone)
+TEST_F(TheGainColor, OfOneBandIsUpdatedAlone)
 {
     const Pane pane(platform);
     pane.slider(4).setValue(12);
@@ -291,7 +291,7 @@ TEST_F(TheGainColour, OfOneBandIsUpdatedAlone)
     EXPECT_THAT(pane.color(5), ElementsAre(1, 1, 0, 1));
 }
 
-TEST_F(TheGainColour, OfAllBandsIsUpdatedWithThePreampWhichStaysBlack)
+TEST_F(TheGainColor, OfAllBandsIsUpdatedWithThePreampWhichStaysBlack)
 {
     const Pane pane(platform);
     const auto barBefore = pane.controller().blackBar()->frame().origin.x;
@@ -303,7 +303,7 @@ TEST_F(TheGainColour, OfAllBandsIsUpdatedWithThePreampWhichStaysBlack)
     EXPECT_GT(pane.controller().blackBar()->frame().origin.x, barBefore);
 }
 
-TEST_F(TheBlackBar, RunsOverTheBandStripsInLightGrey)
+TEST_F(TheBlackBar, RunsOverTheBandStripsInLightGray)
 {
     const Pane pane(platform);
     const auto* bar = pane.controller().blackBar();

@@ -1,5 +1,5 @@
 // The world around a pane under test. One implementation for each platform is linked in, so that the
-// behaviour tests are the same sources everywhere.
+// behavior tests are the same sources everywhere.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"

@@ -1,4 +1,4 @@
-# The behaviour of the product, tested over whatever platform there is.
+# The behavior of the product, tested over whatever platform there is.
 set(settings_test_sources
   BadPreferencesTests.cpp
   BandEditTests.cpp

@@ -229,7 +229,7 @@ TEST_F(Routing, KeepsStreamsThatAnotherRunHadMoved)
         routing.release(), ElementsAre(deletion(stream, "target.object"), deletion(stream, "target.node")));
 }
 
-TEST_F(Routing, GivesEveryStreamBackAtTheEndAndMovesNoneAfterwards)
+TEST_F(Routing, GivesEveryStreamBackAtTheEndAndMovesNoneAfterward)
 {
     isRouted();
     routing.streamChanged(71, with("target.object", "hw2"));

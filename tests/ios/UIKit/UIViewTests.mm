@@ -114,7 +114,7 @@ TEST_F(AView, IsLaidOutWhenItsSizeChanges)
     EXPECT_EQ(inner->layouts, before + 1);
     [outer layoutIfNeeded];
     EXPECT_EQ(inner->layouts, before + 1);
-    EXPECT_EQ(inner->framesSet, 2) << "and not by its initialiser";
+    EXPECT_EQ(inner->framesSet, 2) << "and not by its initializer";
 }
 
 TEST_F(AView, FollowsItsSuperviewsSizeAsFarAsItIsFlexible)

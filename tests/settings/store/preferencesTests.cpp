@@ -124,7 +124,7 @@ TEST_F(WritingThePreferences, ReplacesTheWholeFile)
     EXPECT_THAT(keysOf(storedPreferences()), ElementsAre("ENABLED"));
 }
 
-TEST_F(WritingThePreferences, LeavesTheFileAloneWhenThereIsNothingToSerialise)
+TEST_F(WritingThePreferences, LeavesTheFileAloneWhenThereIsNothingToSerialize)
 {
     write_preferences({ { "ENABLED", true } });
     const auto before = platform.preferencesFile();
