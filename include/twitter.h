@@ -1,4 +1,4 @@
-// Where the product's profile is found.
+// The addresses of the product's profile.
 #pragma once
 
 #include "include/Configuration.h"
@@ -7,8 +7,8 @@
 
 namespace brimsound {
 
-/// The profile in the client apps that know it, then on the web. The first one that can be opened is the one
-/// to open.
+/// The profile's address in each supported client app, then on the web. The first one that can be opened is
+/// used.
 inline constexpr std::array TWITTER_URL_SCHEMES {
     "twitterrific:///profile?screen_name=BrimsoundHQ",
     "tweetbot:///user_profile/BrimsoundHQ",

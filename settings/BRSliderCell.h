@@ -1,4 +1,3 @@
-// The table row that holds all eleven sliders.
 #pragma once
 
 #include "platform/UIKit/UILabel.h"
@@ -10,11 +9,12 @@
 
 namespace brimsound {
 
-/// Lists that a pane and its slider cell share.
+/// The lists are shared by a pane and its slider cell.
 using SliderList = std::vector<RetainPtr<UISlider>>;
 using LabelList = std::vector<RetainPtr<UILabel>>;
 
-/// Stretches the sliders with the cell. It holds the pane's own lists, filled or not.
+/// The table row that holds all eleven sliders. It resizes them with the cell. The lists are the pane's own
+/// and may still be empty.
 class BRSliderCell : public UITableViewCell {
 public:
     using UITableViewCell::UITableViewCell;

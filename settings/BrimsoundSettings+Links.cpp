@@ -26,7 +26,7 @@ void BrimsoundSettingsListController::reportIssue(PSSpecifier&)
     composer->addAttachmentDataMimeTypeFileName(
         diagnosticText(get_model(), preferredLanguages(), run_cmd("/usr/bin/env dpkg-query --show")),
         attachmentType, "Cydia_data.txt");
-    // Without a file there is nothing to look into, so the report goes without it.
+    // When the file cannot be read, the report is sent without it.
     if (auto preferences = dataWithContentsOfFile(preferencesPath))
         composer->addAttachmentDataMimeTypeFileName(std::move(*preferences), attachmentType, "prefs.plist");
     rootController().presentViewControllerAnimatedCompletion(composer, Animated::Yes, {});

@@ -9,7 +9,7 @@ const UIView& rootOf(const UIView& view)
     return view.superview() ? rootOf(*view.superview()) : view;
 }
 
-/// The topmost view below the window that the view is in.
+/// The ancestor of the view that is a direct subview of the window.
 UIView& topmostBelowWindow(UIView& view)
 {
     auto* host = &view;
@@ -22,14 +22,14 @@ UIView& topmostBelowWindow(UIView& view)
 
 void BrimsoundSettingsListController::showPresets(NSObject*)
 {
-    // In a low window the table may not have asked for the slider row yet. It gets this cell when it does.
+    // In a short window the table may not have asked for the slider row yet. It gets this cell when it does.
     if (!_sliders)
         _cellBuiltAhead = tableViewCellForRowAtIndexPath(table(), sliderRow);
     if (!_saver || !_saver->mainView())
         _saver = make<PlaylistSaver>(*this);
     _saver->setSliders({ _sliders->begin() + 1, _sliders->end() });
 
-    // A row that is off view is in no window, but its table is.
+    // A row that is scrolled out of view is in no window, but its table is.
     const bool isOnView = &rootOf(*_blackBar) == &rootOf(table());
     auto& host = topmostBelowWindow(isOnView ? *_blackBar : table());
     auto& panel = _saver->view();

@@ -11,7 +11,7 @@ namespace brimsound {
 
 namespace {
 
-/// The run-time name under which the table keeps the slider cell.
+/// The reuse identifier of the slider cell.
 constexpr auto sliderCellIdentifier = "slidershit";
 
 constexpr CGFloat otherRowHeight = 44;
@@ -29,7 +29,7 @@ RetainPtr<UILabel> makeCaption(const std::string& text, const CGRect& frame)
     return label;
 }
 
-/// What the preferences file holds, with no default for what it lacks.
+/// The contents of the preferences file. No defaults are filled in.
 PropertyList::Dictionary storedPreferences()
 {
     auto file = readPropertyListFile(preferencesPath);
@@ -74,7 +74,7 @@ void BrimsoundSettingsListController::buildSliders(BRSliderCell& cell, CGFloat s
     cell.setLabels(_labels);
 
     auto& content = cell.contentView();
-    // Added first, so that the bar lies behind the sliders.
+    // Added first, so that the bar is drawn behind the sliders.
     addBlackBar(content, stripHeight);
     const auto preferences = storedPreferences();
     const auto* gains = arrayForKey(preferences, peakingEqValuesKey);

@@ -32,12 +32,12 @@ void BrimsoundSettingsListController::sliderChanged(UISlider& sender)
     if (*index != 0 && _autoPreamp) {
         float highest = -gainLimit;
         for (std::size_t i = 1; i < _sliders->size(); ++i) {
-            // Of equal values the last one counts, which tells a zero from a minus zero.
+            // The last of several equal values counts. This makes a difference between 0 and -0.
             if (!((*_sliders)[i]->value() < highest))
                 highest = (*_sliders)[i]->value();
         }
         preamp().setValue(-highest);
-        // As if the preamp had been moved: that recolors every band, this one too, and sends once.
+        // The preamp sends all eleven values once and recolors every band, including this one.
         sliderChanged(preamp());
         return;
     }

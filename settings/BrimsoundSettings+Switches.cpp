@@ -10,10 +10,10 @@ namespace brimsound {
 
 namespace {
 
-/// From this version of Core Foundation on, restarting the user interface is restarting backboardd.
+/// From this Core Foundation version on, backboardd is restarted to restart the user interface.
 constexpr double firstWithBackboard = 792.0;
 
-/// The value that is stored under the key, as it is; the default when there is none.
+/// The stored value of the key, of any type; the default when the key is missing.
 PropertyList storedValue(const std::string& key, bool defaultValue)
 {
     const auto preferences = get_preferences();
@@ -34,8 +34,8 @@ void BrimsoundSettingsListController::showActivator(PSSpecifier&) { }
 
 void BrimsoundSettingsListController::respring(PSSpecifier&)
 {
-    // Only what is saved elsewhere would be lost, and nothing is: the hooks below have nothing to do, and the
-    // cell's switch is read for nothing.
+    // The switch's view is read but not used, and both functions below are empty: every setting is already in
+    // the file. Subclasses can override them.
     if (const auto* cell = table().cellForRowAtIndexPath({ 0, 0 }))
         static_cast<void>(cell->accessoryView());
     writeSettings();

@@ -1,4 +1,3 @@
-// The color that stands for a gain.
 #pragma once
 
 #include "platform/UIKit/UIColor.h"
@@ -15,7 +14,7 @@ struct GainColor {
 /// red = 1 above 0 dB, else (gain + 12) / 12; green = 1 below 0 dB, else (12 - gain) / 12.
 GainColor gainColor(float gain);
 
-/// The same, and beyond 12 dB either way fading to black at 24 dB.
+/// The same, but fading to black between 12 dB and 24 dB in either direction.
 GainColor fadingGainColor(float gain);
 
 RetainPtr<UIColor> uiColor(const GainColor&);

@@ -1,9 +1,9 @@
-// How far gains go.
 #pragma once
 
 namespace brimsound {
 
-/// A gain's range either way, in dB: that of every slider, of the gain color and of a curve's bars.
+/// The limit of a gain in either direction, in dB. It applies to every slider, to the gain color and to the
+/// bars of a curve.
 inline constexpr float gainLimit = 12;
 
 } // namespace brimsound

@@ -1,11 +1,10 @@
-// Texts in the user's language.
 #pragma once
 
 #include <string>
 
 namespace brimsound {
 
-/// The bundle's text for the key, or else the default.
+/// The bundle's text for the key in the user's language; the default when there is none.
 std::string localized(const std::string& key, const std::string& defaultText);
 
 } // namespace brimsound

@@ -1,4 +1,3 @@
-// The pane's log lines.
 #pragma once
 
 #include <string>

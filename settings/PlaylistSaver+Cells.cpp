@@ -1,4 +1,4 @@
-// How the rows look.
+// The appearance of the panel's rows.
 #include "settings/Localized.h"
 #include "settings/PlaylistSaver.h"
 #include "settings/SBEqualizerBackgroundView.h"
@@ -11,12 +11,12 @@ namespace {
 constexpr auto cellIdentifier = "PlaylistSaver";
 constexpr auto plusImagePath = "/Library/PreferenceBundles/BrimsoundSettings.bundle/plus@2x.png";
 
-// What a pressed row shows: a curve on a black backdrop.
+// A pressed row shows its curve in black on a black backdrop.
 constexpr long pressedBackdropTag = 59304;
 constexpr long pressedCurveTag = 23894;
 
 constexpr float paleSaturation = 0.1f;
-/// What the selected preset's row has more.
+/// Added to the saturation of the selected preset's row.
 constexpr float addedSaturation = 0.2f;
 
 UIView* pressedBackdropOf(UITableViewCell& cell)
@@ -36,7 +36,7 @@ RetainPtr<UITableViewCell> makeCell()
 {
     auto cell = make<UITableViewCell>(UITableViewCellStyle::Subtitle, cellIdentifier);
     cell->setBackgroundColor(UIColor::clearColor());
-    // Bars of gains beyond the range are higher than the row.
+    // Bars of gains beyond the limit are taller than the row.
     cell->setClipsToBounds(true);
     const auto* former = cell->backgroundView();
     cell->setBackgroundView(make<SBEqualizerBackgroundView>(former ? former->frame() : CGRect()));
@@ -111,7 +111,7 @@ void PlaylistSaver::showPreset(UITableViewCell& cell, std::size_t row) const
 void PlaylistSaver::showCurves(UITableViewCell& cell, const TenGains& gains, bool isSelected) const
 {
     auto& background = static_cast<SBEqualizerBackgroundView&>(*cell.backgroundView());
-    // What the curve tells the eye.
+    // A screen reader is told what the stronger colors show.
     cell.setAccessibilityTraits(isSelected ? UIAccessibilityTraitSelected : UIAccessibilityTraitNone);
     background.setSaturation(paleSaturation + addedSaturation * static_cast<float>(isSelected));
     if (auto* pressedCurve = pressedCurveOf(cell)) {

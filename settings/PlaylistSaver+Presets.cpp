@@ -1,4 +1,4 @@
-// The list itself: what it shows, and what becomes of the preferences file.
+// The panel's list of presets, and the changes that it writes to the preferences file.
 #include "platform/CoreFoundation/CFNotificationCenter.h"
 #include "settings/Log.h"
 #include "settings/PlaylistSaver.h"
@@ -22,7 +22,7 @@ bool haveTheSameNames(const PropertyList::Dictionary& a, const PropertyList::Dic
         [](const Entry& one, const Entry& other) { return one.key == other.key; });
 }
 
-/// At each showing, not at each row that scrolls by.
+/// Called once each time the panel is shown, not for each row.
 void logShortPresets(const PropertyList::Dictionary& presets)
 {
     for (const auto& [name, preset] : presets) {
@@ -90,7 +90,7 @@ void PlaylistSaver::tableViewDidSelectRowAtIndexPath(UITableView& table, const N
 void PlaylistSaver::choosePreset(std::size_t row)
 {
     const auto* found = getObjectAtIndexForDictKey(row, _presetDict, &_selectedPreset);
-    // These outlive whatever the delegate does to the list.
+    // A copy: the delegate may change the dictionary during the call below.
     auto preset = found ? *found : PropertyList();
     textFieldShouldReturn(nullptr);
     if (!_selectedPreset)
@@ -108,7 +108,7 @@ void PlaylistSaver::choosePreset(std::size_t row)
         selectedPreset->invoke(*_delegate, arguments);
     }
 
-    // Only now, as the delegate's band edits say that no preset is selected.
+    // Written after the delegate's band edits, each of which clears the selected preset.
     auto preferences = get_preferences();
     preferences.set(selectedPresetKey, name);
     writeAndAnnounce(std::move(preferences));
@@ -158,7 +158,8 @@ void PlaylistSaver::tableViewCommitEditingStyleForRowAtIndexPath(
     if (othersStay)
         table.deleteRowsAtIndexPathsWithRowAnimation({ indexPath }, UITableViewRowAnimation::Automatic);
     else
-        // Somebody else changed the file since it was shown, so the other rows mean other presets now.
+        // Another process changed the file since the list was loaded, so the other rows show outdated
+        // presets.
         table.reloadData();
 }
 

@@ -12,7 +12,7 @@ namespace {
 constexpr CGFloat margin = 44;
 constexpr CGFloat widest = 232;
 constexpr CGFloat barHeight = 44;
-/// The name strip and the cancel bar.
+/// The height of the name strip and the cancel bar together.
 constexpr CGFloat heightForNameEntry = 88;
 constexpr CGFloat cornerRadius = 20;
 constexpr double collapseTime = 0.2;
@@ -30,7 +30,7 @@ CGRect panelFrame(const CGRect& root)
     return CGRectMake((root.size.width - width) * 0.5, margin, width, root.size.height - 2 * margin);
 }
 
-/// Deliberately far larger than the bar that it lies in: it is cut off at the panel's edges.
+/// Much larger than the cancel bar on purpose; the panel's edges clip it.
 CGRect cancelButtonFrame(const CGRect& root)
 {
     return CGRectMake(0, 0, root.size.width, 88);
@@ -96,7 +96,7 @@ PlaylistSaver::PlaylistSaver(PlaylistSaverDelegate& delegate)
 
 PlaylistSaver::~PlaylistSaver()
 {
-    // They may be on view for longer than the panel lives.
+    // The presentation may keep these views longer than the panel exists.
     detachTable();
     newPlaylistField->setDelegate(nullptr);
     view().removeFromSuperview();
@@ -183,7 +183,7 @@ void PlaylistSaver::layOutForRootView()
 
 void PlaylistSaver::viewDidLayoutSubviews()
 {
-    // A layout that is due to anything else must not disturb what moves.
+    // Ignore layouts that are not due to a new size: they would interrupt an animation.
     if (!_mainView || _hideAllButton->frame().size == view().frame().size)
         return;
     const bool isCollapsed = !newPlaylistBackdrop->isHidden();

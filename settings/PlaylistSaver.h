@@ -1,4 +1,3 @@
-// The preset panel.
 #pragma once
 
 #include "platform/UIKit/UIButton.h"
@@ -16,31 +15,32 @@
 
 namespace brimsound {
 
-/// Any object may be told of the chosen preset. Its one method is optional: `playlistSaver:selectedPreset:`,
-/// with the panel and the preset's gains (an array of dB values, at least ten).
+/// Any object can be told which preset was chosen. Its method is optional: `playlistSaver:selectedPreset:`,
+/// called with the panel and the preset's gains (an array of at least ten values in dB).
 using PlaylistSaverDelegate = NSObject;
 
-/// Lists the presets over the pane, each with its curve; applies the one that is tapped, deletes by swipe,
-/// and saves the band sliders under a new name. Every change goes straight to the preferences file and is
-/// announced. A row means a position in the dictionary of presets: its order is that of the list.
+/// The preset panel. It lists the presets over the pane, each with its curve, applies the one that is tapped,
+/// deletes by swipe, and saves the band sliders under a new name. Every change is written to the preferences
+/// file at once and announced by a notification. A row's index is the preset's position in the dictionary.
 class PlaylistSaver : public UIViewController,
                       public UITableViewDataSource,
                       public UITableViewDelegate,
                       public UITextFieldDelegate {
 public:
-    /// initWithDelegate:. The panel is built but not shown; it retains the delegate.
+    /// initWithDelegate:. Builds the panel without showing it. The panel retains the delegate.
     explicit PlaylistSaver(PlaylistSaverDelegate&);
 
     std::span<const Method> methods() const override;
 
-    /// The ten band sliders, lowest band first, that a new preset takes its gains from.
+    /// The ten band sliders, lowest band first. A new preset takes its gains from them.
     void setSliders(std::vector<RetainPtr<UISlider>> sliders) { _sliders = std::move(sliders); }
 
-    /// Lays the panel out in the root view, with the list as the file has it, and shows it at once.
+    /// Reads the list from the file, places the panel in the root view, and shows it at once.
     void showEverything();
-    /// Lets the panel fade. The sender does not matter.
+    /// Fades the panel out. The sender is ignored.
     void hideEverything(NSObject* sender = nullptr);
-    /// The cancel bar's looks while it is pressed, and after that; the latter also puts the keyboard away.
+    /// Set the cancel bar's appearance while it is pressed and after it is released. The second also hides
+    /// the keyboard.
     void touchDownCancel(NSObject* sender = nullptr);
     void touchUpCancel(NSObject* sender = nullptr);
 
@@ -54,24 +54,24 @@ public:
         UITableView&, UITableViewCellEditingStyle, const NSIndexPath&) override;
     void tableViewDidSelectRowAtIndexPath(UITableView&, const NSIndexPath&) override;
 
-    /// Saves the sliders under the field's text, unless that is empty or there is no field; closes the panel
-    /// and returns false.
+    /// Saves the sliders' gains under the text in the field. Saves nothing when the text is empty or the
+    /// field is null. Closes the panel and returns false.
     bool textFieldShouldReturn(UITextField*) override;
 
-    /// The value at that position of the dictionary, and its key; null, and no key, beyond its end. `key` may
-    /// be null.
+    /// The value at that position of the dictionary, and its key; null and no key past the end. `key` may be
+    /// null.
     static const PropertyList* getObjectAtIndexForDictKey(
         std::size_t index, const PropertyList::Dictionary&, std::optional<std::string>* key);
 
     void viewDidUnload() override;
-    /// Lays the panel out anew, whatever it shows, when its host has another size than before.
+    /// Lays the panel out again when its host's size has changed.
     void viewDidLayoutSubviews() override;
 
-    /// What the list shows, in its order.
+    /// The presets in the order of the list.
     const PropertyList::Dictionary& presetDict() const { return _presetDict; }
     const std::optional<std::string>& selectedPreset() const { return _selectedPreset; }
     std::string cancelText() const { return cancelLabel->text(); }
-    /// Where a new preset's name is typed.
+    /// The field for a new preset's name.
     UITextField& nameField() const { return *newPlaylistField; }
 
     PlaylistSaverDelegate* delegate() const { return _delegate.get(); }
@@ -82,7 +82,7 @@ public:
     void setCancelView(RetainPtr<UIView> view) { _cancelView = std::move(view); }
     UITableView* tableView() const { return _tableView.get(); }
     void setTableView(RetainPtr<UITableView> tableView) { _tableView = std::move(tableView); }
-    /// Nothing in the system asks for these two.
+    /// No part of the system reads these two.
     CGPoint buttonPosition() const { return _buttonPosition; }
     void setButtonPosition(CGPoint position) { _buttonPosition = position; }
     CGSize buttonSize() const { return _buttonSize; }
@@ -114,11 +114,11 @@ private:
     /// Null until the Save row is first shown.
     RetainPtr<UIImage> _plusImage;
     PropertyList::Dictionary _presetDict;
-    /// The preset last chosen or saved; it may be gone since.
+    /// The preset last chosen or saved. It may have been deleted since.
     std::optional<std::string> _selectedPreset;
     std::vector<RetainPtr<UISlider>> _sliders;
     RetainPtr<UIColor> _blackBarColor;
-    /// The counterpart for a light look, which no row uses.
+    /// The bar color for a light appearance. No row uses it.
     RetainPtr<UIColor> _whiteBarColor;
     RetainPtr<UIButton> _hideAllButton;
     RetainPtr<UIView> _cancelView;

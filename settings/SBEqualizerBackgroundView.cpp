@@ -12,7 +12,7 @@ namespace brimsound {
 namespace {
 
 constexpr double animationTime = 0.5;
-/// Saturations above this are in force.
+/// Saturations above this value are applied.
 constexpr float noSaturation = -0.5f;
 
 } // namespace

@@ -1,4 +1,3 @@
-// The shape of an equalizer setting.
 #pragma once
 
 #include "platform/UIKit/Animated.h"
@@ -8,34 +7,34 @@
 
 namespace brimsound {
 
-/// Ten bars side by side, one a band, the lowest at the left. They stand on the view's bottom edge: empty at
-/// -12 dB, half the view's height at 0 dB, all of it at +12 dB. Their color is that of their gain, unless a
-/// fixed one is set. Gains are arrays of ten, in dB; null means that there are none, which shows as ten
-/// yellow bars of half the height.
+/// Draws the curve of an equalizer setting: ten bars side by side, one per band, the lowest band at the left.
+/// The bars stand on the view's bottom edge: height 0 at -12 dB, half the view's height at 0 dB, its full
+/// height at +12 dB. Each bar has the color of its gain unless a fixed color is set. Gains are arrays of ten
+/// values in dB; null stands for no gains, shown as ten yellow bars of half the height.
 ///
-/// Nothing is taken down with the view: it lives as long as the list that it is in, and a buffer of gains
-/// that it handed out may be in use for longer.
+/// The view frees nothing when it is destroyed: it lives as long as its list, and a buffer returned by
+/// gains() may be in use for longer.
 class SBEqualizerBackgroundView : public UIView {
 public:
     /// initWithFrame:gains:, initWithFrame: and init.
     explicit SBEqualizerBackgroundView(const CGRect& frame = {}, const float* gains = nullptr);
 
-    /// Gives all bars one color at once, which they keep whatever the gains. Null brings back the colors of
-    /// the gains at the next setGains.
+    /// Gives all bars one color at once, which they keep when the gains change. After null, the next setGains
+    /// restores the colors of the gains.
     void setColor(const RetainPtr<UIColor>&);
-    /// From the next setGains on, colors have this saturation (0 to 1) in place of their own, and a fixed
-    /// color is dropped. -0.5 or less means that they keep their own.
+    /// The next setGains, and those after it, use this saturation (0 to 1) for the colors and drop a fixed
+    /// color. -0.5 or less keeps the colors' own saturation.
     void setSaturation(float);
 
-    /// Copies the gains, which need to be there no longer than the call.
+    /// Copies the gains. The array need not outlive the call.
     void setGains(const float* gains);
-    /// Animated, the bars move to their new places and colors over half a second.
+    /// When animated, the bars move to their new heights and colors in half a second.
     void setGainsAnimated(const float* gains, Animated);
-    /// The view's own copy, null when there is none. It is the same buffer until gains are set to null, which
-    /// frees it.
+    /// The view's own copy; null when there are no gains. The buffer stays the same until gains are set to
+    /// null, which frees it.
     float* gains() const { return _gains; }
 
-    /// Lays the bars out for the new size, with the gains that there are.
+    /// Lays the bars out for the new size with the current gains.
     void setFrame(const CGRect&) override;
 
 protected:

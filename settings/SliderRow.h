@@ -1,5 +1,6 @@
-// The geometry of the slider row: eleven strips of equal height, each a caption and a slider, and the black
-// bar behind the band sliders. All lengths are in points, all places in the cell's content view.
+// The geometry of the slider row: eleven strips of equal height, each with a caption and a slider, and the
+// black bar behind the band sliders. Lengths are in points, positions in the coordinates of the cell's
+// content view.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -18,7 +19,7 @@ inline CGFloat stripHeightIn(CGFloat rowHeight)
     return static_cast<float>(rowHeight) / static_cast<float>(stripCount);
 }
 
-/// A slider leaves room for the caption at its left and a little space at its right.
+/// Leaves room for the caption at the left of a slider and a small margin at its right.
 inline constexpr CGFloat sliderX = 35;
 constexpr CGFloat sliderWidth(CGFloat contentWidth)
 {
@@ -36,7 +37,7 @@ constexpr CGRect captionFrame(std::size_t strip, CGFloat stripHeight)
     return CGRectMake(5, static_cast<CGFloat>(strip) * stripHeight, 25, stripHeight);
 }
 
-/// At the left edge, over the bands' strips but for a little space above and below.
+/// At the left edge, over the strips of the bands except for a small margin at the top and bottom.
 constexpr CGRect blackBarFrame(CGFloat stripHeight)
 {
     constexpr CGFloat space = 10;

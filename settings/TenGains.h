@@ -1,4 +1,3 @@
-// A preset's gains as the panel uses them.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -13,8 +12,8 @@ using TenGains = std::array<float, 10>;
 /// Whether a preset is an array of at least ten elements.
 bool hasTenGains(const PropertyList& preset);
 
-/// The first ten elements of a preset, each as a float (PropertyList::floatValue). Where an element is absent
-/// it is 0 dB, as all ten are in a preset that is no array.
+/// The first ten elements of a preset, each converted by PropertyList::floatValue. A missing element is 0 dB;
+/// all ten are 0 dB when the preset is not an array.
 TenGains tenGains(const PropertyList& preset);
 
 } // namespace brimsound

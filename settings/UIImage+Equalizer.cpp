@@ -15,14 +15,14 @@ namespace brimsound {
 
 namespace {
 
-/// An image drawn at one pixel a point, on memory that is taken once and given back with the bitmap.
+/// An image drawn at one pixel per point. The pixels are allocated once and freed with the bitmap.
 class WorkingBitmap {
 public:
     explicit WorkingBitmap(const UIImage& image)
     {
         const double width = std::trunc(image.size().width);
         const double height = std::trunc(image.size().height);
-        // Digests count bytes in 32 bits. False for what is no number, too.
+        // The digest function counts bytes in 32 bits. The comparison is also false for NaN.
         const bool isBitmap = width >= 1 && height >= 1 && width * height * bytesPerPixel <= UINT32_MAX;
         if (!isBitmap)
             return;
@@ -35,15 +35,15 @@ public:
         if (!_context)
             return;
         _size = columns * rows;
-        // The same as laying it over what is transparent yet, and faster.
+        // The bitmap is still transparent, so copying gives the same result as blending and is faster.
         CGContextSetBlendMode(_context.get(), CGBlendMode::Copy);
         CGContextDrawImage(_context.get(), CGRectMake(0, 0, width, height), image.CGImage());
     }
 
-    /// None where there could be no bitmap.
+    /// Empty when the bitmap could not be made.
     std::span<std::uint32_t> pixels() const { return { _memory.get(), _size }; }
 
-    /// A copy. Null where there could be none.
+    /// A copy. Null when the bitmap could not be made.
     RetainPtr<UIImage> image() const
     {
         const auto picture = CGBitmapContextCreateImage(_context.get());
@@ -116,7 +116,7 @@ RetainPtr<UIImage> fillWithColorAndBlendMode(const UIImage& image, const UIColor
 {
     UIGraphicsBeginImageContext(image.size());
     const auto context = UIGraphicsGetCurrentContext();
-    // A picture lies upside down otherwise.
+    // Without this the picture would be upside down.
     CGContextTranslateCTM(context, 0, image.size().height);
     CGContextScaleCTM(context, 1, -1);
 

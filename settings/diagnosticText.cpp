@@ -8,7 +8,7 @@ namespace brimsound {
 
 namespace {
 
-/// The number of UTF-16 units that the UTF-8 text would take.
+/// The number of UTF-16 units in the UTF-8 text.
 std::size_t lengthInCharacters(std::string_view text)
 {
     const auto units = [](char byte) -> std::size_t {

@@ -1,4 +1,3 @@
-// What an issue report tells of the device.
 #pragma once
 
 #include "platform/Foundation/NSData.h"
@@ -9,10 +8,10 @@
 
 namespace brimsound {
 
-/// One line with the device (get_model), the version in parentheses and the first of the preferred languages,
-/// if there is one; then the list of packages, if there is one. Of the device and of the language, both
-/// UTF-8, as many bytes are taken as they have UTF-16 units, which readers of the report have always been
-/// given.
+/// The text of an issue report. One line with the device (get_model), the version in parentheses, and the
+/// first preferred language if there is one; then the list of packages if there is one. The device and the
+/// language, both UTF-8, are cut to as many bytes as they have UTF-16 units. Readers of the reports expect
+/// this.
 NSData diagnosticText(const std::string& device, const std::vector<std::string>& languages,
     const std::optional<NSData>& packages);
 

@@ -14,7 +14,7 @@ std::string get_model()
     sysctlbyname("hw.machine", nullptr, &size, nullptr, 0);
     std::string machine(size, '\0');
     sysctlbyname("hw.machine", machine.data(), &size, nullptr, 0);
-    // The value ends with a NUL, which is not part of the text.
+    // The value includes a terminating NUL.
     machine.resize(std::strlen(machine.c_str()));
     return machine + " on iOS " + UIDevice::currentDevice().systemVersion();
 }

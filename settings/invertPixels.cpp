@@ -7,12 +7,12 @@ namespace brimsound {
 
 namespace {
 
-// A pixel's alpha is the highest byte of its number.
+// The code below expects a pixel's alpha in the highest byte of the number.
 static_assert(std::endian::native == std::endian::little);
 
 constexpr std::uint32_t alphaMask = 0xff000000;
 constexpr std::uint32_t highestBitOfEachColor = 0x00808080;
-/// Few enough to be in the fastest memory still when they are gone through again.
+/// A block of this size stays in the fastest cache between the two passes over it.
 constexpr std::size_t pixelsAtOnce = 1024;
 
 std::uint32_t colorsOf(std::uint32_t pixel)
@@ -27,8 +27,8 @@ std::uint32_t alphaForEachColor(std::uint32_t pixel)
     return alpha | alpha << 8 | alpha << 16;
 }
 
-/// Whether no color is above its pixel's alpha: then subtracting the colors from the alpha borrows from no
-/// neighbor.
+/// Whether no color exceeds its pixel's alpha. Then subtracting all colors from the alpha in one step causes
+/// no borrow between the bytes.
 bool arePremultiplied(std::span<const std::uint32_t> pixels)
 {
     std::uint32_t borrows = 0;
@@ -40,8 +40,8 @@ bool arePremultiplied(std::span<const std::uint32_t> pixels)
     return (borrows & highestBitOfEachColor) == 0;
 }
 
-/// With 255·X = x·A + r, where 0 <= r < A, the inverted color A·(255 - x)/255 is A - X + r/255; as r is below
-/// 255, that truncates to A - X while X is not above A.
+/// Let 255·X = x·A + r with 0 <= r < A. The inverted color A·(255 - x)/255 equals A - X + r/255. Because r <
+/// 255, it truncates to A - X as long as X <= A.
 void subtractFromAlpha(std::span<std::uint32_t> pixels)
 {
     for (auto& pixel : pixels)

@@ -1,4 +1,3 @@
-// Inverting colors, pixel by pixel.
 #pragma once
 
 #include <cstdint>
@@ -6,9 +5,9 @@
 
 namespace brimsound {
 
-/// Inverts the colors of pixels whose bytes in memory are red, green, blue, alpha, premultiplied. Each color
-/// byte X of a pixel of alpha A becomes, dividing whole numbers with truncation toward zero, A·(255 -
-/// (X·255)/A) / 255, and that modulo 256 where X is above A; 0 where A is 0. The alpha stays.
+/// Inverts the colors of premultiplied pixels whose bytes in memory are red, green, blue, alpha. Each color
+/// byte X of a pixel with alpha A becomes A·(255 - (X·255)/A) / 255, in integer divisions that truncate
+/// toward zero. The result is taken modulo 256 when X is above A, and is 0 when A is 0. The alpha stays.
 void invertPixels(std::span<std::uint32_t> pixels);
 
 } // namespace brimsound

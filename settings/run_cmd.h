@@ -1,4 +1,3 @@
-// Running a command for its output.
 #pragma once
 
 #include "platform/Foundation/NSData.h"
@@ -7,9 +6,9 @@
 
 namespace brimsound {
 
-/// Everything that a shell command writes to its standard output, its exit status ignored. Waits for it to
-/// end. Of a read of up to 1,023 bytes that holds a NUL only what comes before counts. Nothing, and one log
-/// line, when the command cannot be started.
+/// Runs a shell command, waits for it to end, and returns what it wrote to its standard output. Ignores its
+/// exit status. The output is read in pieces of up to 1,023 bytes; a piece that contains a NUL counts only up
+/// to it. Returns nothing and writes one log line when the command cannot be started.
 std::optional<NSData> run_cmd(const char* command);
 
 } // namespace brimsound

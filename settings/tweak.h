@@ -15,18 +15,18 @@ inline constexpr auto preampKey = "PREAMP";
 inline constexpr auto presetsKey = "PRESETS";
 /// The name of the preset last chosen or saved.
 inline constexpr auto selectedPresetKey = "SELECTED_PRESET";
-/// Whether the equalizer is on at all; on when absent.
+/// Whether the equalizer is on; on when absent.
 inline constexpr auto enabledKey = "ENABLED";
-/// Whether it is in the Control Center; on when absent.
+/// Whether the equalizer is in the Control Center; on when absent.
 inline constexpr auto enabledCCKey = "ENABLED_CC";
 /// Whether the preamp follows the highest band; on when absent.
 inline constexpr auto autoPreampKey = "AUTO_PREAMP";
 
-/// Two flags of the engine's own; off when absent.
+/// Two flags that only the engine uses; off when absent.
 inline constexpr auto filterDisabledKey = "FILTER_DISABLED";
 inline constexpr auto checkingDisabledKey = "CHECKING_DISABLED";
 
-/// The messaging center that the engine serves in the media server.
+/// The messaging center that the engine provides in the media server.
 inline constexpr auto messagingCenterName = "com.quorvix.brimsound";
 /// The message with the live gains …
 inline constexpr auto equalizerSendMessage = "equalizer_send";

@@ -5,13 +5,13 @@
 
 namespace brimsound {
 
-/// The preferences as the file has them, nothing added and nothing checked; when the file cannot be read as a
-/// dictionary, fresh ones with ten zero gains and the built-in presets, which are not written. Every reader
-/// calls this anew: the file is the only store.
+/// The contents of the preferences file, unchecked and without defaults filled in. When the file cannot be
+/// read as a dictionary, returns new preferences with ten zero gains and the built-in presets, and does not
+/// write them. Every reader calls this each time: there is no copy in memory.
 PropertyList::Dictionary get_preferences();
 
-/// Overwrites the file in place with the preferences as a binary property list. A failure is not reported,
-/// and leaves the file as it was wherever writeToFile reserves the room for the new one first.
+/// Overwrites the file in place with the preferences as a binary property list. A failure is not reported. It
+/// leaves the old file unchanged where writeToFile can reserve the space for the new one first.
 void write_preferences(PropertyList::Dictionary preferences);
 
 } // namespace brimsound

@@ -9,7 +9,7 @@ namespace brimsound {
 
 namespace {
 
-/// Gains are whole numbers of steps, 31 of which make 12 dB.
+/// Built-in gains are whole numbers of steps; 31 steps make 12 dB.
 constexpr double stepsToDecibels = 12.0 / 31.0;
 
 struct BuiltinPreset {
