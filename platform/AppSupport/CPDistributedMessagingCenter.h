@@ -1,4 +1,4 @@
-// Messages between processes, addressed to a center by name.
+// Messages between processes. A message is addressed to a center by name.
 #pragma once
 
 #include "platform/Foundation/NSError.h"
@@ -13,12 +13,12 @@ namespace brimsound {
 /// The client's side of a named messaging center.
 class CPDistributedMessagingCenter : public NSObject {
 public:
-    /// Looks a center up. It is made whether or not a server answers to the name: a missing server shows in
-    /// the first send.
+    /// Returns a center for that name, whether or not a server has registered it. The first send to a missing
+    /// server fails.
     static RetainPtr<CPDistributedMessagingCenter> centerNamed(const std::string& name);
 
-    /// Sends a message and waits for the reply (on the desktop one second at most). On failure the result is
-    /// empty and `error` says why; a success leaves `error` as it was.
+    /// Sends a message and waits for the reply (on the desktop for one second at most). On failure the result
+    /// is empty and `error` is set; on success `error` is unchanged.
     PropertyList::Dictionary sendMessageAndReceiveReplyName(
         const std::string& name, const PropertyList::Dictionary& userInfo, std::optional<NSError>& error);
 

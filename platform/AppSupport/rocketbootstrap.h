@@ -1,12 +1,12 @@
-// The opening between the Settings app's sandbox and services of other processes.
+// Access from the Settings app's sandbox to services of other processes.
 #pragma once
 
 namespace brimsound {
 
 class CPDistributedMessagingCenter;
 
-/// Lets messages through this center reach servers outside the sandbox. On the desktop, where there is none,
-/// it has nothing to do.
+/// Allows messages through this center to reach servers outside the sandbox. Does nothing on the desktop,
+/// which has no sandbox.
 void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter&);
 
 } // namespace brimsound

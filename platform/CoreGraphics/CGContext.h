@@ -1,4 +1,3 @@
-// Drawing on pixels.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -9,12 +8,14 @@
 
 namespace brimsound {
 
-/// How what is drawn, the source S, meets what is there, the destination D. The numbers are the platform's.
+/// How the source S, which is drawn, is combined with the destination D, which is there already. The numbers
+/// are the platform's.
 ///
-/// The first sixteen put S over D with a blended color where both are: with premultiplied colors S and D,
-/// alphas Sa and Da, and the blending B of the colors themselves, R = S(1 - Da) + D(1 - Sa) + SaDa·B(D/Da,
-/// S/Sa) and Ra = Sa + Da - SaDa. For Normal B is the source's color, for Darken the smaller of the two,
-/// channel by channel. Those from Clear on are given in premultiplied colors, and hold for the alpha alike.
+/// In these formulas S and D are premultiplied colors and Sa and Da their alphas. The first sixteen modes
+/// draw S over D, with a blended color where both are present: R = S(1 - Da) + D(1 - Sa) + SaDa·B(D/Da, S/Sa)
+/// and Ra = Sa + Da - SaDa. The blend function B is the source's color for Normal and the smaller of the two
+/// in each channel for Darken. The formulas from Clear on apply to premultiplied colors and to the alpha
+/// alike.
 enum class CGBlendMode : std::int32_t {
     Normal = 0,
     Multiply = 1,
@@ -46,35 +47,35 @@ enum class CGBlendMode : std::int32_t {
     PlusLighter = 27, ///< R = min(1, S + D)
 };
 
-/// Something to draw on. Lengths are in its own coordinates, which are pixels at first; where they run is up
-/// to who makes it. Blends in Normal and fills in opaque black at first. Nothing outside of what is drawn
-/// changes, whatever the blend mode.
+/// A drawing target. Lengths are in its own coordinates, initially pixels; the function that creates a
+/// context defines their direction. The initial blend mode is Normal and the initial fill color opaque black.
+/// Drawing changes only the area that is drawn, whatever the blend mode.
 class CGContext : public NSObject {
 protected:
     explicit CGContext(Peer*);
 };
 
-/// Not retained. May be null: what is done to no context is not done.
+/// Not retained. May be null: calls on a null context do nothing.
 using CGContextRef = CGContext*;
 
-/// A context on memory that stays the caller's, and has to outlive it: `height` rows of `width` pixels, the
-/// top row first, `bytesPerRow` bytes from one to the next; a pixel is four bytes, red, green, blue, alpha,
-/// in the device's RGB with the colors premultiplied. The origin is the bottom left corner, y runs upwards:
-/// an image drawn there has its top row first in memory. Null when there is no such bitmap: no memory, no
-/// width or height, or rows that are too short.
+/// A context on memory that the caller owns and that must outlive the context: `height` rows of `width`
+/// pixels, the top row first, `bytesPerRow` bytes apart. A pixel is four bytes: red, green, blue, alpha, in
+/// the device's RGB with premultiplied colors. The origin is the bottom left corner and y points up, so an
+/// image drawn there has its top row first in memory. Null when `data` is null, when the width
+/// or height is 0 or too large, and when the rows are too short.
 RetainPtr<CGContext> CGBitmapContextCreate(
     void* data, std::size_t width, std::size_t height, std::size_t bytesPerRow);
 
-/// What is in the context now, as a picture of its own. Null when there is no memory for it.
+/// A copy of what is in the context now. Null when there is not enough memory.
 RetainPtr<CGImage> CGBitmapContextCreateImage(CGContextRef);
 
 void CGContextTranslateCTM(CGContextRef, CGFloat dx, CGFloat dy);
-/// A negative scale turns the axis round.
+/// A negative scale reverses the axis.
 void CGContextScaleCTM(CGContextRef, CGFloat sx, CGFloat sy);
 
 void CGContextSetBlendMode(CGContextRef, CGBlendMode);
 
-/// Stretches the image over the rectangle, its top edge where y is largest.
+/// Stretches the image over the rectangle, with the image's top edge at the largest y.
 void CGContextDrawImage(CGContextRef, const CGRect&, CGImageRef);
 void CGContextFillRect(CGContextRef, const CGRect&);
 

@@ -26,7 +26,7 @@ struct CGRect {
     bool operator==(const CGRect&) const = default;
 };
 
-/// The rectangle with its top left corner at (x, y).
+/// The rectangle with its origin, the top left corner, at (x, y).
 constexpr CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height)
 {
     return { { x, y }, { width, height } };

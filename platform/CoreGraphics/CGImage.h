@@ -1,11 +1,10 @@
-// Pictures made of pixels.
 #pragma once
 
 #include "platform/Foundation/NSObject.h"
 
 namespace brimsound {
 
-/// An unchanging picture. It knows no points: how many of its pixels make one is up to who shows it.
+/// An immutable picture. It has no size in points: whoever shows it chooses how many pixels make a point.
 class CGImage : public NSObject {
 protected:
     explicit CGImage(Peer*);

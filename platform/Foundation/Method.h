@@ -16,22 +16,21 @@ namespace brimsound {
 
 class NSObject;
 
-/// What a call by name can hand over: nil, an object (not retained) or a property-list value (not copied).
+/// An argument of a call by name: nil, an object (not retained) or a property-list value (not copied).
 using Argument = std::variant<std::monostate, NSObject*, const PropertyList*>;
 
 /// One row of a class's method table.
 struct Method {
     std::string_view selector;
-    /// Calls the method on an object of the class that the table belongs to. Arguments beyond those that the
-    /// method takes are dropped, and those that are missing are nil. A property list takes nil as null; when
-    /// any other argument that the method needs is nil, or one is of another kind than the method takes,
-    /// nothing is called and the result is null. A method without a result gives null.
+    /// Calls the method on an object of the table's class. Extra arguments are ignored, missing ones are nil.
+    /// A property-list parameter receives nil as null. When another required argument is nil, or an argument
+    /// has the wrong type, nothing is called and the result is null. A method without a result returns null.
     PropertyList (*invoke)(NSObject& self, std::span<const Argument> arguments);
 };
 
 namespace detail {
 
-/// A parameter that is a pointer may be left out.
+/// Only pointer parameters may be omitted.
 template <typename Parameter> constexpr bool isOptional = std::is_pointer_v<Parameter>;
 
 template <typename Parameter>
@@ -89,9 +88,9 @@ Method methodOf(std::string_view selector, Result (Class::*)(Parameters...))
 
 } // namespace detail
 
-/// The table row that binds a selector to a member function, whose parameters are references to objects, or
-/// pointers for those that may be left out, or `const PropertyList&`, or `const std::string&` for a property
-/// list that is a string.
+/// A table row that binds a selector to a member function. Its parameters are references to objects, pointers
+/// to objects when they may be omitted, `const PropertyList&`, or `const std::string&` for a property list
+/// that holds a string.
 template <auto member> Method method(std::string_view selector)
 {
     return detail::methodOf<member>(selector, member);

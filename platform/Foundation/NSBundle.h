@@ -1,4 +1,3 @@
-// Bundles: folders of code and resources.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -9,7 +8,7 @@
 
 namespace brimsound {
 
-/// A folder of resources, named by its device path. A value: copies name the same folder.
+/// A folder of code and resources, identified by its device path. A value: copies refer to the same folder.
 class NSBundle {
 public:
     /// The bundle that contains the class of that name; the main bundle when no such class is loaded.
@@ -19,8 +18,8 @@ public:
 
     const std::string& bundlePath() const { return _path; }
 
-    /// The device path of a resource, a localized one from the user's most preferred language that has it.
-    /// Nothing when the bundle does not hold it.
+    /// The device path of a resource. A localized resource comes from the user's most preferred language that
+    /// has it. Nothing when the bundle does not contain it.
     std::optional<std::string> pathForResource(std::string_view name, std::string_view type) const;
 
     /// The text for the key in a strings table, in the user's most preferred language that the bundle has;

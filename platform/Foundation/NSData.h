@@ -1,4 +1,3 @@
-// Bytes.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +13,7 @@ using NSData = std::vector<std::byte>;
 /// All bytes of the file at a device path; nothing when it cannot be read.
 std::optional<NSData> dataWithContentsOfFile(const std::string& path);
 
-/// Adds the text's bytes, in UTF-8.
+/// Appends the text's bytes in UTF-8.
 void appendText(NSData&, std::string_view text);
 
 } // namespace brimsound

@@ -1,4 +1,4 @@
-// What went wrong in a call that reports failures.
+// The error of a failed call.
 #pragma once
 
 #include <string>
@@ -6,11 +6,11 @@
 namespace brimsound {
 
 struct NSError {
-    /// Names the failure's kind for programs, for example "org.freedesktop.DBus.Error.NoReply".
+    /// The kind of failure, for programs: for example "org.freedesktop.DBus.Error.NoReply".
     std::string domain;
-    /// Tells failures of that kind apart.
+    /// Distinguishes failures of the same kind.
     long code = 0;
-    /// Tells it to a person, without a line feed.
+    /// A description for people, without a line feed.
     std::string localizedDescription;
 
     bool operator==(const NSError&) const = default;

@@ -1,4 +1,3 @@
-// Positions in a table.
 #pragma once
 
 #include <compare>
@@ -6,7 +5,7 @@
 
 namespace brimsound {
 
-/// A row of a table, both counted from 0.
+/// The position of a row in a table; section and row are counted from 0.
 struct NSIndexPath {
     std::size_t section = 0;
     std::size_t row = 0;

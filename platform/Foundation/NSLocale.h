@@ -1,4 +1,3 @@
-// The user's languages.
 #pragma once
 
 #include <string>

@@ -1,11 +1,10 @@
-// The system log.
 #pragma once
 
 #include <string_view>
 
 namespace brimsound {
 
-/// Writes one line to the system log. There is no format: the caller hands over the finished text.
+/// Writes one line to the system log. The text is not a format string.
 void NSLog(std::string_view text);
 
 } // namespace brimsound

@@ -10,12 +10,13 @@
 
 namespace brimsound {
 
-/// What stands behind an object on the platform in use: the native object, or the desktop's node of the view
-/// tree. Only the platform's own sources know its shape.
+/// The platform's part of an object: the native object, or the desktop's own data. Only the platform's
+/// sources know its layout.
 struct Peer;
 
-/// An object with a reference count, born with one reference (see RetainPtr) and destroyed with the last one.
-/// The count is the peer's, so that the object lives exactly as long as its peer. Main thread only.
+/// An object with a reference count. It is created with one reference (see RetainPtr) and destroyed when the
+/// last one is released. The peer holds the count, so the object lives exactly as long as its peer. Main
+/// thread only.
 class NSObject {
 public:
     NSObject();
@@ -26,7 +27,7 @@ public:
     void release() const;
     std::size_t retainCount() const;
 
-    /// The methods that this object's class lets be called by name, in the class's own order.
+    /// The methods of this object's class that can be called by name, in the order of declaration.
     virtual std::span<const Method> methods() const { return {}; }
 
     /// The method of that name, owned by the class; null when the class has none.
@@ -39,7 +40,7 @@ public:
     Peer& peer() const { return *_peer; }
 
 protected:
-    /// Takes ownership of the peer that a platform class brings.
+    /// Takes ownership of the peer that a derived class provides.
     explicit NSObject(Peer*);
     virtual ~NSObject();
 

@@ -1,12 +1,11 @@
-// Strings made from formats.
 #pragma once
 
 #include <string>
 
 namespace brimsound {
 
-/// The number printed with the format, which holds one conversion for a double. Not localized: the decimal
-/// sign is a point whatever the user's language.
+/// The number printed with the format, which contains one conversion for a double. Not localized: the decimal
+/// separator is a point in every language.
 std::string stringWithFormat(const char* format, double number);
 
 } // namespace brimsound

@@ -1,4 +1,4 @@
-// Property-list values: what preferences, messages and bundle resources are made of.
+// Property-list values: the contents of preferences, messages and bundle resources.
 #pragma once
 
 #include <concepts>
@@ -16,16 +16,16 @@ namespace brimsound {
 
 class PropertyList;
 
-/// A dictionary from strings to values that keeps the order in which its keys were first set. One that was
-/// read from a file has the file's order where the platform knows it, as the desktop does; on a device it is
-/// whatever order Foundation hands the keys out in.
+/// A dictionary with string keys. It keeps the order in which its keys were first set. A dictionary read from
+/// a file has the file's order on the desktop. On a device it has the order in which Foundation enumerates
+/// its keys.
 class PropertyListDictionary {
 public:
     struct Entry;
 
     PropertyListDictionary();
     PropertyListDictionary(std::initializer_list<Entry> entries);
-    /// From entries whose keys may repeat: a key keeps its first place and its last value.
+    /// The keys of the entries may repeat: a key keeps its first position and its last value.
     explicit PropertyListDictionary(std::vector<Entry> entries);
     PropertyListDictionary(const PropertyListDictionary&);
     PropertyListDictionary(PropertyListDictionary&&) noexcept;
@@ -38,20 +38,20 @@ public:
     const Entry* begin() const;
     const Entry* end() const;
 
-    /// The value under the key, owned by the dictionary and valid until it next changes; null when there is
-    /// none.
+    /// The value under the key, owned by the dictionary and valid until the dictionary changes; null when
+    /// there is none.
     const PropertyList* find(std::string_view key) const;
     PropertyList* find(std::string_view key);
-    /// Sets the value under the key: in the key's place when it is there, else at the end.
+    /// Sets the value under the key. A new key is added at the end.
     void set(std::string_view key, PropertyList value);
-    /// Removes the key; nothing happens when it is not there.
+    /// Removes the key. Does nothing when the key is missing.
     void remove(std::string_view key);
 
-    /// Alike when the same keys have equal values, whatever their order.
+    /// Equal when the same keys have equal values, in any order.
     bool operator==(const PropertyListDictionary&) const;
 
 private:
-    /// The positions of the entries, in the order of their keys.
+    /// The positions of the entries, sorted by key.
     using Index = std::vector<std::uint32_t>;
 
     std::size_t positionOf(std::string_view key) const;
@@ -60,31 +60,31 @@ private:
     void dropRepeatedKeys();
 
     std::vector<Entry> _entries;
-    // Made at the first look-up in a dictionary that is too long to be searched through.
+    // Built at the first lookup in a dictionary that is too long for a linear search.
     mutable std::unique_ptr<Index> _index;
 };
 
-/// One property-list value, with everything inside it; copies are deep, everything can be changed in place.
-/// Null (no value) stands for Foundation's nil: it converts to zero or false and cannot be serialized.
-/// Text is UTF-8. A file may hold half a surrogate pair as well: it is kept as three bytes, encoded as if it
-/// were a character.
+/// A property-list value with everything inside it. Copies are deep; everything can be changed in place. Null
+/// (no value) stands for Foundation's nil: it converts to zero or false and cannot be serialized. Text is
+/// UTF-8. A file may also contain an unpaired surrogate: it is kept as three bytes, encoded as if it were a
+/// character.
 class PropertyList {
 public:
     using Array = std::vector<PropertyList>;
     using Dictionary = PropertyListDictionary;
     using Data = std::vector<std::byte>;
-    /// A moment, in seconds since the first instant of 2001 UTC.
+    /// A point in time, in seconds since the start of 2001 UTC.
     struct Date {
         double secondsSinceReferenceDate = 0;
         bool operator==(const Date&) const = default;
     };
-    /// An integer beyond 64 bits with a sign: the halves of its two's complement of 128 bits.
+    /// An integer that does not fit into 64 signed bits: the halves of its 128-bit two's complement.
     struct WideInteger {
         std::int64_t high = 0;
         std::uint64_t low = 0;
         bool operator==(const WideInteger&) const = default;
     };
-    /// What a keyed archive refers to its objects by. Not a number: it converts to zero.
+    /// A reference to an object in a keyed archive. Not a number: it converts to zero.
     struct Uid {
         std::uint64_t value = 0;
         bool operator==(const Uid&) const = default;
@@ -104,7 +104,7 @@ public:
     PropertyList(int);
     PropertyList(std::int64_t);
     PropertyList(std::uint64_t);
-    /// Becomes a plain integer when it fits into one.
+    /// Becomes a plain integer when it fits into 64 signed bits.
     PropertyList(WideInteger);
     /// A real of single precision, which takes four bytes in a binary file.
     PropertyList(float);
@@ -121,7 +121,7 @@ public:
     PropertyList(Set);
     PropertyList(Dictionary);
 
-    /// A real in place, as the constructors make it.
+    /// Assigns a real, with the type that the constructors would give it.
     template <std::floating_point Number> PropertyList& operator=(Number value)
     {
         _value = Real { value, std::is_same_v<Number, float> };
@@ -130,8 +130,8 @@ public:
 
     bool isNull() const { return std::holds_alternative<std::monostate>(_value); }
 
-    /// The value when it is of exactly that type (integers and reals do not mix here), else null. A real is
-    /// given as a double whatever its precision.
+    /// The value if it has exactly that type (integers and reals are not converted here), otherwise null. A
+    /// real is returned as a double whatever its precision.
     const bool* asBoolean() const { return std::get_if<bool>(&_value); }
     const std::int64_t* asInteger() const { return std::get_if<std::int64_t>(&_value); }
     const WideInteger* asWideInteger() const { return std::get_if<WideInteger>(&_value); }
@@ -158,10 +158,10 @@ public:
     const Dictionary* asDictionary() const { return std::get_if<Dictionary>(&_value); }
     Dictionary* asDictionary() { return std::get_if<Dictionary>(&_value); }
 
-    /// Foundation's conversions. Numbers and booleans convert to one another as NSNumber's do. Strings
-    /// convert as NSString's do: after leading blanks the longest number at the start, else 0; for boolValue,
-    /// true when blanks, a sign and zeros are followed by Y, y, T, t or a digit from 1 to 9. Everything else,
-    /// null included, is zero or false. An integer beyond 64 bits becomes one by its lower half.
+    /// Foundation's conversions. Numbers and booleans convert to each other as in NSNumber. Strings convert
+    /// as in NSString: the longest number after leading blanks, or 0 if there is none; for boolValue, true
+    /// when blanks, a sign and zeros are followed by Y, y, T, t or a digit from 1 to 9. Everything else,
+    /// including null, converts to zero or false. An integer that exceeds 64 bits converts by its lower half.
     float floatValue() const;
     double doubleValue() const;
     bool boolValue() const;
@@ -188,10 +188,10 @@ struct PropertyListDictionary::Entry {
     bool operator==(const Entry&) const = default;
 };
 
-/// The float in the dictionary under the key: 0 when the key is missing.
+/// The float under the key in the dictionary; 0 when the key is missing.
 float floatForKey(const PropertyListDictionary&, std::string_view key);
-/// The value in the dictionary under the key when it is of exactly that type, owned by the dictionary and
-/// valid until it next changes; null when the key is missing or holds something else.
+/// The value under the key if it has exactly that type, owned by the dictionary and valid until the
+/// dictionary changes; null when the key is missing or its value has another type.
 const PropertyList::Array* arrayForKey(const PropertyListDictionary&, std::string_view key);
 PropertyList::Array* arrayForKey(PropertyListDictionary&, std::string_view key);
 const PropertyList::Dictionary* dictionaryForKey(const PropertyListDictionary&, std::string_view key);

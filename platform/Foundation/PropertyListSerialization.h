@@ -14,22 +14,22 @@ enum class NSPropertyListFormat {
     BinaryFormat_v1_0 = 200,
 };
 
-/// Options of dataWithPropertyList; there are none to choose from.
+/// Options of dataWithPropertyList. The platform defines none.
 using NSPropertyListWriteOptions = unsigned long;
 
-/// Whether a write goes through a temporary file that then takes the old one's place.
+/// Whether a file is replaced by way of a temporary file.
 enum class Atomically { No, Yes };
 
-/// Reads a property list of any format from a device path, with every container inside it mutable. Nothing
-/// when there is no file, when it cannot be read, or when it is not a property list.
+/// Reads a property list of any format from a device path. Every container in it can be changed. Nothing when
+/// the file is missing, cannot be read, or is not a property list.
 std::optional<PropertyList> readPropertyListFile(const std::string& path);
 
-/// Serializes the value. Nothing when it cannot be: when it is, or holds, null.
+/// Serializes the value. Nothing when the value is null or contains null.
 std::optional<PropertyList::Data> dataWithPropertyList(
     const PropertyList&, NSPropertyListFormat, NSPropertyListWriteOptions);
 
-/// Writes the bytes to a device path. False, with nothing reported, when the file cannot be written; a write
-/// that is not atomic may then have changed part of the file.
+/// Writes the bytes to a device path. Returns false, without reporting anything, when the file cannot be
+/// written. A failed write that is not atomic may have changed part of the file.
 bool writeToFile(const PropertyList::Data&, const std::string& path, Atomically);
 
 } // namespace brimsound

@@ -1,4 +1,3 @@
-// The one strong reference of the code base: an intrusive pointer to a retain-counted object.
 #pragma once
 
 #include <cstddef>
@@ -6,9 +5,8 @@
 
 namespace brimsound {
 
-/// Holds one reference to a T (or none). Copying retains, destruction releases. A new object is born with one
-/// reference, which `adopt` takes over; `retain` adds a reference of its own to an object that somebody else
-/// owns.
+/// Holds one reference to a T, or none. Copying retains, destruction releases. A new object starts with one
+/// reference, which `adopt` takes over; `retain` adds a reference to an object that has another owner.
 template <typename T> class RetainPtr {
 public:
     RetainPtr() = default;
@@ -61,7 +59,7 @@ private:
     T* _object = nullptr;
 };
 
-/// Takes over the reference that the caller holds.
+/// Takes over the caller's reference.
 template <typename T> RetainPtr<T> adopt(T* object)
 {
     RetainPtr<T> pointer;
@@ -69,7 +67,7 @@ template <typename T> RetainPtr<T> adopt(T* object)
     return pointer;
 }
 
-/// Adds a reference to an object that stays owned by somebody else too. Null gives an empty pointer.
+/// Adds a reference to an object that also has another owner. Null gives an empty pointer.
 template <typename T> RetainPtr<T> retain(T* object)
 {
     return RetainPtr<T>(object);

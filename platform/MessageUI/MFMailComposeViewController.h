@@ -1,4 +1,3 @@
-// Composing a mail.
 #pragma once
 
 #include "platform/Foundation/NSData.h"
@@ -15,13 +14,13 @@ class MFMailComposeViewController : public UIViewController {
 public:
     MFMailComposeViewController();
 
-    /// Not retained, or for no longer than the sheet stands; null for none.
+    /// Not retained, or only while the sheet is shown. May be null.
     void setMailComposeDelegate(MFMailComposeViewControllerDelegate*);
 
     void setSubject(const std::string&);
     /// Mail addresses.
     void setToRecipients(const std::vector<std::string>&);
-    /// The bytes are sent as they are, under that type ("text/plain") and file name.
+    /// The bytes are attached unchanged, with that MIME type ("text/plain") and file name.
     void addAttachmentDataMimeTypeFileName(
         NSData data, const std::string& mimeType, const std::string& fileName);
 

@@ -1,4 +1,3 @@
-// Who hears how a mail ended.
 #pragma once
 
 #include "platform/Foundation/NSError.h"
@@ -7,7 +6,7 @@ namespace brimsound {
 
 class MFMailComposeViewController;
 
-/// With the platform's numbers.
+/// The numbers are the platform's.
 enum class MFMailComposeResult {
     Cancelled = 0,
     Saved = 1,
@@ -19,7 +18,7 @@ class MFMailComposeViewControllerDelegate {
 public:
     virtual ~MFMailComposeViewControllerDelegate() = default;
 
-    /// The user sent or canceled the mail; the sheet still stands. `error` is null unless the result is
+    /// The user sent or canceled the mail; the sheet is still shown. `error` is null unless the result is
     /// Failed.
     virtual void mailComposeControllerDidFinishWithResultError(
         MFMailComposeViewController&, MFMailComposeResult, const NSError* /*error*/)

@@ -1,4 +1,3 @@
-// What one row or group of a settings pane is made from.
 #pragma once
 
 #include "platform/Foundation/NSObject.h"
@@ -9,10 +8,10 @@
 
 namespace brimsound {
 
-/// The properties of a row or a group as its specifier plist gives them.
+/// One row or group of a settings pane, with the properties from its specifier plist.
 class PSSpecifier : public NSObject {
 public:
-    /// The target, which the get, set and action selectors are sent to, is not retained.
+    /// The get, set and action selectors are sent to the target, which is not retained.
     PSSpecifier(const std::string& name, NSObject& target, PropertyList::Dictionary properties);
 
     /// The localized label.

@@ -1,4 +1,3 @@
-// Layers: what gives views their shape.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -7,7 +6,7 @@ namespace brimsound {
 
 class UIView;
 
-/// The layer that a view is drawn with; a handle that is good for as long as the view lives.
+/// The layer of a view. A handle that is valid as long as the view exists.
 class CALayer {
 public:
     explicit CALayer(UIView& view)
@@ -15,7 +14,7 @@ public:
     {
     }
 
-    /// In points. It shows where the view clips to its bounds.
+    /// In points. Only visible when the view clips to its bounds.
     CGFloat cornerRadius() const;
     void setCornerRadius(CGFloat) const;
 

@@ -1,9 +1,8 @@
-// How a change is shown.
 #pragma once
 
 namespace brimsound {
 
-/// Whether a change is shown as a movement.
+/// Whether a change is animated.
 enum class Animated { No, Yes };
 
 } // namespace brimsound

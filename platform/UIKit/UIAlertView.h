@@ -1,4 +1,3 @@
-// Alerts: messages that want an answer.
 #pragma once
 
 #include "platform/UIKit/UIAlertViewDelegate.h"
@@ -9,16 +8,17 @@
 
 namespace brimsound {
 
-/// A message with buttons over everything else. One is shown at a time; the next one waits its turn.
+/// An alert: a message with buttons, shown over everything else. Alerts are shown one at a time; later ones
+/// wait.
 class UIAlertView : public UIView {
 public:
-    /// initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:. An empty title is none. The
-    /// delegate is not retained, or for no longer than the alert waits for its answer; null for none. The
-    /// cancel button is button 0, the others follow.
+    /// initWithTitle:message:delegate:cancelButtonTitle:otherButtonTitles:. An empty title means no title.
+    /// The delegate is not retained, or only while the alert is shown; it may be null. The cancel button is
+    /// button 0; the others follow.
     UIAlertView(const std::string& title, const std::string& message, UIAlertViewDelegate* delegate,
         const std::string& cancelButtonTitle, const std::vector<std::string>& otherButtonTitles);
 
-    /// The presentation holds the alert from now until a button was pressed.
+    /// Shows the alert. It is retained until a button is pressed.
     void show();
 
     void layoutSubviews() override;

@@ -1,4 +1,3 @@
-// Who hears of an alert's answer.
 #pragma once
 
 namespace brimsound {
@@ -9,7 +8,7 @@ class UIAlertViewDelegate {
 public:
     virtual ~UIAlertViewDelegate() = default;
 
-    /// Called once, when a button was pressed; 0 is the cancel button.
+    /// Called once, when a button is pressed; 0 is the cancel button.
     virtual void alertViewClickedButtonAtIndex(UIAlertView&, long /*buttonIndex*/) { }
 };
 

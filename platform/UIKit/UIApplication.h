@@ -1,4 +1,3 @@
-// The running application.
 #pragma once
 
 #include <string>
@@ -9,10 +8,10 @@ class UIApplication {
 public:
     static UIApplication& sharedApplication();
 
-    /// Whether anything is there to open URLs with this one's scheme. False for what is no URL.
+    /// Whether an installed program can open URLs with this scheme. False for an invalid URL.
     bool canOpenURL(const std::string& url) const;
-    /// Hands the URL to what opens its scheme. False, with nothing reported, when there is nothing or it
-    /// failed.
+    /// Opens the URL in the program for its scheme. Returns false, without reporting anything, when there is
+    /// no such program or it fails.
     bool openURL(const std::string& url);
 };
 

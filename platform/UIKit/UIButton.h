@@ -1,4 +1,3 @@
-// Buttons.
 #pragma once
 
 #include "platform/UIKit/UIControl.h"

@@ -1,4 +1,3 @@
-// Colors.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -6,12 +5,12 @@
 
 namespace brimsound {
 
-/// An unchanging color in RGB. Components run from 0 to 1: what is below counts as 0 and what is above as 1.
+/// An immutable RGB color. Components below 0 count as 0 and components above 1 as 1.
 class UIColor : public NSObject {
 public:
     static RetainPtr<UIColor> colorWithRedGreenBlueAlpha(
         CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);
-    /// Hue 0 and 1 are red, 1/3 is green, 2/3 blue; brightness is the largest of red, green and blue.
+    /// Hue 0 and 1 are red, 1/3 is green, 2/3 is blue; brightness is the largest of red, green and blue.
     static RetainPtr<UIColor> colorWithHueSaturationBrightnessAlpha(
         CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha);
     static RetainPtr<UIColor> colorWithWhiteAlpha(CGFloat white, CGFloat alpha);
@@ -25,13 +24,15 @@ public:
     /// Black at alpha 0.
     static RetainPtr<UIColor> clearColor();
 
-    /// Hands out the components. False, with nothing handed out, for a color that has none in RGB.
+    /// Sets the arguments to the components. Returns false and sets nothing when the color has no RGB
+    /// components.
     bool getRedGreenBlueAlpha(CGFloat& red, CGFloat& green, CGFloat& blue, CGFloat& alpha) const;
-    /// The same for hue, saturation and brightness: false where a component is no number. A gray has hue 0.
+    /// The same for hue, saturation and brightness. Also false when a component is NaN. The hue of a gray is
+    /// 0.
     bool getHueSaturationBrightnessAlpha(
         CGFloat& hue, CGFloat& saturation, CGFloat& brightness, CGFloat& alpha) const;
 
-    /// Makes this the color that the current context (UIGraphics.h) fills with, if there is one.
+    /// Sets the fill color of the current context (UIGraphics.h), if there is one.
     void setFill() const;
 
 protected:

@@ -1,4 +1,3 @@
-// Controls: views that turn touches into actions.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
@@ -23,17 +22,16 @@ inline constexpr UIControlEvents UIControlEventValueChanged = 1u << 12;
 inline constexpr UIControlEvents UIControlEventEditingDidEnd = 1u << 18;
 inline constexpr UIControlEvents UIControlEventEditingDidEndOnExit = 1u << 19;
 
-/// A view that sends an action to each of its targets when one of the events that the target asked for
-/// happens.
+/// A view that turns touches into control events. It sends an action to each target that registered for the
+/// event.
 class UIControl : public UIView {
 public:
-    /// Calls the target's method of that name, with this control as the argument, on each of the events. The
-    /// target is not retained and must outlive the control. Asking again adds the events to those asked for
-    /// before.
+    /// Calls the target's method of that name for each of the events, with this control as the argument. The
+    /// target is not retained and must outlive the control. A repeated call adds its events to the earlier
+    /// ones.
     void addTargetActionForControlEvents(NSObject& target, std::string_view action, UIControlEvents);
 
-    /// Sends the actions of every target that asked for one of the events, in the order in which they were
-    /// added.
+    /// Sends the actions of every target that registered for one of the events, in the order of registration.
     void sendActionsForControlEvents(UIControlEvents);
 
 protected:

@@ -1,4 +1,3 @@
-// Fonts.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -8,19 +7,18 @@
 
 namespace brimsound {
 
-/// An unchanging font of a size in points.
+/// An immutable font with a size in points.
 class UIFont : public NSObject {
 public:
     /// The platform's default text font.
     static RetainPtr<UIFont> systemFontOfSize(CGFloat size);
-    /// The font with that PostScript name ("HelveticaNeue-Bold"); null when the platform has nothing to show
-    /// for it.
+    /// The font with that PostScript name ("HelveticaNeue-Bold"); null when the platform has no font for it.
     static RetainPtr<UIFont> fontWithNameSize(const std::string& name, CGFloat size);
 
-    /// The same face in another size.
+    /// The same typeface in another size.
     RetainPtr<UIFont> fontWithSize(CGFloat size) const;
 
-    /// The PostScript name; empty for the default text font of a platform that gives it none.
+    /// The PostScript name; empty when the platform's default text font has none.
     std::string fontName() const;
     CGFloat pointSize() const;
 

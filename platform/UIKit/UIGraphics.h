@@ -1,4 +1,4 @@
-// Drawing images.
+// Contexts for drawing images.
 #pragma once
 
 #include "platform/CoreGraphics/CGContext.h"
@@ -6,20 +6,20 @@
 
 namespace brimsound {
 
-/// Begins a transparent context of a size in points, rounded up to whole pixels, and makes it the current
-/// one. Its origin is the top left corner, y runs downwards: an image lies upright there when it draws
-/// itself, and upside down as CGContextDrawImage draws it. `scale` is pixels a point, where 0 means the main
-/// screen's. Where no such bitmap can be made the current context is none. Must be ended in either case.
+/// Begins a transparent context with a size in points, rounded up to whole pixels, and makes it current. Its
+/// origin is the top left corner and y points down: UIImage draws upright there, CGContextDrawImage upside
+/// down. `scale` is the number of pixels per point; 0 means the main screen's. When the bitmap cannot be
+/// created there is no current context. Each call must be paired with UIGraphicsEndImageContext, even then.
 void UIGraphicsBeginImageContextWithOptions(CGSize, CGFloat scale);
 /// The same with scale 1.
 void UIGraphicsBeginImageContext(CGSize);
-/// Brings back the context that was current before.
+/// Restores the previous context.
 void UIGraphicsEndImageContext();
 
 /// Null when there is none.
 CGContextRef UIGraphicsGetCurrentContext();
 
-/// What is in the current context now, at the context's scale. Null when there is none.
+/// A copy of what is in the current context, at the context's scale. Null when there is no context.
 RetainPtr<UIImage> UIGraphicsGetImageFromCurrentImageContext();
 
 } // namespace brimsound

@@ -1,4 +1,3 @@
-// Images.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -9,21 +8,21 @@
 
 namespace brimsound {
 
-/// An unchanging image.
+/// An immutable image.
 class UIImage : public NSObject {
 public:
     /// The picture at scale 1. Null for null.
     static RetainPtr<UIImage> imageWithCGImage(CGImageRef);
-    /// The PNG file at a device path, at the scale that its name ends in before the extension: 2 for
-    /// "plus@2x.png" and "plus@2x~ipad.png", 3 for "@3x", else 1. Null when there is none or it cannot be
-    /// read.
+    /// Reads the PNG file at a device path. The end of its name, before the extension, gives the scale: 2 for
+    /// "plus@2x.png" and "plus@2x~ipad.png", 3 for "@3x", otherwise 1. Null when the file is missing or
+    /// cannot be read.
     static RetainPtr<UIImage> imageWithContentsOfFile(const std::string& path);
 
     /// Width and height in points.
     CGSize size() const;
-    /// Pixels a point.
+    /// Pixels per point.
     CGFloat scale() const;
-    /// The image's pixels; the image's own.
+    /// The image's pixels, owned by the image.
     CGImageRef CGImage() const;
 
     /// Stretches the image over the rectangle, upright, in the current context (UIGraphics.h), if there is

@@ -1,4 +1,3 @@
-// Views that show an image.
 #pragma once
 
 #include "platform/UIKit/UIImage.h"
@@ -11,13 +10,13 @@ class UIImageView : public UIView {
 public:
     explicit UIImageView(const CGRect& frame = {});
 
-    /// Null (as at first) for none.
+    /// Null (the initial value) for no image.
     UIImage* image() const;
     void setImage(RetainPtr<UIImage>);
-    /// Shown instead while the view is highlighted; null (as at first) for the same image.
+    /// Shown while the view is highlighted; null (the initial value) for the same image.
     UIImage* highlightedImage() const;
     void setHighlightedImage(RetainPtr<UIImage>);
-    /// A table row highlights the image views in it while it is pressed or selected.
+    /// A pressed or selected table row highlights its image views.
     bool isHighlighted() const;
     void setHighlighted(bool);
 

@@ -1,4 +1,3 @@
-// Labels.
 #pragma once
 
 #include "platform/UIKit/UIFont.h"
@@ -14,23 +13,23 @@ enum class NSTextAlignment {
     Right = 2,
 };
 
-/// One line of text, cut off with an ellipsis where it does not fit.
+/// One line of text, truncated with an ellipsis when it does not fit.
 class UILabel : public UIView {
 public:
     explicit UILabel(const CGRect& frame = {});
 
     std::string text() const;
     void setText(const std::string&);
-    /// At first the default text font at 17 points.
+    /// Initially the default text font at 17 points.
     RetainPtr<UIFont> font() const;
     void setFont(RetainPtr<UIFont>);
-    /// At first black.
+    /// Initially black.
     RetainPtr<UIColor> textColor() const;
     void setTextColor(RetainPtr<UIColor>);
-    /// Null (as at first) for a label that looks the same when it is highlighted.
+    /// Null (the initial value) for a label that does not change when it is highlighted.
     RetainPtr<UIColor> highlightedTextColor() const;
     void setHighlightedTextColor(RetainPtr<UIColor>);
-    /// A table row highlights the labels in it while it is pressed or selected.
+    /// A pressed or selected table row highlights its labels.
     bool isHighlighted() const;
     void setHighlighted(bool);
     NSTextAlignment textAlignment() const;

@@ -1,4 +1,3 @@
-// The screen that the program is shown on.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -9,9 +8,9 @@ class UIScreen {
 public:
     static const UIScreen& mainScreen();
 
-    /// Pixels a point.
+    /// Pixels per point.
     CGFloat scale() const;
-    /// What there is of it for the program, in points.
+    /// The part of the screen that the program can use, in points.
     CGRect bounds() const;
 };
 

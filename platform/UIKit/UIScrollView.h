@@ -1,16 +1,16 @@
-// Views that scroll.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
 
 namespace brimsound {
 
-/// A view whose contents move up and down under a finger or a wheel.
+/// A view that scrolls its content vertically, by touch or wheel.
 class UIScrollView : public UIView {
 public:
-    /// The point of the contents, in points, that is at the view's top left corner.
+    /// The point of the content, in points, at the view's top left corner.
     CGPoint contentOffset() const;
-    /// Scrolls there at once, and ends any movement. Only y counts, no further than to the contents' edges.
+    /// Scrolls there at once and stops any movement. Only y is used; it is limited to the edges of the
+    /// content.
     void setContentOffset(CGPoint);
 
 protected:

@@ -1,4 +1,3 @@
-// Sliders.
 #pragma once
 
 #include "platform/UIKit/UIControl.h"
@@ -6,28 +5,28 @@
 
 namespace brimsound {
 
-/// A horizontal slider. Its value is clamped to [minimumValue, maximumValue], at first 0 to 1; setting a
+/// A horizontal slider. Its value is clamped to [minimumValue, maximumValue], initially 0 to 1. Setting the
 /// value in code sends no actions.
 class UISlider : public UIControl {
 public:
     UISlider();
 
     float value() const;
-    /// Takes the nearest value in range; a NaN leaves the value as it is.
+    /// Clamps the value to the range. NaN leaves the value unchanged.
     void setValue(float);
 
     float minimumValue() const;
-    /// Raises the maximum along when it would be below.
+    /// Raises the maximum too when it would be smaller.
     void setMinimumValue(float);
     float maximumValue() const;
-    /// Lowers the minimum along when it would be above.
+    /// Lowers the minimum too when it would be larger.
     void setMaximumValue(float);
 
-    /// The color of the track between its start and the thumb; null for the platform's own.
+    /// The color of the track between its start and the thumb; null for the platform's default.
     RetainPtr<UIColor> minimumTrackTintColor() const;
     void setMinimumTrackTintColor(RetainPtr<UIColor>);
 
-    /// The image drawn as the thumb, owned by the slider; null on a platform that does not tell.
+    /// The image drawn as the thumb, owned by the slider; null on a platform that does not provide it.
     UIImage* currentThumbImage() const;
 };
 

@@ -1,4 +1,3 @@
-// Switches.
 #pragma once
 
 #include "platform/UIKit/Animated.h"
@@ -6,7 +5,7 @@
 
 namespace brimsound {
 
-/// An on/off switch, at first off; a touch flips it and sends UIControlEventValueChanged.
+/// An on/off switch, initially off. A touch toggles it and sends UIControlEventValueChanged.
 class UISwitch : public UIControl {
 public:
     UISwitch();

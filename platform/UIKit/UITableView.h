@@ -1,4 +1,3 @@
-// Tables: scrolling lists of rows in sections.
 #pragma once
 
 #include "platform/UIKit/UIScrollView.h"
@@ -15,36 +14,37 @@ enum class UITableViewStyle {
     Grouped = 1,
 };
 
-/// How rows come and go.
+/// The animation of rows that are inserted or deleted.
 enum class UITableViewRowAnimation {
-    /// As the platform thinks best.
+    /// The platform chooses.
     Automatic = 100,
 };
 
-/// A list that asks its data source for the rows on view and keeps those that scrolled off for reuse.
+/// A scrolling list of rows in sections. It asks its data source for the rows in view and keeps the cells of
+/// rows that scrolled out of view for reuse.
 class UITableView : public UIScrollView {
 public:
     UITableView(const CGRect& frame, UITableViewStyle);
 
-    /// Both reload the table. Neither object is retained; null for none.
+    /// Both setters reload the table. Neither object is retained; both may be null.
     void setDataSource(UITableViewDataSource*);
     void setDelegate(UITableViewDelegate*);
 
-    /// Forgets all rows (they can be reused) and what was selected, and asks for the rows on view anew before
-    /// the next drawing.
+    /// Drops all rows (their cells can be reused) and the selection, and asks for the rows in view again
+    /// before the next drawing.
     void reloadData();
-    /// Takes rows away, of which the data source has let go already: it is asked for the number of rows anew.
-    /// All other rows keep their cells; those below move up.
+    /// Deletes rows that the data source has already removed: it is asked for the number of rows again. All
+    /// other rows keep their cells; those below move up.
     void deleteRowsAtIndexPathsWithRowAnimation(const std::vector<NSIndexPath>&, UITableViewRowAnimation);
 
-    /// A cell that was made with the identifier and is no longer on view; null when there is none.
+    /// A cell with that identifier that is no longer in view; null when there is none.
     RetainPtr<UITableViewCell> dequeueReusableCellWithIdentifier(const std::string& identifier);
-    /// Where a row stands in the table's contents; empty for a row that there is not.
+    /// The frame of a row in the table's content; empty when the row does not exist.
     CGRect rectForRowAtIndexPath(const NSIndexPath&) const;
-    /// The cell of a row that is on view, else null.
+    /// The cell of a row in view; otherwise null.
     UITableViewCell* cellForRowAtIndexPath(const NSIndexPath&) const;
 
-    /// The hairlines between rows; null (as at first) for the platform's own color.
+    /// The color of the lines between rows; null (the initial value) for the platform's default.
     RetainPtr<UIColor> separatorColor() const;
     void setSeparatorColor(RetainPtr<UIColor>);
 

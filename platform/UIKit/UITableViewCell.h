@@ -1,4 +1,3 @@
-// The rows of a table.
 #pragma once
 
 #include "platform/UIKit/Animated.h"
@@ -10,9 +9,9 @@
 namespace brimsound {
 
 enum class UITableViewCellStyle {
-    /// One text.
+    /// One line of text.
     Default = 0,
-    /// A text and a smaller one below it.
+    /// A line of text and a smaller one below it.
     Subtitle = 3,
 };
 
@@ -22,14 +21,14 @@ enum class UITableViewCellSelectionStyle {
     Default = 3,
 };
 
-/// What the user wants done to a row.
+/// The change that the user asks for.
 enum class UITableViewCellEditingStyle {
     None = 0,
     Delete = 1,
 };
 
-/// One row. Whatever a row shows of its own belongs into the content view, which the cell sizes to what the
-/// accessory view leaves free. Back to front: the background view, the selected background view while the row
+/// One row of a table. A row's own contents belong in the content view. The cell sizes it to the space that
+/// the accessory view leaves. Back to front: the background view, the selected background view while the row
 /// is pressed or selected, the content view, the accessory view.
 class UITableViewCell : public UIView {
 public:
@@ -39,26 +38,26 @@ public:
     std::string reuseIdentifier() const;
     UIView& contentView() const;
     UILabel& textLabel() const;
-    /// The text below; null in the default style. While it is empty, the text label has the whole height.
+    /// The second line; null in the default style. While it is empty, the text label has the whole height.
     UILabel* detailTextLabel() const;
-    /// At the row's left end; without an image it takes no room.
+    /// At the row's left end. Takes no space without an image.
     UIImageView& imageView() const;
 
-    /// The view at the row's right end; null for none.
+    /// The view at the row's right end; may be null.
     UIView* accessoryView() const;
     void setAccessoryView(RetainPtr<UIView>);
 
-    /// The cell sizes it to its bounds; null (as at first) for none.
+    /// The cell sizes it to its bounds. Null (the initial value) for none.
     UIView* backgroundView() const;
     void setBackgroundView(RetainPtr<UIView>);
-    /// At first a view in the platform's own gray, or in the background color that it is given. The cell
-    /// holds it apart, and puts it into the view tree, sized to its bounds, while the row is pressed or
-    /// selected; null for a row that then looks as ever.
+    /// Initially a view in the platform's gray, or in the background color that the view was given. It is in
+    /// the view tree, sized to the cell's bounds, only while the row is pressed or selected. Null for a row
+    /// that does not change its appearance.
     UIView* selectedBackgroundView() const;
     void setSelectedBackgroundView(RetainPtr<UIView>);
 
-    /// While a row is pressed or selected, the labels and image views in its content view are highlighted.
-    /// A tap selects a row until it is set to be not selected or another one is tapped. Setting tells no
+    /// While a row is pressed or selected, the labels and image views in its content view are highlighted. A
+    /// tapped row stays selected until this is set to false or another row is tapped. The setter calls no
     /// delegate.
     bool isSelected() const;
     void setSelected(bool, Animated);
@@ -68,7 +67,7 @@ public:
     UITableViewCellSelectionStyle selectionStyle() const;
     void setSelectionStyle(UITableViewCellSelectionStyle);
 
-    /// Sizes the backgrounds, the content view and the accessory view, and places the cell's own texts and
+    /// Sizes the backgrounds, the content view and the accessory view, and places the cell's own labels and
     /// image.
     void layoutSubviews() override;
 

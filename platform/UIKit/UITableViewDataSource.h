@@ -1,4 +1,3 @@
-// Where a table gets its contents.
 #pragma once
 
 #include "platform/Foundation/NSIndexPath.h"
@@ -11,7 +10,7 @@ namespace brimsound {
 
 class UITableView;
 
-/// Asked by a table for its contents. Not retained by it.
+/// Provides the contents of a table. The table does not retain it.
 class UITableViewDataSource {
 public:
     virtual ~UITableViewDataSource() = default;
@@ -21,13 +20,13 @@ public:
     virtual RetainPtr<UITableViewCell> tableViewCellForRowAtIndexPath(UITableView&, const NSIndexPath&) = 0;
     /// Whether the user may delete the row.
     virtual bool tableViewCanEditRowAtIndexPath(UITableView&, const NSIndexPath&) { return false; }
-    /// The user wants the row deleted. It is still there: the data source drops it and has the table delete
-    /// the row.
+    /// The user asked to delete the row. The row still exists: the data source removes it and then deletes
+    /// the row from the table.
     virtual void tableViewCommitEditingStyleForRowAtIndexPath(
         UITableView&, UITableViewCellEditingStyle, const NSIndexPath&)
     {
     }
-    /// Empty for a section without one. A plain table shows neither headers nor footers.
+    /// Empty for a section without a header. A plain table shows neither headers nor footers.
     virtual std::string tableViewTitleForHeaderInSection(UITableView&, std::size_t /*section*/) { return {}; }
     virtual std::string tableViewTitleForFooterInSection(UITableView&, std::size_t /*section*/) { return {}; }
 };

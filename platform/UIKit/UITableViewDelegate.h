@@ -1,4 +1,3 @@
-// Who decides on a table's looks and hears of its rows being tapped.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -9,14 +8,14 @@ namespace brimsound {
 class UITableView;
 class UITableViewCell;
 
-/// Asked and told by a table. Not retained by it.
+/// Decides how a table's rows look and is called when a row is tapped. The table does not retain it.
 class UITableViewDelegate {
 public:
     virtual ~UITableViewDelegate() = default;
 
     /// In points.
     virtual CGFloat tableViewHeightForRowAtIndexPath(UITableView&, const NSIndexPath&) { return 44; }
-    /// Called just before the row's cell appears, when it has its frame.
+    /// Called just before the row's cell appears. The cell already has its frame.
     virtual void tableViewWillDisplayCellForRowAtIndexPath(UITableView&, UITableViewCell&, const NSIndexPath&)
     {
     }

@@ -1,4 +1,3 @@
-// Text fields: one line of text to be edited.
 #pragma once
 
 #include "platform/UIKit/UIControl.h"
@@ -25,25 +24,25 @@ enum class UITextAutocapitalizationType {
     Sentences = 2,
 };
 
-/// Edits its text while it is the first responder, which a touch makes it. It has no border and no background
-/// of its own. Text that does not fit scrolls while it is edited and ends in an ellipsis otherwise. How the
-/// keyboard looks, what its return key says and what it capitalizes by itself are wishes to a keyboard on the
-/// screen; one with keys of its own types what it types.
+/// One line of text. It can be edited while the field is the first responder; a touch makes it so. The field
+/// draws no border and no background. Text that does not fit scrolls during editing and is otherwise
+/// truncated with an ellipsis. The keyboard's appearance, its return key and automatic capitalization apply
+/// to an on-screen keyboard; a physical keyboard ignores them.
 class UITextField : public UIControl {
 public:
     explicit UITextField(const CGRect& frame = {});
 
-    /// UTF-8, as it stands after each change; at first empty.
+    /// UTF-8. Follows each edit; initially empty.
     std::string text() const;
     void setText(const std::string&);
-    /// At first the default text font at 17 points.
+    /// Initially the default text font at 17 points.
     RetainPtr<UIFont> font() const;
     void setFont(RetainPtr<UIFont>);
-    /// At first black.
+    /// Initially black.
     RetainPtr<UIColor> textColor() const;
     void setTextColor(RetainPtr<UIColor>);
 
-    /// Not retained; null for none.
+    /// Not retained; may be null.
     UITextFieldDelegate* delegate() const;
     void setDelegate(UITextFieldDelegate*);
 
@@ -51,7 +50,7 @@ public:
     void setKeyboardAppearance(UIKeyboardAppearance);
     UIReturnKeyType returnKeyType() const;
     void setReturnKeyType(UIReturnKeyType);
-    /// At first sentences.
+    /// Initially sentences.
     UITextAutocapitalizationType autocapitalizationType() const;
     void setAutocapitalizationType(UITextAutocapitalizationType);
 

@@ -1,4 +1,3 @@
-// Who is asked about what is done in a text field.
 #pragma once
 
 namespace brimsound {
@@ -9,7 +8,7 @@ class UITextFieldDelegate {
 public:
     virtual ~UITextFieldDelegate() = default;
 
-    /// The return key was pressed in the field. Whether the field shall do what it does by itself.
+    /// The return key was pressed. Returns whether the field should perform its default action.
     virtual bool textFieldShouldReturn(UITextField*) { return true; }
 };
 

@@ -1,4 +1,3 @@
-// Views: rectangles on the screen that hold other views.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
@@ -13,81 +12,83 @@
 
 namespace brimsound {
 
-/// What of a view's frame follows when its superview's size changes. The rest stays as it is.
+/// The parts of a view's frame that change with its superview's size.
 using UIViewAutoresizing = unsigned long;
 inline constexpr UIViewAutoresizing UIViewAutoresizingNone = 0;
 inline constexpr UIViewAutoresizing UIViewAutoresizingFlexibleWidth = 1 << 1;
 inline constexpr UIViewAutoresizing UIViewAutoresizingFlexibleHeight = 1 << 4;
 
-/// A rectangle with a place in its superview. A view retains its subviews and not its superview.
+/// A rectangle on the screen that contains other views. A view retains its subviews but not its superview.
 class UIView : public NSObject {
 public:
     explicit UIView(const CGRect& frame = {});
 
-    /// Place and size in the superview's coordinates, in points.
+    /// Position and size in the superview's coordinates, in points.
     CGRect frame() const;
     virtual void setFrame(const CGRect&);
-    /// The view's own coordinates: its size, from its own origin on.
+    /// The view's rectangle in its own coordinates.
     CGRect bounds() const;
-    /// A flexible width or height grows and shrinks, at once, by as much as the superview's does. At first
-    /// none is.
+    /// A flexible width or height changes, at once, by as much as the superview's does. Initially neither is
+    /// flexible.
     UIViewAutoresizing autoresizingMask() const;
     void setAutoresizingMask(UIViewAutoresizing);
 
     UIView* superview() const;
     /// Back to front.
     std::vector<RetainPtr<UIView>> subviews() const;
-    /// Puts the view in front of the other subviews, out of its former superview if it had one.
+    /// Adds the view in front of the other subviews. Removes it from its previous superview, if any.
     void addSubview(UIView&);
     void removeFromSuperview();
 
-    /// Asks for layoutSubviews before the next drawing.
+    /// Requests a call of layoutSubviews before the next drawing.
     void setNeedsLayout();
-    /// Has it called at once, if it was asked for, here and in all subviews.
+    /// Performs a requested layout at once, here and in all subviews.
     void layoutIfNeeded();
-    /// Places the subviews; called when the size changed or a layout was asked for. The base class does
+    /// Places the subviews. Called when the size changed or a layout was requested. The base class does
     /// nothing.
     virtual void layoutSubviews();
 
-    /// Null (as at first) is no background.
+    /// Null (the initial value) for no background.
     RetainPtr<UIColor> backgroundColor() const;
     void setBackgroundColor(RetainPtr<UIColor>);
-    /// 0 (invisible) to 1; the view fades together with everything in it.
+    /// 0 (invisible) to 1. Applies to the view together with its subviews.
     CGFloat alpha() const;
     void setAlpha(CGFloat);
     bool isHidden() const;
     void setHidden(bool);
-    /// Whether subviews are cut off at the view's edges; at first they are not.
+    /// Whether subviews are clipped to the view's bounds; initially false.
     bool clipsToBounds() const;
     void setClipsToBounds(bool);
-    /// Whether the view and all in it can be touched, as at first; else touches go to what lies below.
+    /// Whether the view and its subviews receive touches; initially true. Otherwise touches go to the view
+    /// below.
     bool isUserInteractionEnabled() const;
     void setUserInteractionEnabled(bool);
     CALayer layer() { return CALayer(*this); }
 
-    /// A number to find the view by, at first 0.
+    /// A number that identifies the view; initially 0.
     long tag() const;
     void setTag(long);
-    /// The view itself or the first one in it, depth first, that has the tag; null when there is none.
+    /// The view itself or the first descendant, depth first, with the tag; null when there is none.
     UIView* viewWithTag(long);
 
-    /// What a screen reader calls the view; empty (as at first) for one that says so itself.
+    /// The view's name for screen readers; empty (the initial value) for a view whose own text is used.
     std::string accessibilityLabel() const;
     void setAccessibilityLabel(const std::string&);
-    /// At first none.
+    /// Initially none.
     UIAccessibilityTraits accessibilityTraits() const;
     void setAccessibilityTraits(UIAccessibilityTraits);
 
-    /// Whether the view can be what the keyboard types into; here it cannot.
+    /// Whether the view can receive keyboard input. The base class returns false.
     virtual bool canBecomeFirstResponder() const { return false; }
-    /// Takes the keyboard, from whoever has it. False for a view that cannot or is in no window.
+    /// Gives the keyboard to this view instead of the current first responder. Returns false for a view that
+    /// cannot take it or is in no window.
     bool becomeFirstResponder();
-    /// Gives the keyboard up. So does a view that leaves its window.
+    /// Gives up the keyboard. This also happens when the view leaves its window.
     void resignFirstResponder();
     bool isFirstResponder() const;
 
-    /// Makes changes that show as movements of that many seconds, starting now: of frames, alphas and
-    /// background colors. The views have their new values at once.
+    /// Animates changes of frames, alphas and background colors over that many seconds, starting now. The
+    /// views' properties have their new values at once.
     static void animateWithDurationAnimations(double seconds, const std::function<void()>& animations);
 
 protected:

@@ -1,4 +1,3 @@
-// View controllers: what fills the screen, or a sheet over it.
 #pragma once
 
 #include "platform/UIKit/Animated.h"
@@ -8,26 +7,27 @@
 
 namespace brimsound {
 
-/// Owns a view, and the controller that it presents over that view, if any.
+/// Manages a view and, optionally, another controller that it presents over that view.
 class UIViewController : public NSObject {
 public:
     UIViewController();
 
-    /// Made when it is first asked for.
+    /// Created when it is first used.
     UIView& view() const;
-    /// Null lets go of the view; the next one that asks for it has a new one made.
+    /// Null releases the view; the next use creates a new one.
     void setView(RetainPtr<UIView>);
-    /// Told by a platform that lets go of the view to save memory; here it does nothing.
+    /// Called by a platform that releases the view to save memory. The base class does nothing.
     virtual void viewDidUnload() { }
-    /// Told when the view was laid out: when its size has changed or its subviews have, and whenever else a
-    /// layout was asked for. Here it does nothing.
+    /// Called after each layout of the view: when its size or its subviews have changed, or a layout was
+    /// requested. The base class does nothing.
     virtual void viewDidLayoutSubviews() { }
 
-    /// Shows another controller's view over everything, and retains the controller until it is dismissed.
-    /// Nothing when one is presented already. `completion`, which may be empty, is called when it stands.
+    /// Shows another controller's view over everything and retains the controller until it is dismissed. Does
+    /// nothing when a controller is already presented. `completion`, which may be empty, is called when the
+    /// presentation is finished.
     void presentViewControllerAnimatedCompletion(
         RetainPtr<UIViewController>, Animated, const std::function<void()>& completion);
-    /// Takes the presented controller away again. Nothing when there is none.
+    /// Dismisses the presented controller. Does nothing when there is none.
     void dismissViewControllerAnimatedCompletion(Animated, const std::function<void()>& completion);
 
 protected:
