@@ -2,7 +2,7 @@
 
 namespace brimsound {
 
-// iOS 7.0 and later.
+// The version of iOS 7.0.
 double kCFCoreFoundationVersionNumber = 847.20;
 
 } // namespace brimsound

@@ -70,7 +70,7 @@ void CFNotificationCenterPostNotification(
 {
     auto& bus = desktop::SessionBus::shared();
     auto* connection = bus.connection();
-    // The first attempt may be what shows that the connection was lost.
+    // The first attempt can fail because the connection was lost; connection() then opens a new one.
     if (post(connection, name) || (connection && post(bus.connection(), name)))
         desktop::effects().notificationPosted(name);
 }

@@ -1,9 +1,9 @@
-// The binary property-list format, version 00, as a reader and a writer share it.
+// The binary property-list format, version 00. The reader and the writer share these definitions.
 //
-// The file starts with "bplist00". Objects follow, each with a marker first: the kind in its upper four bits,
-// in the lower ones a size or a count; 15 says that the count follows as an integer object. Containers refer
-// to their members by number. A table of where each object starts comes next, then the trailer. All numbers
-// are big-endian.
+// The file starts with "bplist00". The objects follow. Each begins with a marker byte: the upper four bits
+// give the kind, the lower four a size or count, where 15 means that the count follows as an integer object.
+// Containers refer to their members by number. After the objects come a table with the offset of each object,
+// and the trailer. All numbers are big-endian.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ namespace brimsound::desktop::binary {
 
 inline constexpr std::string_view magic = "bplist00";
 
-/// Whole markers.
+/// Markers without a size or count.
 enum Marker : std::uint8_t {
     NullMarker = 0x00,
     FalseMarker = 0x08,
@@ -26,24 +26,26 @@ enum Marker : std::uint8_t {
 
 /// The upper four bits of the other markers.
 enum Kind : std::uint8_t {
-    /// Of 2 to the power of the lower bits bytes; up to four without a sign, else two's complement.
+    /// The lower bits are the binary logarithm of the size in bytes. Up to four bytes are unsigned, more are
+    /// two's complement.
     IntegerKind = 0x1,
     DataKind = 0x4,
     AsciiKind = 0x5,
-    /// Its count is of units of two bytes.
+    /// The count is in units of two bytes.
     Utf16Kind = 0x6,
-    /// Of one byte more than the lower bits say.
+    /// The size in bytes is one more than the lower bits.
     UidKind = 0x8,
     ArrayKind = 0xA,
     SetKind = 0xC,
-    /// The references to all keys, then those to all values.
+    /// References to all keys, then references to all values.
     DictionaryKind = 0xD,
 };
 
-/// The count of a marker whose count follows.
+/// The marker's count when the actual count follows as an integer object.
 inline constexpr std::size_t countFollows = 0xF;
 
-/// Five unused bytes and the sort version come first; the offsets here are from the trailer's start.
+/// The trailer begins with five unused bytes and the sort version. The offsets below are relative to its
+/// start.
 inline constexpr std::size_t trailerSize = 32;
 inline constexpr std::size_t offsetSizeInTrailer = 6;
 inline constexpr std::size_t referenceSizeInTrailer = 7;

@@ -71,7 +71,7 @@ std::size_t numberSize(std::uint64_t number)
 std::size_t integerSize(const Object& integer)
 {
     constexpr std::uint64_t sign = std::uint64_t { 1 } << 63;
-    // The shorter ones have no sign.
+    // Shorter integers are unsigned.
     if (integer.more == 0)
         return integer.number < sign ? numberSize(integer.number) : 16;
     return ~integer.more == 0 && integer.number >= sign ? 8 : 16;

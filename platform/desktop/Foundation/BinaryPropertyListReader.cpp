@@ -30,7 +30,7 @@ template <typename Number> Number loaded(const std::byte* bytes)
 
 std::uint64_t bigEndian(std::span<const std::byte> bytes)
 {
-    // The usual sizes take one instruction each to load.
+    // Each of the usual sizes is loaded with one instruction.
     switch (bytes.size()) {
     case 1:
         return loaded<std::uint8_t>(bytes.data());
@@ -70,7 +70,7 @@ public:
     }
 
 private:
-    /// What follows an object's marker, up to where the objects end, and the object's count.
+    /// The bytes from the end of an object's marker to the end of all objects, and the object's count.
     struct Contents {
         std::span<const std::byte> bytes;
         std::uint64_t count;
@@ -187,7 +187,7 @@ private:
         return true;
     }
 
-    /// The count that follows, as an integer object of up to eight bytes.
+    /// Reads a count that follows as an integer object of up to eight bytes.
     static bool readCount(Contents& contents)
     {
         if (contents.bytes.empty())
@@ -226,7 +226,7 @@ private:
             text = bytes;
             return true;
         }
-        // Each byte that is no text takes three.
+        // A byte that is not ASCII can take three bytes as U+FFFD.
         if (!_budget.takeText(3 * bytes.size()))
             return false;
         text = textFrom(bytes);
@@ -289,7 +289,7 @@ private:
             && (contents.count != countFollows || readCount(contents)) && readText(kind, contents, key);
     }
 
-    /// From the object's marker to where the objects end; empty when there is no such object.
+    /// The bytes from the object's marker to the end of all objects; empty when there is no such object.
     std::span<const std::byte> objectAt(std::uint64_t number) const
     {
         if (number >= _count)
@@ -305,7 +305,7 @@ private:
     }
 
     std::span<const std::byte> _file;
-    /// The part of the file before the table.
+    /// The part of the file before the offset table.
     std::span<const std::byte> _objects;
     std::span<const std::byte> _offsets;
     std::size_t _offsetSize = 0;

@@ -1,4 +1,3 @@
-// Reading the binary property-list format.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -9,13 +8,13 @@
 
 namespace brimsound::desktop {
 
-/// Whether the bytes start as a binary property list does.
+/// Whether the bytes begin like a binary property list.
 bool isBinaryPropertyList(std::span<const std::byte>);
 
-/// The property list that the bytes are, exactly, its dictionaries in the order of the file. Bytes of an
-/// ASCII text that are no ASCII are taken for UTF-8, with U+FFFD in place of what is none. Nothing for bytes
-/// that are no property list of version 00, and for one out of bounds, an object that contains itself among
-/// them.
+/// Reads a property list that takes up exactly these bytes. Dictionaries keep the order of the file. An ASCII
+/// text with other bytes is read as UTF-8, with U+FFFD for invalid bytes. Nothing when the bytes are not a
+/// property list of version 00, when they exceed the limits (PropertyListBudget.h), or when an object
+/// contains itself.
 std::optional<PropertyList> readBinaryPropertyList(std::span<const std::byte>);
 
 } // namespace brimsound::desktop

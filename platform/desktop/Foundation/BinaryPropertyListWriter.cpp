@@ -16,7 +16,7 @@ using namespace binary;
 
 namespace {
 
-/// The objects of a property list, numbered, and the references of its containers.
+/// The numbered objects of a property list, and the references of its containers.
 class ObjectGraph {
 public:
     ObjectGraph()
@@ -26,7 +26,7 @@ public:
         references.reserve(usual);
     }
 
-    /// Gives the value and everything in it their numbers. False when it cannot be written.
+    /// Numbers the value and everything in it. Returns false when the value cannot be written.
     bool add(const PropertyList& value, std::uint32_t& number, std::size_t depth = 0)
     {
         if (depth > deepestPropertyList)
@@ -107,7 +107,7 @@ private:
     PropertyListBudget _budget;
 };
 
-/// Writes into memory that is large enough.
+/// Writes into a buffer that is large enough.
 class Output {
 public:
     explicit Output(std::byte* start)
@@ -118,10 +118,10 @@ public:
 
     std::size_t length() const { return static_cast<std::size_t>(_next - _start); }
 
-    /// Of 1, 2, 4 or 8 bytes.
+    /// Writes a number in 1, 2, 4 or 8 bytes.
     void append(std::uint64_t number, std::size_t size)
     {
-        // Each takes one instruction to store.
+        // Each size is stored with one instruction.
         switch (size) {
         case 1:
             store(static_cast<std::uint8_t>(number));

@@ -1,4 +1,3 @@
-// Writing the binary property-list format.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -7,10 +6,10 @@
 
 namespace brimsound::desktop {
 
-/// The value in the binary format, version 00, as the platform's own writer does it: each object before those
-/// that it refers to, the keys of a dictionary before its values, equal values but no containers written
-/// once, all numbers as short as they can be. Nothing when the value is, or holds, null or text that is not
-/// UTF-8, or when it is out of the bounds within which it could be read again.
+/// The value in the binary format, version 00, with the same layout as the platform's own writer: an object
+/// comes before the objects that it refers to, a dictionary's keys before its values, equal values other than
+/// containers are written once, and all numbers have their smallest size. Nothing when the value is null,
+/// contains null or text that is not UTF-8, or exceeds the limits for reading it again.
 std::optional<PropertyList::Data> writeBinaryPropertyList(const PropertyList&);
 
 } // namespace brimsound::desktop

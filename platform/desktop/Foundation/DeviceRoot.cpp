@@ -23,7 +23,7 @@ fs::path homeFolder()
 
 fs::path userDataFolder()
 {
-    // XDG base directories are absolute; anything else is to be ignored.
+    // The XDG specification requires absolute paths and says to ignore others.
     if (const char* folder = std::getenv("XDG_DATA_HOME"); folder && *folder == '/')
         return folder;
     return homeFolder() / ".local/share";
@@ -74,7 +74,7 @@ void prepareDeviceRoot()
 
 fs::path resolveDevicePath(std::string_view devicePath)
 {
-    // Normalizing an absolute path leaves no ".." in it.
+    // A normalized absolute path contains no "..".
     const auto path = ("/" / fs::path(devicePath)).lexically_normal();
     static const fs::path bundle = "/Library/PreferenceBundles/BrimsoundSettings.bundle";
     if (startsWith(path, bundle))

@@ -1,4 +1,4 @@
-// Where device paths lie on this machine.
+// The location of device paths on this machine.
 #pragma once
 
 #include <filesystem>
@@ -7,19 +7,19 @@
 
 namespace brimsound::desktop {
 
-/// The folder under which device paths resolve: `brimsound` in the user's data directory ($XDG_DATA_HOME,
-/// else ~/.local/share) until another is set.
+/// The folder that device paths are relative to. By default `brimsound` in the user's data directory
+/// ($XDG_DATA_HOME, otherwise ~/.local/share).
 const std::filesystem::path& deviceRoot();
 
-/// Sets the device root. Process-wide; for the start of a program and for tests.
+/// Sets the device root for the whole process. For the start of a program and for tests.
 void setDeviceRoot(std::filesystem::path);
 
-/// Makes the folders of the device that the pane expects to find (those of the preferences file), readable by
-/// the user alone. Throws std::filesystem::filesystem_error when one cannot be made.
+/// Creates the folders that the pane expects on a device (those of the preferences file), accessible by the
+/// user only. Throws std::filesystem::filesystem_error when one cannot be created.
 void prepareDeviceRoot();
 
-/// The place of a device path on this machine. The installed bundle's own path leads to its resources beside
-/// the running program (../share/brimsound), every other path to the device root.
+/// Converts a device path to a path on this machine. Paths in the installed bundle are resolved to the
+/// resources next to the running program (../share/brimsound), all others are relative to the device root.
 std::filesystem::path resolveDevicePath(std::string_view devicePath);
 
 } // namespace brimsound::desktop

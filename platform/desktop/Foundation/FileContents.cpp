@@ -25,7 +25,7 @@ public:
 
     int number() const { return _number; }
 
-    /// The length of a regular file; nothing when it is none.
+    /// The length of a regular file; nothing for other files.
     std::optional<std::size_t> length() const
     {
         struct stat status { };
@@ -35,7 +35,7 @@ public:
     }
     bool isRegularFile() const { return length().has_value(); }
 
-    /// Some file systems report a failed write only now.
+    /// Some file systems report a failed write only when the file is closed.
     bool close()
     {
         const int number = std::exchange(_number, -1);
@@ -58,7 +58,7 @@ bool writeAll(int file, std::span<const std::byte> bytes)
     return true;
 }
 
-/// Has the disk set room aside for that many bytes of the file, from its start. False when there is none: the
+/// Reserves disk space for that many bytes of the file, from its start. Returns false when this fails: the
 /// disk or the quota is full, or the file would be too large.
 bool reserve(int file, std::size_t length)
 {
@@ -67,16 +67,16 @@ bool reserve(int file, std::size_t length)
     int error = EINTR;
     while (error == EINTR)
         error = posix_fallocate(file, 0, static_cast<off_t>(length));
-    // Where the file system reserves nothing, the C library writes a zero into each new block instead.
+    // On file systems that cannot reserve space, the C library writes a zero into each new block instead.
     return error == 0;
 }
 
 void undoReserving(const std::filesystem::path& path, int file, std::size_t oldLength, bool isNew)
 {
-    // Room that was found for a part of it made the file longer.
+    // A reservation that failed halfway made the file longer.
     if (ftruncate(file, static_cast<off_t>(oldLength)) != 0 || !isNew)
         return;
-    // The path may be a link to where the file is.
+    // The path may be a symbolic link; remove the file it points to.
     std::error_code ignored;
     std::filesystem::remove(std::filesystem::canonical(path, ignored), ignored);
 }
@@ -90,7 +90,7 @@ std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::pat
     if (!length || *length > limit)
         return std::nullopt;
 
-    // One more than its length, so that what was written to it in the meantime shows.
+    // One byte more than the length, to notice when the file has grown in the meantime.
     std::vector<std::byte> bytes(*length + 1);
     std::size_t end = 0;
     for (;;) {

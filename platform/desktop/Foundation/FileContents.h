@@ -1,4 +1,4 @@
-// Whole files, on this machine's paths.
+// Reading and writing whole files, by their paths on this machine.
 #pragma once
 
 #include <cstddef>
@@ -9,18 +9,18 @@
 
 namespace brimsound::desktop {
 
-/// The bytes of a regular file; nothing when it is none, cannot be read, or is longer than `limit`. Never
-/// waits for the other end of a pipe or a device.
+/// The bytes of a regular file; nothing when it is not a regular file, cannot be read, or is longer than
+/// `limit`. Never blocks on a pipe or a device.
 std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::path&, std::size_t limit);
 
-/// Overwrites a regular file in place, or makes it, for the user alone. Room for all of it is reserved first,
-/// so that a full disk or quota, or a file that would be too large, leaves the old file as it was. False when
-/// that failed: halfway only for a disk that fails, or one that writes changed blocks elsewhere and finds no
-/// room there.
+/// Overwrites a regular file in place, or creates it, accessible by the user only. Reserves the disk space
+/// first. A full disk, a full quota or a size limit therefore leaves the old file unchanged. Returns false on
+/// failure. The file is partly written only after a disk error, or on a file system that writes changed
+/// blocks to a new place and finds no space for them.
 bool overwriteFile(const std::filesystem::path&, std::span<const std::byte>);
 
-/// Puts a new file, for the user alone, in the place of the one of that name: the old one or the new one is
-/// there whole at any time. False when that failed.
+/// Replaces the file with a new one, accessible by the user only. At any time either the complete old file or
+/// the complete new file is there. Returns false on failure.
 bool replaceFile(const std::filesystem::path&, std::span<const std::byte>);
 
 } // namespace brimsound::desktop

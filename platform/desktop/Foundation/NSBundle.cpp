@@ -10,7 +10,7 @@ namespace brimsound {
 
 namespace {
 
-// "" is the bundle's own folder, for what is not localized.
+// "" is the bundle's own folder, which has the resources that are not localized.
 std::vector<std::string> resourceFolders()
 {
     std::vector<std::string> folders;
@@ -28,7 +28,7 @@ std::vector<std::string> resourceFolders()
 
 NSBundle NSBundle::bundleForClass(std::string_view)
 {
-    // Here the classes of the bundle are linked into the program: whichever is asked for is loaded.
+    // On the desktop all classes are linked into the program, so every class belongs to this bundle.
     return NSBundle("/Library/PreferenceBundles/BrimsoundSettings.bundle");
 }
 

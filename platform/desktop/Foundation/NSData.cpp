@@ -9,7 +9,7 @@ namespace brimsound {
 
 namespace {
 
-// Files that are read whole are sent by mail or held in memory; a longer one is a mistake.
+// Whole files are attached to mails or kept in memory. A larger file is assumed to be a mistake.
 constexpr std::size_t largestFile = std::size_t { 128 } << 20;
 
 } // namespace

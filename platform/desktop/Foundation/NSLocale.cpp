@@ -14,7 +14,7 @@ std::string environmentValue(const char* name)
     return value ? value : "";
 }
 
-// "de_DE.UTF-8@euro" is the language "de-DE"; the C locale is no language.
+// "de_DE.UTF-8@euro" is the language "de-DE"; the C locale has no language.
 std::string languageOfLocale(std::string locale)
 {
     locale.resize(std::min(locale.size(), locale.find_first_of(".@")));
@@ -37,7 +37,7 @@ std::string messagesLanguage()
 
 std::vector<std::string> preferredLanguages()
 {
-    // The list in LANGUAGE counts only where the locale is not C.
+    // LANGUAGE is ignored in the C locale.
     const auto language = messagesLanguage();
     if (language.empty())
         return {};

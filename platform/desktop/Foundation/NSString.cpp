@@ -9,7 +9,7 @@ std::string stringWithFormat(const char* format, double number)
 {
     static const locale_t unlocalized = newlocale(LC_ALL_MASK, "C", nullptr);
     const locale_t before = uselocale(unlocalized);
-    // As much as a string holds without memory of its own, which is enough for a caption.
+    // The length that a string stores without an allocation. It is enough for a caption.
     std::string text;
     text.resize(text.capacity());
     const auto length = static_cast<std::size_t>(std::snprintf(text.data(), text.size(), format, number));

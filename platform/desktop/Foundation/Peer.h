@@ -1,11 +1,10 @@
-// The desktop's part of every object.
 #pragma once
 
 #include <cstddef>
 
 namespace brimsound {
 
-/// Holds an object's reference count. Classes with more state behind them derive their own peer.
+/// The desktop's part of an object: its reference count. Classes with more state derive their own peer.
 struct Peer {
     Peer() = default;
     Peer(const Peer&) = delete;

@@ -1,4 +1,3 @@
-// Property lists out of bytes.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -9,8 +8,8 @@
 
 namespace brimsound::desktop {
 
-/// The property list that the bytes are, binary or in XML. Nothing when they are none, or one out of bounds.
-/// Bytes in a text that are no text are replaced. Whatever was read can be written again.
+/// Parses a property list, binary or XML. Nothing when the bytes are not a property list or exceed the
+/// limits. Invalid bytes in texts are replaced. Every result can be written again.
 std::optional<PropertyList> parsePropertyList(std::span<const std::byte>);
 
 } // namespace brimsound::desktop

@@ -1,4 +1,3 @@
-// Telling text from mere bytes.
 #pragma once
 
 #include <string>
@@ -9,7 +8,7 @@ namespace brimsound::desktop {
 /// Whether the bytes are UTF-8 without a NUL.
 bool isText(std::string_view bytes);
 
-/// The bytes as text: U+FFFD stands in for each byte that belongs to none.
+/// The bytes as text, with U+FFFD for each invalid byte.
 std::string textFrom(std::string_view bytes);
 
 } // namespace brimsound::desktop

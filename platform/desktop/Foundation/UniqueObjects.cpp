@@ -15,7 +15,7 @@ const RandomHash& hashOfThisProcess()
     static const RandomHash chosen = [] {
         std::random_device random;
         const auto number = [&] { return std::uint64_t { random() } << 32 | random(); };
-        // Odd factors; a point that is neither 0 nor 1.
+        // The factors are odd; the point is neither 0 nor 1.
         return RandomHash { number() % (prime - 2) + 2, number() | 1, number() | 1, number() | 1 };
     }();
     return chosen;
@@ -29,7 +29,7 @@ std::uint64_t timesModuloPrime(std::uint64_t a, std::uint64_t b)
     return sum >= prime ? sum - prime : sum;
 }
 
-/// The value of a polynomial, whose coefficients are the bytes, seven at a time, at the point.
+/// The value of a polynomial at the point. The coefficients are the bytes, seven at a time.
 std::uint64_t hashOfBytes(std::string_view bytes, std::uint64_t point)
 {
     constexpr std::size_t atATime = 7;
@@ -50,7 +50,7 @@ std::uint32_t hashOf(const Object& object, const RandomHash& hash)
         + (object.more << 4 | static_cast<unsigned>(object.type)) * hash.ofMore;
     if (!object.bytes.empty())
         value += hashOfBytes(object.bytes, hash.point) * hash.ofBytes;
-    // The upper bits depend on all of them.
+    // The upper bits depend on all input bits.
     return static_cast<std::uint32_t>(value >> 32);
 }
 

@@ -1,4 +1,3 @@
-// Equal values of a property list that is being written.
 #pragma once
 
 #include "platform/desktop/Foundation/BinaryObject.h"
@@ -9,7 +8,7 @@
 
 namespace brimsound::desktop::binary {
 
-/// The choice of a hash.
+/// The random parameters of a hash function.
 struct RandomHash {
     std::uint64_t point;
     std::uint64_t ofNumber;
@@ -17,8 +16,8 @@ struct RandomHash {
     std::uint64_t ofBytes;
 };
 
-/// Finds the number of an object that is the same as one met before: a hash table with open addressing. Its
-/// hash is chosen at random when the process starts, so that nobody can write a file whose values all
+/// Finds equal objects in a property list that is being written: a hash table with open addressing. The hash
+/// function is chosen at random when the process starts, so that a file cannot be made whose values all
 /// collide.
 class UniqueObjects {
 public:
@@ -29,13 +28,13 @@ public:
         bool isNew;
     };
 
-    /// Where the object is among `objects`; one that is not there yet is put at their end.
+    /// The position of the object in `objects`. A new object is appended.
     Place place(const Object&, std::vector<Object>& objects);
 
 private:
     struct Slot {
         std::uint32_t hash;
-        /// One more than the object's number; 0 when the slot is free.
+        /// The object's number plus one; 0 for a free slot.
         std::uint32_t taken;
     };
 

@@ -15,8 +15,8 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// Takes the elements of the markup as they come, and puts values together from them. Each operation gives
-/// false for what no property list has.
+/// Builds values from the elements of the markup in the order of the file. Each function returns false for
+/// markup that is not valid in a property list.
 class Builder {
 public:
     bool start(std::string_view element)
@@ -71,16 +71,16 @@ public:
     std::optional<PropertyList> takeRoot() { return std::exchange(_root, std::nullopt); }
 
 private:
-    /// A container whose end has not come yet.
+    /// A container that is still open.
     struct Container {
         bool isDictionary = false;
         PropertyList::Array elements {};
         std::vector<PropertyListDictionary::Entry> entries {};
-        /// Without its value so far.
+        /// The key of the next value.
         std::optional<std::string> key {};
     };
 
-    /// A vector that grows has room for twice of what it holds.
+    /// The cost is twice that of the elements, because a growing vector reserves up to twice their size.
     bool takePlace()
     {
         if (_open.empty())
@@ -141,7 +141,7 @@ private:
 
     bool _isInPlist = false;
     std::vector<Container> _open;
-    /// The open element that is no container, and the text in it so far.
+    /// The open element that is not a container, and its text so far.
     std::string _element;
     std::string _text;
     std::optional<PropertyList> _root;

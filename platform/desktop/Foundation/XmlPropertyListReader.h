@@ -1,4 +1,3 @@
-// Reading the XML property-list format.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -8,8 +7,8 @@
 
 namespace brimsound::desktop {
 
-/// The property list that the markup is, its dictionaries in the order of the file. U+FFFD takes the place of
-/// bytes that are not UTF-8. Nothing for what is no property list, and for one out of bounds.
+/// Reads an XML property list. Dictionaries keep the order of the file. Bytes that are not UTF-8 are replaced
+/// by U+FFFD. Nothing when the markup is not a property list or exceeds the limits.
 std::optional<PropertyList> readXmlPropertyList(std::string_view markup);
 
 } // namespace brimsound::desktop

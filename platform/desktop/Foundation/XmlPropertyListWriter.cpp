@@ -110,7 +110,7 @@ std::optional<PropertyList::Data> writeXmlPropertyList(const PropertyList& value
     if (!writer.append(value, 0))
         return std::nullopt;
     writer.markup += "</plist>\n";
-    // Better the old file than one that could not be read again.
+    // Report failure and keep the old file rather than write one that could not be read again.
     if (!readXmlPropertyList(writer.markup))
         return std::nullopt;
     const auto* bytes = reinterpret_cast<const std::byte*>(writer.markup.data());

@@ -1,4 +1,3 @@
-// Writing the XML property-list format.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -7,9 +6,9 @@
 
 namespace brimsound::desktop {
 
-/// The value as markup. Nothing for what it has no element for: null and null objects, sets, integers beyond
-/// 64 bits, text with a NUL or half a surrogate pair, dates beyond the years 0 to 9999; and for what could
-/// not be read again.
+/// The value as XML. Nothing for values without an element (null and null objects, sets, integers that exceed
+/// 64 bits, text with a NUL or an unpaired surrogate, dates outside the years 0 to 9999) and for values that
+/// could not be read again.
 std::optional<PropertyList::Data> writeXmlPropertyList(const PropertyList&);
 
 } // namespace brimsound::desktop

@@ -1,4 +1,4 @@
-// Numbers, dates and data as text in an XML property list.
+// Conversion of numbers, dates and data to and from the text of an XML property list.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -9,23 +9,23 @@
 
 namespace brimsound::desktop::xml {
 
-// From text to values; blanks around a number or a date are skipped. Nothing for text that is none.
+// From text to values. Blanks around a number or a date are skipped. Nothing for invalid text.
 
-/// In decimal, or in hexadecimal after "0x"; of up to 64 bits, and a sign besides.
+/// Decimal, or hexadecimal after "0x"; up to 64 bits, with or without a sign.
 std::optional<PropertyList> integerFrom(std::string_view);
-/// Infinite and NaN as well.
+/// Accepts infinite values and NaN as well.
 std::optional<PropertyList> realFrom(const std::string&);
-/// As "2001-01-01T00:00:00Z".
+/// In the format "2001-01-01T00:00:00Z".
 std::optional<PropertyList> dateFrom(const std::string&);
-/// From base64; characters that are none of it are skipped. Decodes in the text's own memory.
+/// From base64; other characters are skipped. Decodes in place.
 PropertyList::Data dataFrom(std::string&);
 
-// From values to text. Nothing for what has none.
+// From values to text. Nothing for values that cannot be written.
 
 std::optional<std::string> textOf(PropertyList::WideInteger);
-/// Gives the same number when it is read again.
+/// The text is read back as the same number.
 std::string textOf(double real);
-/// To the second before; of the years 0 to 9999.
+/// Rounded down to the second; for the years 0 to 9999.
 std::optional<std::string> textOf(PropertyList::Date);
 std::string textOf(const PropertyList::Data&);
 
