@@ -12,7 +12,7 @@
 #include "platform/desktop/UIKit/TablePeer.h"
 #include "platform/desktop/UIKit/TextFieldPeer.h"
 #include "platform/desktop/UIKit/ViewControllerPeer.h"
-#include "platform/desktop/bus/Stranger.h"
+#include "platform/desktop/bus/DarwinNotifyPost.h"
 
 #include <algorithm>
 
@@ -367,7 +367,7 @@ void ScriptRunner::mail(const Words& words)
 
 void ScriptRunner::post(const Words& words)
 {
-    if (!postNotificationAsStranger(words[0]))
+    if (!darwinNotifyPost(words[0]))
         throw ScriptError("the session bus cannot be reached");
 }
 

@@ -1,4 +1,4 @@
-#include "platform/desktop/bus/Stranger.h"
+#include "platform/desktop/bus/DarwinNotifyPost.h"
 #include "settings/tweak.h"
 #include "tests/brimsound/Aftermath.h"
 #include "tests/support/LastingBus.h"
@@ -165,7 +165,7 @@ TEST_F(APaneInAWindowWhoseBus, ComesBackHearsOthersAgainByItself)
         bus.start();
         // The pane brings the media server back, untouched.
         ASSERT_TRUE(eventually([] { return serverProcess() > 0; }));
-        ASSERT_TRUE(desktop::postNotificationAsStranger(settingsFinishedNotification));
+        ASSERT_TRUE(desktop::darwinNotifyPost(settingsFinishedNotification));
         EXPECT_EQ(window.next().at("effect"), "delivered");
         EXPECT_EQ(window.next().at("text"), "Brimsound: got notification in settings");
     }

@@ -1,7 +1,7 @@
 #include "tests/support/TestBus.h"
 
+#include "platform/desktop/bus/DarwinNotifyPost.h"
 #include "platform/desktop/bus/SessionBus.h"
-#include "platform/desktop/bus/Stranger.h"
 
 #include <stdexcept>
 
@@ -36,7 +36,7 @@ desktop::BusConnection TestBus::connectAnother()
 
 void TestBus::postFromAnotherProcess(const std::string& name)
 {
-    if (!desktop::postNotificationAsStranger(name))
+    if (!desktop::darwinNotifyPost(name))
         throw std::runtime_error("cannot post on the bus");
 }
 

@@ -1,11 +1,11 @@
-#include "platform/desktop/bus/Stranger.h"
+#include "platform/desktop/bus/DarwinNotifyPost.h"
 
 #include "platform/desktop/bus/Interfaces.h"
 #include "platform/desktop/bus/OpenBus.h"
 
 namespace brimsound::desktop {
 
-bool postNotificationAsStranger(const std::string& name)
+bool darwinNotifyPost(const std::string& name)
 {
     const auto bus = openSessionBus();
     if (!bus
@@ -13,7 +13,7 @@ bool postNotificationAsStranger(const std::string& name)
                bus.get(), notificationsPath, notificationsInterface, postedSignal, "s", name.c_str())
             < 0)
         return false;
-    // The answer to a later call shows that the bus has passed the signal on.
+    // Messages are handled in order: the reply to a later call shows that the bus has passed the signal on.
     return sd_bus_call_method(bus.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
                "org.freedesktop.DBus.Peer", "Ping", nullptr, nullptr, nullptr)
         >= 0;

@@ -20,10 +20,10 @@ namespace {
 
 using namespace std::chrono_literals;
 constexpr int floodSize = 100'000;
-/// What a flood may leave behind in memory, whatever its size.
+/// How much the memory use may grow, however many signals arrive.
 constexpr std::size_t slack = 8 << 20;
 
-/// Sends signals as fast as the bus takes them, from a thread of its own.
+/// Sends signals from its own thread, as fast as the bus accepts them.
 class Flood {
 public:
     using Send = std::function<int(sd_bus*)>;
@@ -52,11 +52,11 @@ int post(sd_bus* bus, const char* name)
         bus, desktop::notificationsPath, desktop::notificationsInterface, desktop::postedSignal, "s", name);
 }
 
-/// The pane in a window, which takes in what arrives by itself.
-class AStranger : public testing::Test {
+/// The pane in a window, and another client of its session bus.
+class AnotherBusClient : public testing::Test {
 protected:
-    /// With a media server that answers so, else with the pane's own one.
-    explicit AStranger(const StandInServer::Answer& answer = nullptr)
+    /// Uses a media server that gives this answer, or without one the pane's own media server.
+    explicit AnotherBusClient(const StandInServer::Answer& answer = nullptr)
         : server(answer ? std::make_unique<StandInServer>(messagingCenterName, answer) : nullptr)
         , pane(root.path(), {}, RunningProgram::Errors::Dropped)
         , process(pane.process().processIdentifier())
@@ -65,16 +65,16 @@ protected:
         pane.state();
     }
 
-    /// Every name on the bus that the pane's process has.
+    /// All names that the pane's process has on the bus.
     std::vector<std::string> namesOfPane()
     {
         std::vector<std::string> names;
         char** all = nullptr;
-        sd_bus_list_names(stranger.get(), &all, nullptr);
+        sd_bus_list_names(client.get(), &all, nullptr);
         for (char** name = all; name && *name; ++name) {
             sd_bus_creds* creds = nullptr;
             pid_t owner = 0;
-            if (sd_bus_get_name_creds(stranger.get(), *name, SD_BUS_CREDS_PID, &creds) >= 0)
+            if (sd_bus_get_name_creds(client.get(), *name, SD_BUS_CREDS_PID, &creds) >= 0)
                 sd_bus_creds_get_pid(creds, &owner);
             sd_bus_creds_unref(creds);
             if (owner == process)
@@ -91,25 +91,25 @@ protected:
     const std::unique_ptr<StandInServer> server;
     RunningProgram pane;
     const pid_t process;
-    desktop::BusConnection stranger = desktop::openSessionBus();
+    desktop::BusConnection client = desktop::openSessionBus();
 };
 
-/// Beside a media server that does not listen to the flood, so that what takes long is the pane.
-class AFloodingStranger : public AStranger {
+/// The media server ignores the flood, so that only the pane's own time is measured.
+class AFloodOfDarwinNotifications : public AnotherBusClient {
 protected:
     void SetUp() override
     {
         if (isSanitized())
-            GTEST_SKIP() << "AddressSanitizer keeps what is given back";
+            GTEST_SKIP() << "AddressSanitizer does not return freed memory";
     }
 
-    AFloodingStranger()
-        : AStranger([](auto* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); })
+    AFloodOfDarwinNotifications()
+        : AnotherBusClient([](auto* message) { return sd_bus_reply_method_return(message, "a{sv}", 0); })
     {
     }
 };
 
-TEST_F(AFloodingStranger, WithOtherNotificationsIsNotHeard)
+TEST_F(AFloodOfDarwinNotifications, ThatThePaneDoesNotObserveIsIgnored)
 {
     const auto before = residentBytes(process);
     const auto descriptors = openDescriptors(process);
@@ -125,7 +125,7 @@ TEST_F(AFloodingStranger, WithOtherNotificationsIsNotHeard)
     EXPECT_EQ(openDescriptors(process), descriptors);
 }
 
-TEST_F(AFloodingStranger, WithThePanesNotificationDoesNotHoldADragUp)
+TEST_F(AFloodOfDarwinNotifications, ThatThePaneObservesDoesNotDelayADrag)
 {
     root.write(preferencesPath, "<plist><dict><key>PREAMP</key><real>-5</real></dict></plist>");
     int delivered = 0;
@@ -144,7 +144,7 @@ TEST_F(AFloodingStranger, WithThePanesNotificationDoesNotHoldADragUp)
     auto most = before;
     double slowest = 0;
     int drags = 0;
-    // How many notifications were delivered before a drag had its turn, which a busy machine does not change.
+    // The number of notifications delivered before a drag. Unlike a time, it does not depend on the load.
     int longestWait = 0;
     {
         const Flood flood([](sd_bus* sender) { return post(sender, settingsFinishedNotification); });
@@ -160,13 +160,13 @@ TEST_F(AFloodingStranger, WithThePanesNotificationDoesNotHoldADragUp)
             most = std::max(most, residentBytes(process));
         }
     }
-    std::cout << drags << " drags during the flood, the slowest after " << slowest << " s and behind "
-              << longestWait << " notifications\n";
-    // Behind all of them it would be, if they were taken in first.
+    std::cout << drags << " drags during the flood, the slowest after " << slowest << " s and " << longestWait
+              << " notifications\n";
+    // If notifications were handled first, a drag would wait for all of them.
     EXPECT_LT(longestWait, floodSize / 3);
     pane.say("lift 3");
     EXPECT_FALSE(until("write").is_null());
-    // Not one is lost, and its own one is the last.
+    // None is lost, and the pane's own one is the last.
     pane.say("wait 0");
     pane.say("state");
     EXPECT_FALSE(until("state").is_null());
@@ -176,21 +176,21 @@ TEST_F(AFloodingStranger, WithThePanesNotificationDoesNotHoldADragUp)
     EXPECT_EQ(openDescriptors(process), descriptors);
 }
 
-TEST_F(AStranger, WhoSendsSignalsThatAreNoneOfOursIsNotHeard)
+TEST_F(AnotherBusClient, SendingOtherSignalsIsIgnored)
 {
     auto receivers = namesOfPane();
     receivers.emplace_back("");
-    // To everybody, and to each of the pane's names.
+    // As a broadcast, and to each of the pane's names.
     const auto emit = [&](const char* path, const char* interface, const char* member, const char* types,
                           auto... values) {
         for (const auto& receiver : receivers) {
             sd_bus_message* created = nullptr;
-            sd_bus_message_new_signal(stranger.get(), &created, path, interface, member);
+            sd_bus_message_new_signal(client.get(), &created, path, interface, member);
             const desktop::BusMessage signal(created);
             if (!receiver.empty())
                 sd_bus_message_set_destination(created, receiver.c_str());
             EXPECT_GE(sd_bus_message_append(created, types, values...), 0);
-            EXPECT_GE(sd_bus_send(stranger.get(), created, nullptr), 0);
+            EXPECT_GE(sd_bus_send(client.get(), created, nullptr), 0);
         }
     };
     const auto* name = settingsFinishedNotification;
@@ -206,26 +206,26 @@ TEST_F(AStranger, WhoSendsSignalsThatAreNoneOfOursIsNotHeard)
     emit("/com/quorvix/other", desktop::notificationsInterface, desktop::postedSignal, "s", name);
     emit("/org/freedesktop/DBus", "org.freedesktop.DBus", "NameOwnerChanged", "sss", messagingCenterName,
         ":1.1", "");
-    sd_bus_flush(stranger.get());
+    sd_bus_flush(client.get());
     const auto serverBefore = serverProcess();
-    // Only this one of the other kind is for the engine alone.
-    ASSERT_GE(post(stranger.get(), settingsChangedNotification), 0);
-    sd_bus_flush(stranger.get());
+    // Only the engine observes this notification.
+    ASSERT_GE(post(client.get(), settingsChangedNotification), 0);
+    sd_bus_flush(client.get());
     std::this_thread::sleep_for(200ms);
     pane.say("wait 0");
     pane.say("state");
     EXPECT_EQ(pane.next().at("effect"), "state");
     EXPECT_EQ(serverProcess(), serverBefore);
 
-    ASSERT_GE(post(stranger.get(), name), 0);
-    sd_bus_flush(stranger.get());
+    ASSERT_GE(post(client.get(), name), 0);
+    sd_bus_flush(client.get());
     EXPECT_EQ(pane.next().at("effect"), "delivered");
 }
 
-TEST_F(AStranger, WhoCallsThePaneIsTurnedAway)
+TEST_F(AnotherBusClient, CallingThePaneGetsAnError)
 {
     const auto names = namesOfPane();
-    // One to speak, one to listen; Qt may have its own.
+    // One connection to send, one to receive; Qt may have its own.
     ASSERT_GE(names.size(), 2u);
     const std::vector<std::string> paths { "/", "/com/quorvix/brimsound", "/org/freedesktop/DBus" };
     const std::vector<std::string> interfaces { desktop::messagingCenterInterface,
@@ -235,7 +235,7 @@ TEST_F(AStranger, WhoCallsThePaneIsTurnedAway)
         for (const auto& path : paths) {
             for (const auto& interface : interfaces) {
                 desktop::BusError error;
-                EXPECT_LT(sd_bus_call_method(stranger.get(), name.c_str(), path.c_str(), interface.c_str(),
+                EXPECT_LT(sd_bus_call_method(client.get(), name.c_str(), path.c_str(), interface.c_str(),
                               desktop::sendMessageMethod, &error, nullptr, "sa{sv}", equalizerSendMessage, 0),
                     0);
                 EXPECT_THAT(error.name, testing::StartsWith("org.freedesktop.DBus.Error.Unknown"));
@@ -246,14 +246,13 @@ TEST_F(AStranger, WhoCallsThePaneIsTurnedAway)
     EXPECT_EQ(pane.next().at("effect"), "state");
 }
 
-TEST_F(AStranger, CannotTakeTheMediaServersNameAndMayOnlyWaitForIt)
+TEST_F(AnotherBusClient, CannotTakeTheMediaServersNameAndCanOnlyQueueForIt)
 {
     const auto serverBefore = serverProcess();
     ASSERT_GT(serverBefore, 0);
-    EXPECT_EQ(
-        sd_bus_request_name(stranger.get(), messagingCenterName, SD_BUS_NAME_REPLACE_EXISTING), -EEXIST);
+    EXPECT_EQ(sd_bus_request_name(client.get(), messagingCenterName, SD_BUS_NAME_REPLACE_EXISTING), -EEXIST);
     EXPECT_EQ(sd_bus_request_name(
-                  stranger.get(), messagingCenterName, SD_BUS_NAME_REPLACE_EXISTING | SD_BUS_NAME_QUEUE),
+                  client.get(), messagingCenterName, SD_BUS_NAME_REPLACE_EXISTING | SD_BUS_NAME_QUEUE),
         0);
     EXPECT_EQ(serverProcess(), serverBefore);
     pane.say("touch 3");
