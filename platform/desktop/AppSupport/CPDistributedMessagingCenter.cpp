@@ -27,14 +27,14 @@ struct MessagingCenterPeer : Peer {
     std::string path;
 };
 
-// A negative errno, or the error that came as reply, is in `error` afterward.
+// Returns a negative errno on failure. `error` then holds the error that came as the reply, if one did.
 int call(const MessagingCenterPeer& center, const std::string& name, const PropertyList::Dictionary& userInfo,
     PropertyList::Dictionary& reply, sd_bus_error& error)
 {
     using Clock = std::chrono::steady_clock;
     const auto deadline = Clock::now() + longestWait;
     auto* bus = desktop::SessionBus::shared().connection();
-    // The bus may have been reached only now, which takes of the same time.
+    // Connecting to the bus may already have used part of the time.
     const auto left = std::chrono::duration_cast<std::chrono::microseconds>(deadline - Clock::now()).count();
     if (!bus || left <= 0)
         return sd_bus_error_set(&error, SD_BUS_ERROR_NO_SERVER, "There is no session bus.");

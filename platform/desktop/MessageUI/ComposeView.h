@@ -1,4 +1,3 @@
-// The sheet that shows a mail.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
@@ -9,8 +8,8 @@
 
 namespace brimsound::desktop {
 
-/// A bar with Cancel and Send, and below it recipients, subject and attachments of a mail. The mail outlives
-/// the view.
+/// Shows a mail: a bar with Cancel and Send, and below it the recipients, subject and attachments. The mail
+/// must outlive the view.
 class ComposeView : public UIView {
 public:
     ComposeView(const Mail&, std::function<void()> onCancel, std::function<void()> onSend);

@@ -1,4 +1,3 @@
-// What stands behind a MFMailComposeViewController.
 #pragma once
 
 #include "platform/MessageUI/MFMailComposeViewController.h"
@@ -7,7 +6,7 @@
 
 namespace brimsound::desktop {
 
-/// Shows the mail in a sheet of the window. Send hands it over to the user's mail program.
+/// Shows the mail in a sheet of the window. Send passes it to the user's mail program.
 struct ComposerPeer : ViewControllerPeer {
     ComposerPeer();
 
@@ -17,7 +16,7 @@ struct ComposerPeer : ViewControllerPeer {
 
     void send();
     void cancel();
-    /// Nothing sends but the button, so that no stray key does.
+    /// No key sends the mail, so that it is not sent by accident.
     void escape() override { cancel(); }
 
 private:

@@ -50,7 +50,7 @@ void ComposerPeer::cancel()
 
 void ComposerPeer::finish(MFMailComposeResult result, const NSError* error)
 {
-    // The sheet can still be pressed while it fades.
+    // The buttons still react while the sheet fades out.
     if (std::exchange(_isFinished, true))
         return;
     const auto kept = brimsound::retain(composer);

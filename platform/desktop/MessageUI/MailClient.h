@@ -1,4 +1,3 @@
-// Handing a mail to the desktop's mail program.
 #pragma once
 
 #include "platform/desktop/effects/Mail.h"
@@ -7,14 +6,14 @@
 
 namespace brimsound::desktop {
 
-/// Opens the mail in the user's mail program, ready to be sent: with `xdg-email --attach`, else as a draft
-/// file (RFC 5322) that is opened with whatever the desktop opens such files with. The files that this takes
-/// lie in a folder for the user alone below the user's cache folder, where the mail program can read them for
-/// as long as it needs; those of earlier days are removed. True when a program took the mail; else false and
-/// `reason` says why.
+/// Opens the mail in the user's mail program, ready to be sent. Runs `xdg-email --attach`; if that fails,
+/// writes a draft file (RFC 5322) and opens it in the desktop's program for such files. The mail's files are
+/// stored in a private folder in the user's cache folder, where the mail program can read them as long as it
+/// needs; files more than a day old are deleted. Returns true when a program took the mail, otherwise false
+/// with the cause in `reason`.
 bool handOver(const Mail&, std::string& reason);
 
-/// The mail as an RFC 5322 message, its attachments encoded so that their bytes survive.
+/// The mail as an RFC 5322 message. Its attachments are encoded so that their bytes are preserved.
 std::string messageOf(const Mail&);
 
 } // namespace brimsound::desktop

@@ -24,7 +24,7 @@ std::optional<fs::path> makeFolder(const fs::path& pattern)
     return path;
 }
 
-/// What is in use or belongs to somebody else stays.
+/// Ignores errors: a folder may belong to another user.
 void removeOldFolders(const fs::path& parent)
 {
     std::error_code ignored;

@@ -1,4 +1,4 @@
-// The files of a mail on its way to a mail program.
+// The files of a mail that a mail program opens.
 #pragma once
 
 #include <cstddef>
@@ -9,15 +9,15 @@
 
 namespace brimsound::desktop {
 
-/// A file name without the folders before it, and without what no file can be called.
+/// A file name without folders and without characters that are not allowed in file names.
 std::string plainFileName(const std::string& name);
 
-/// A new folder, for the user alone, below the user's cache folder; it stays. Such folders of more than a day
-/// ago are removed. Nothing when it cannot be made.
+/// Creates a private folder in the user's cache folder. It is not removed at exit; earlier ones are removed
+/// once they are more than a day old. Nothing when it cannot be created.
 std::optional<std::filesystem::path> makeMailFolder();
 
-/// Puts a file of that name, for the user alone, into a folder of its own in the folder, so that files of one
-/// name do not meet. Its path; nothing when it cannot be written.
+/// Writes a private file of that name into a new subfolder of the folder, so that files may have the same
+/// name. Returns its path; nothing when it cannot be written.
 std::optional<std::filesystem::path> addFile(
     const std::filesystem::path& folder, const std::string& name, std::span<const std::byte>);
 

@@ -15,7 +15,7 @@ struct FormatFree {
 };
 using Format = std::unique_ptr<GMimeFormatOptions, FormatFree>;
 
-/// Text for a header: valid UTF-8 without what would end the line.
+/// Text for a header: valid UTF-8 without line breaks.
 std::string headerText(const std::string& text)
 {
     const GText valid(g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())));
@@ -38,10 +38,10 @@ void setHeaders(GMimeMessage* message, const Mail& mail)
     const std::unique_ptr<GDateTime, decltype(&g_date_time_unref)> now(
         g_date_time_new_now_local(), g_date_time_unref);
     g_mime_message_set_date(message, now.get());
-    // The machine's name is nobody's business.
+    // The identifier must not reveal the machine's name.
     const GText identifier(g_mime_utils_generate_message_id("localhost"));
     g_mime_message_set_message_id(message, identifier.get());
-    // Mail programs open it for editing, not for reading.
+    // Makes mail programs open the message as a draft.
     g_mime_object_set_header(GMIME_OBJECT(message), "X-Unsent", "1", nullptr);
 }
 
@@ -59,7 +59,7 @@ GObjectPointer<GMimePart> attachmentPart(const MailAttachment& attachment)
     const GObjectPointer<GMimeDataWrapper> content(
         g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT));
     g_mime_part_set_content(part.get(), content.get());
-    // Text, too: the only encoding in which no mail program changes line ends.
+    // Base64 for text too: with other encodings some mail programs change the line ends.
     g_mime_part_set_content_encoding(part.get(), GMIME_CONTENT_ENCODING_BASE64);
     return part;
 }
@@ -67,7 +67,7 @@ GObjectPointer<GMimePart> attachmentPart(const MailAttachment& attachment)
 GObjectPointer<GMimeMultipart> partsOf(const Mail& mail)
 {
     GObjectPointer<GMimeMultipart> parts(g_mime_multipart_new_with_subtype("mixed"));
-    // Without a text of its own, the first attachment would be taken for it.
+    // Without a text part, mail programs would show the first attachment as the text.
     const GObjectPointer<GMimeTextPart> text(g_mime_text_part_new());
     g_mime_text_part_set_text(text.get(), "");
     g_mime_multipart_add(parts.get(), GMIME_OBJECT(text.get()));

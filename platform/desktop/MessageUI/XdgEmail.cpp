@@ -18,12 +18,12 @@ namespace brimsound::desktop {
 
 namespace {
 
-// On some desktops the script ends only with the mail program. What has not failed by then is at work, and
-// the pane must not stand still for longer.
+// On some desktops the script does not end before the mail program does. After this time the mail program is
+// assumed to have started, because the pane is blocked while it waits.
 constexpr auto patience = std::chrono::seconds(3);
 
-/// The script echoes everything through shells into a mailto URL, and for some mail programs into a list with
-/// commas and quotes. These characters are known to come out as they went in.
+/// The script passes everything through several shells into a mailto URL, and for some mail programs into a
+/// list with commas and quotes. Only these characters are known to be preserved.
 bool survives(std::string_view text)
 {
     constexpr auto harmless = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 @._+-/";
@@ -40,7 +40,7 @@ bool survives(const MailWithFiles& mail)
 std::vector<std::string> argumentsFor(const MailWithFiles& mail)
 {
     std::vector<std::string> arguments { "xdg-email", "--utf8" };
-    // The script takes an empty subject for a missing one and fails.
+    // The script fails for an empty subject.
     if (!mail.subject.empty())
         arguments.insert(arguments.end(), { "--subject", mail.subject });
     for (const auto& file : mail.files)
@@ -49,7 +49,7 @@ std::vector<std::string> argumentsFor(const MailWithFiles& mail)
     return arguments;
 }
 
-/// Starts a program that may outlive this one and has nothing to say on its standard output.
+/// Starts a program that may outlive this one. Its standard output is discarded.
 std::optional<pid_t> start(std::vector<std::string> arguments)
 {
     std::vector<char*> pointers;
@@ -76,7 +76,7 @@ std::optional<pid_t> start(std::vector<std::string> arguments)
     return error == 0 ? std::optional(process) : std::nullopt;
 }
 
-/// Waits for the program's end for a while, and has somebody else wait from then on.
+/// Waits for the program to end, for a limited time. After that a thread waits for it.
 bool hasFailed(pid_t process)
 {
     std::packaged_task<int()> waiting([process] {
@@ -93,7 +93,7 @@ bool hasFailed(pid_t process)
 
 bool composeWithXdgEmail(const MailWithFiles& mail)
 {
-    // Without a mail program the script would make do with a web browser.
+    // Without a mail program the script would open a web browser.
     if (!survives(mail) || !hasProgramFor("mailto:"))
         return false;
     const auto process = start(argumentsFor(mail));

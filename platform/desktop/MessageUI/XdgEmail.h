@@ -1,4 +1,3 @@
-// The desktop's script that opens the user's mail program.
 #pragma once
 
 #include <string>
@@ -13,9 +12,9 @@ struct MailWithFiles {
     std::vector<std::string> files;
 };
 
-/// Runs xdg-email without a shell. False when it is not there, failed, or would garble something of the mail,
-/// and when there is no mail program. A mail program that does not put itself into the background is left
-/// running.
+/// Runs the desktop's script xdg-email, without a shell, to open the user's mail program. Returns false when
+/// the script or a mail program is missing, when the script failed, or when it would not preserve the mail's
+/// text. A mail program that stays in the foreground is left running.
 bool composeWithXdgEmail(const MailWithFiles&);
 
 } // namespace brimsound::desktop

@@ -62,7 +62,7 @@ PSListController::PSListController(const std::string& className)
 
 PSListController::~PSListController()
 {
-    // The table may be on view for longer than its controller lives.
+    // The presentation may keep the table longer than its controller exists.
     if (const auto& table = peerOf(*this).table) {
         table->setDataSource(nullptr);
         table->setDelegate(nullptr);

@@ -10,7 +10,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// The mark of a row that leads somewhere.
+/// The chevron of a link row.
 struct ChevronPeer : ViewPeer {
     ChevronPeer() { frame.size = { 8, 13 }; }
 

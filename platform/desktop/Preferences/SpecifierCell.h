@@ -1,4 +1,3 @@
-// The rows that a list controller makes from specifiers.
 #pragma once
 
 #include "platform/Preferences/PSListController.h"
@@ -9,7 +8,7 @@
 
 namespace brimsound::desktop {
 
-/// The "cell" property that begins a group.
+/// The value of the "cell" property that begins a group.
 inline constexpr auto groupCellType = "PSGroupCell";
 inline constexpr auto switchCellType = "PSSwitchCell";
 inline constexpr auto buttonCellType = "PSButtonCell";
@@ -19,21 +18,21 @@ inline constexpr auto linkCellType = "PSLinkCell";
 std::string stringProperty(const PSSpecifier&, std::string_view key);
 bool isOfType(const PSSpecifier&, std::string_view cellType);
 
-/// The row of one of the controller's specifiers that is no group.
+/// The row of one of the controller's specifiers other than a group.
 NSIndexPath indexPathOf(PSListController&, const PSSpecifier&);
 
-/// What a switch row shows for the specifier: what its getter gives, its default when nothing answers.
+/// The value that a switch row shows: the getter's result, or the default without one.
 PropertyList currentValue(PSListController&, PSSpecifier&);
 
-/// A row that shows one specifier at a time. Cells are reused among specifiers of the same type.
+/// A row made from a specifier. Cells are reused for specifiers of the same type.
 class SpecifierCell : public UITableViewCell {
 public:
     SpecifierCell(const std::string& cellType, PSListController&);
 
-    /// Shows the specifier: its label and, for a switch, the value that its getter gives now.
+    /// Shows the specifier: its label and, for a switch, the current value from its getter.
     void show(PSSpecifier&);
 
-    /// The switch of a switch row, else null.
+    /// The switch of a switch row, otherwise null.
     UISwitch* toggle() const { return _toggle.get(); }
 
     std::span<const Method> methods() const override;

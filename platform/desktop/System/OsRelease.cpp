@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t longestOsRelease = std::size_t { 64 } << 10;
 
-/// A word as the shell reads it.
+/// Removes shell quoting from a word.
 std::string unquoted(std::string_view word)
 {
     std::string text;
@@ -39,7 +39,7 @@ std::string kernelRelease()
 
 std::string versionOfDistribution()
 {
-    // The first of them that is there counts.
+    // Only the first of these files that exists is read.
     for (const auto* path : { "/etc/os-release", "/usr/lib/os-release" }) {
         if (const auto bytes = readRegularFile(path, longestOsRelease))
             return valueInOsRelease(

@@ -1,4 +1,3 @@
-// What the distribution tells of itself.
 #pragma once
 
 #include <string>
@@ -6,10 +5,10 @@
 
 namespace brimsound::desktop {
 
-/// The distribution's version ("12"), or the kernel's release where the distribution has no versions.
+/// The distribution's version ("12"), or the kernel's release for a distribution without versions.
 std::string systemVersion();
 
-/// The value of a variable in the text of an os-release file; empty when it is not there.
+/// The value of a variable in the text of an os-release file; empty when it is missing.
 std::string valueInOsRelease(std::string_view text, std::string_view name);
 
 } // namespace brimsound::desktop

@@ -12,7 +12,7 @@ using desktop::Reach;
 
 namespace {
 
-/// The streams of commands that were not started: pclose has no command to wait for.
+/// The streams for which no command was started: pclose has nothing to wait for.
 std::set<std::FILE*>& streamsWithoutCommand()
 {
     static std::set<std::FILE*> streams;
@@ -32,7 +32,7 @@ int system(const char* command)
 std::FILE* popen(const char* command, const char* mode)
 {
     desktop::effects().shellCommandRun(command);
-    // Programs that are started meanwhile must not hold the pipe open.
+    // A program that is started while the stream is open must not inherit the pipe.
     const auto closedOnExec = std::string(mode) + "e";
     if (desktop::reach() == Reach::Everything)
         return ::popen(command, closedOnExec.c_str());

@@ -27,7 +27,7 @@ bool isPrintable(std::string_view text)
     return std::ranges::all_of(text, [](char character) { return character >= ' ' && character <= '~'; });
 }
 
-/// Empty where the firmware gives none that can be shown.
+/// Empty when the firmware provides no printable name.
 std::string productName()
 {
     const auto bytes = desktop::readRegularFile(productNameFile, longestProductName);

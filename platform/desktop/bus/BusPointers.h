@@ -1,4 +1,4 @@
-// Owners of sd-bus's counted objects.
+// Owners of sd-bus's reference-counted objects.
 #pragma once
 
 #include <systemd/sd-bus.h>
@@ -7,7 +7,7 @@
 
 namespace brimsound::desktop {
 
-/// A connection is closed as it is: to wait until a bus has taken what was not sent yet could take for ever.
+/// Closes a connection without flushing it: waiting for a bus that does not read could take forever.
 struct BusUnref {
     void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
     void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
@@ -16,10 +16,10 @@ struct BusUnref {
 
 using BusConnection = std::unique_ptr<sd_bus, BusUnref>;
 using BusMessage = std::unique_ptr<sd_bus_message, BusUnref>;
-/// A call that waits for its answer; it is forgotten with this.
+/// A pending call or match. Destroying it cancels the call or match.
 using BusSlot = std::unique_ptr<sd_bus_slot, BusUnref>;
 
-/// An error that a call may have set.
+/// The error of a call; empty when there was none.
 struct BusError : sd_bus_error {
     BusError()
         : sd_bus_error { nullptr, nullptr, 0 }

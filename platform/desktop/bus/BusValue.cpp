@@ -93,13 +93,14 @@ int appendVariant(sd_bus_message* message, const PropertyList& value)
     return appendContainer(message, 'v', signature, [&] { return appendContents(message, value); });
 }
 
-/// A message that is being read. A value takes more memory here than on the way, so there is an end to them.
+/// A message that is being read. Values take more memory than in the message, so their number is limited.
 struct Reading {
     sd_bus_message* message;
     std::size_t valuesLeft = mostValues;
 };
 
-// The readers give more than 0 for a value, 0 at the end of a container, a negative errno on failure.
+// These functions return a positive number for a value, 0 at the end of a container and a negative errno on
+// failure.
 
 int readContainer(Reading& reading, char type, const char* contents, auto readContents)
 {
@@ -167,7 +168,7 @@ int readArray(Reading& reading, std::string_view contents, PropertyList& value)
     return readItems(reading, std::string(contents).c_str(), value);
 }
 
-// Leaves the value null for a type that has no equivalent.
+// Leaves the value null for a type without an equivalent.
 int readValue(Reading& reading, PropertyList& value)
 {
     char type = 0;
@@ -239,7 +240,7 @@ int readDictionary(Reading& reading, PropertyList::Dictionary& dictionary)
     const std::string contents = result > 0 && peeked ? peeked : "";
     if (type != SD_BUS_TYPE_ARRAY || !contents.starts_with("{s"))
         return result < 0 ? result : -EINVAL;
-    // An entry's own contents are what stands between the braces.
+    // The contents of an entry are between the braces.
     const auto entry = contents.substr(1, contents.size() - 2);
     return readContainer(reading, SD_BUS_TYPE_ARRAY, contents.c_str(), [&] {
         int entryResult = 1;

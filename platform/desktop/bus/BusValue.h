@@ -1,4 +1,3 @@
-// Property-list values in D-Bus messages.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -7,15 +6,15 @@
 
 namespace brimsound::desktop {
 
-/// Appends the dictionary as "a{sv}": booleans as b, integers as x, reals as d, strings as s, data as ay,
-/// dates as d (their seconds), arrays as ad when they hold reals only and as av otherwise, dictionaries as
-/// a{sv}. A negative errno on failure; a value that is, or holds, null is one.
+/// Appends the dictionary as "a{sv}". Booleans become b, integers x, reals d, strings s, data ay, dates d
+/// (their seconds), arrays ad when they contain only reals and av otherwise, dictionaries a{sv}. Returns a
+/// negative errno on failure. Null values are a failure.
 int appendDictionary(sd_bus_message*, const PropertyList::Dictionary&);
 
-/// Reads an "a{sv}", or any other dictionary with string keys, into the dictionary. Numbers of every type
-/// become integers or reals, strings, object paths and signatures strings, ay data, other arrays arrays. What
-/// has no equivalent is left out of dictionaries and null in arrays. A negative errno on failure; more than
-/// 4096 values are one.
+/// Reads an "a{sv}", or any other dictionary with string keys. Numbers of all types become integers or reals;
+/// strings, object paths and signatures become strings; ay becomes data; other arrays become arrays. Values
+/// without an equivalent are left out of dictionaries and are null in arrays. Returns a negative errno on
+/// failure. More than 4096 values are a failure.
 int readDictionary(sd_bus_message*, PropertyList::Dictionary&);
 
 } // namespace brimsound::desktop

@@ -11,7 +11,7 @@ BusConnection openSessionBus()
         return nullptr;
     BusConnection bus(opened);
 
-    // Left to itself, sd-bus waits for half a minute.
+    // sd-bus itself would wait for half a minute.
     while (sd_bus_is_ready(bus.get()) == 0) {
         const int handled = sd_bus_process(bus.get(), nullptr);
         if (handled > 0)

@@ -1,4 +1,3 @@
-// Reaching the session bus.
 #pragma once
 
 #include "platform/desktop/bus/BusPointers.h"
@@ -7,10 +6,10 @@
 
 namespace brimsound::desktop {
 
-/// How long the bus is waited for: to take a connection, and to answer a call that names no other time.
+/// How long to wait for the bus: to accept a connection, and to answer a call without a timeout of its own.
 inline constexpr std::chrono::microseconds longestBusWait = std::chrono::seconds(1);
 
-/// A connection that the session bus has taken; null when there is no bus or when it did not answer in time.
+/// A connection that the session bus has accepted; null when there is no bus or it did not respond in time.
 BusConnection openSessionBus();
 
 } // namespace brimsound::desktop

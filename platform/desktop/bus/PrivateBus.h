@@ -1,4 +1,3 @@
-// A session bus of this program's own.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -8,9 +7,9 @@
 
 namespace brimsound::desktop {
 
-/// Runs a session bus and makes it the one that this process, and the programs it starts, find. It ends with
-/// this object or this process; then the environment is as it was before. Does not touch a connection that is
-/// open already.
+/// Runs a session bus for this process and the programs that it starts. The bus ends with this object or this
+/// process, whichever is first; the destructor restores the environment. Connections that are already open
+/// are not affected.
 class PrivateBus {
 public:
     /// Throws std::runtime_error when the bus cannot be started.

@@ -16,9 +16,9 @@ constexpr auto busName = "org.freedesktop.DBus";
 constexpr auto busPath = "/org/freedesktop/DBus";
 constexpr auto peerInterface = "org.freedesktop.DBus.Peer";
 
-/// How long messages are handled before the main loop has its turn.
+/// How long messages are handled before control returns to the main loop.
 constexpr std::chrono::milliseconds longestTurn { 10 };
-/// How long a flood may keep the answer back that ends a drain, in microseconds.
+/// How long to wait, in microseconds, for the replies that end a drain. A flood of messages delays them.
 constexpr std::uint64_t longestDrain = 60'000'000;
 
 int noteAnswer(sd_bus_message*, void* answered, sd_bus_error*)
@@ -157,7 +157,7 @@ int SessionBus::notificationPosted(sd_bus_message* message, void* self, sd_bus_e
     return 0;
 }
 
-/// False when nothing is left.
+/// Returns false when no message is left.
 bool SessionBus::processOne()
 {
     for (auto* connection : { &_speaker, &_listener }) {
@@ -165,10 +165,10 @@ bool SessionBus::processOne()
         if (!bus)
             return false;
         const int handled = sd_bus_process(bus, nullptr);
-        // Busy: this was called by a handler, and the call that is under way goes on afterward.
+        // Busy: a handler called this function. The outer call handles the remaining messages.
         if (handled == -EBUSY)
             continue;
-        // A handler may have opened another one meanwhile.
+        // A handler may have replaced the connection.
         if ((handled < 0 || sd_bus_is_open(bus) <= 0) && connection->get() == bus) {
             close();
             return false;
@@ -193,11 +193,12 @@ void SessionBus::process()
 
 void SessionBus::drain()
 {
-    // Called by a handler: the call that is under way goes on afterward.
+    // A handler called this function: the outer call handles the remaining messages.
     if (!listener() || sd_bus_get_current_message(_listener.get()))
         return;
-    // Messages come in their order. When the bus has answered the speaker, it has passed on what that said;
-    // when it has answered the listener, all of it has been handled.
+    // Messages are delivered in order. The bus's reply to the sending connection shows that it has passed on
+    // everything sent before. Its reply to the listening connection shows that all of that has been handled
+    // here.
     sd_bus_message* created = nullptr;
     sd_bus_slot* pending = nullptr;
     bool answered = false;

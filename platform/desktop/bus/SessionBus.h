@@ -1,4 +1,3 @@
-// This process on the session bus.
 #pragma once
 
 #include "platform/desktop/bus/BusPointers.h"
@@ -12,44 +11,45 @@
 
 namespace brimsound::desktop {
 
-/// Two connections, one to speak and one to listen, so that no flood of notifications keeps the answer to a
-/// call back. They are opened on first use, and opened anew on the next use after they were lost; what was
-/// subscribed to is subscribed to again then. Main thread only. They are served by whoever runs the main
-/// loop: `process` when one of the `descriptors` is readable, and whenever `onPending` is told.
+/// This process's two connections to the session bus: one to send and one to listen, so that a flood of
+/// notifications does not delay the reply to a call. They are opened on first use, and again on the next use
+/// after they were lost; subscriptions are then renewed. Main thread only. The main loop calls `process` when
+/// one of the `descriptors` is readable and after `onPending`.
 class SessionBus {
 public:
     static SessionBus& shared();
 
     /// For calls and posts, which arrive in the order in which they were made. Owned by this object; null
-    /// when there is no session bus to be reached. One that does not answer is waited for a second.
+    /// when the session bus cannot be reached. Waits for at most one second.
     sd_bus* connection();
-    /// What is subscribed to arrives here, and the calls that others make. As `connection` otherwise.
+    /// Receives subscribed signals and calls by other processes. Otherwise like `connection`.
     sd_bus* listener();
-    /// What to watch for input; -1 without a connection.
+    /// The file descriptors to watch for input; -1 without a connection.
     std::array<int, 2> descriptors() const;
 
     /// Whether a process on the bus owns the name.
     bool hasOwner(const std::string& busName);
 
-    /// Calls the handler with the name of every Darwin notification posted on the bus.
+    /// Calls the handler with the name of each Darwin notification posted on the bus.
     void subscribeToNotifications(std::function<void(std::string_view name)> handler);
 
-    /// Calls the handler whenever a name loses its last owner, and when nobody owns it on a bus that was
-    /// reached anew.
+    /// Calls the handler when a name loses its last owner, and when the name has no owner after a
+    /// reconnection.
     void watchForLoss(const std::string& busName, std::function<void()> handler);
 
-    /// Handles messages that have arrived, without waiting. After some hundredths of a second it leaves the
-    /// rest for later, so that no flood of messages holds the main loop up.
+    /// Handles messages that have arrived, without waiting. Returns after a few hundredths of a second even
+    /// when messages are left, so that a flood does not block the main loop.
     void process();
-    /// Handles every message that was posted by this process, or by another one before this call.
+    /// Handles all messages that this process has posted, and all that others posted before this call.
     void drain();
 
-    /// Set by the main loop: called when `process` left messages that the descriptors may no longer show.
+    /// Set by the main loop. Called when `process` left messages, for which the descriptors may not become
+    /// readable again.
     std::function<void()> onPending;
-    /// Set by the main loop: called when the descriptors changed, because the connections were opened or
-    /// lost.
+    /// Set by the main loop. Called when the descriptors changed, because connections were opened or lost.
     std::function<void()> onReconnect;
-    /// Set by an app that brings its own bus: called when there is none to be reached; whether to try again.
+    /// Set by an app that provides its own bus. Called when the bus cannot be reached; returns whether to try
+    /// again.
     std::function<bool()> onUnreachable;
 
 private:

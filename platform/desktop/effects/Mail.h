@@ -1,4 +1,3 @@
-// A mail on its way out.
 #pragma once
 
 #include "platform/Foundation/NSData.h"

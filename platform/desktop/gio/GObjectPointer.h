@@ -1,4 +1,4 @@
-// Owners of GLib's counted objects.
+// Owners of GLib's reference-counted objects.
 #pragma once
 
 #include <glib-object.h>

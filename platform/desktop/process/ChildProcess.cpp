@@ -46,13 +46,13 @@ struct Pipe {
     int writing = -1;
 };
 
-// Runs between fork and exec, where only async-signal-safe calls are allowed. Comes back when the program
-// cannot be run.
+// Runs between fork and exec, where only async-signal-safe calls are allowed. Returns when the program cannot
+// be run.
 void execute(char* const* arguments, pid_t parent, int output)
 {
     if (prctl(PR_SET_PDEATHSIG, SIGTERM) != 0)
         return;
-    // The parent may have ended before the signal was asked for.
+    // The parent may have ended before this process asked for the signal.
     if (getppid() != parent)
         _exit(0);
     sigset_t none;
@@ -79,7 +79,7 @@ ChildProcess::ChildProcess(std::vector<std::string> arguments, Output output)
         pointers.push_back(argument.data());
     pointers.push_back(nullptr);
 
-    // Closed by a successful exec; else it brings the reason for the failure.
+    // A successful exec closes it; otherwise the child writes the reason for the failure.
     Pipe failure;
     std::optional<Pipe> outputPipe;
     if (output == Output::Piped)

@@ -8,7 +8,7 @@ namespace brimsound::desktop {
 
 void openMissingStandardStreams()
 {
-    // The lowest free number is given out, so each missing one is filled in its turn.
+    // open returns the lowest free number, so each missing stream is replaced in its turn.
     for (const int stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO }) {
         if (fcntl(stream, F_GETFD) < 0)
             open("/dev/null", O_RDWR);

@@ -1,10 +1,10 @@
-// The three streams that a process is started with.
 #pragma once
 
 namespace brimsound::desktop {
 
-/// Puts /dev/null where the process was started without standard input, output or error. Otherwise the first
-/// file or socket that it opens would be taken for the stream. To be called before anything is opened.
+/// Opens /dev/null as standard input, output or error if the process was started without it. Otherwise the
+/// first file or socket that it opens would take the place of the stream. Must be called before anything is
+/// opened.
 void openMissingStandardStreams();
 
 } // namespace brimsound::desktop
