@@ -24,13 +24,13 @@ std::string_view withoutLeadingBlanks(std::string_view text)
 double doubleValueOf(const std::string& string)
 {
     const std::string number(withoutLeadingBlanks(string));
-    // strtod would take hexadecimal numbers, infinities and NaN as well.
+    // strtod would also accept hexadecimal numbers, infinities and NaN.
     const auto digits = number.find_first_not_of("+-");
     if (digits == std::string::npos || number.find_first_not_of("0123456789.", digits) == digits)
         return 0;
     if (number.compare(digits, 2, "0x") == 0 || number.compare(digits, 2, "0X") == 0)
         return 0;
-    // Numbers in property lists know no locale.
+    // Numbers in property lists do not depend on the locale.
     static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
     return strtod_l(number.c_str(), nullptr, plain);
 }
@@ -168,7 +168,7 @@ bool PropertyList::Set::operator==(const Set& other) const
 
 float PropertyList::floatValue() const
 {
-    // Integers are rounded once.
+    // Converting the integer directly rounds it only once.
     if (const auto* integer = asInteger())
         return static_cast<float>(*integer);
     if (const auto* wide = asWideInteger(); wide && wide->high == 0)

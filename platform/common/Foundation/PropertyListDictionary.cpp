@@ -68,7 +68,7 @@ const PropertyListDictionary::Index& PropertyListDictionary::index() const
     if (!_index) {
         _index = std::make_unique<Index>(_entries.size());
         std::iota(_index->begin(), _index->end(), 0u);
-        // Equal keys, which only a dictionary under construction has, keep their order.
+        // Equal keys, which can only occur during construction, keep their order.
         std::sort(_index->begin(), _index->end(), [this](std::uint32_t a, std::uint32_t b) {
             const int order = _entries[a].key.compare(_entries[b].key);
             return order < 0 || (order == 0 && a < b);

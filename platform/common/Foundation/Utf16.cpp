@@ -42,7 +42,7 @@ char32_t takeCharacter(std::string_view& text)
             return noCharacter;
         character = character << 6 | (byte & 0x3F);
     }
-    // Each character has one encoding, the shortest.
+    // Only the shortest encoding of a character is valid.
     if (utf8LengthOf(character) != length || character > 0x10FFFF)
         return noCharacter;
     text.remove_prefix(length);

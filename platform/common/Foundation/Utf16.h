@@ -1,5 +1,5 @@
-// Text between UTF-8 and UTF-16, half surrogate pairs included: in UTF-8 such a half is three bytes, encoded
-// as if it were a character.
+// Conversion between UTF-8 and UTF-16. Unpaired surrogates are supported: in UTF-8 each takes three bytes,
+// encoded as if it were a character.
 #pragma once
 
 #include <cstddef>
@@ -18,8 +18,8 @@ constexpr bool isLowSurrogate(char32_t unit)
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
-/// Calls `receive` with each character of `count` units of UTF-16, a half pair being one as well; `unitAt`
-/// gives the unit at an index.
+/// Calls `receive` with each character of `count` UTF-16 units; an unpaired surrogate counts as a character.
+/// `unitAt` returns the unit at an index.
 void forEachCharacter(std::size_t count, const auto& unitAt, const auto& receive)
 {
     for (std::size_t i = 0; i < count; ++i) {
@@ -37,12 +37,13 @@ constexpr std::size_t utf8LengthOf(char32_t character)
 
 void appendUtf8(std::string&, char32_t);
 
-/// The character at the start of the text, which is then shortened by it; `noCharacter` when none is there:
-/// the bytes are no UTF-8, or the text is empty.
+/// Removes and returns the character at the start of the text; `noCharacter` when the text is empty or does
+/// not start with valid UTF-8.
 char32_t takeCharacter(std::string_view& text);
 inline constexpr char32_t noCharacter = 0xFFFFFFFF;
 
-/// Calls `receive` with each unit of the text in UTF-16. False, perhaps halfway, when it is no UTF-8.
+/// Calls `receive` with each UTF-16 unit of the text. Returns false when the text is not UTF-8; some units
+/// may have been passed by then.
 bool forEachUnit(std::string_view text, const auto& receive)
 {
     while (!text.empty()) {

@@ -1,6 +1,6 @@
 #include "platform/CommonCrypto/CommonDigest.h"
 
-// After ours: there the length is a macro.
+// Included after our own header, because the system's header defines the length as a macro.
 #include <CommonCrypto/CommonDigest.h>
 
 namespace brimsound {

@@ -26,7 +26,7 @@ struct Observer {
     return (::CFStringRef)ios::nativeText(name);
 }
 
-/// The native observer is ours; the product's is in it.
+/// The observer of the native registration is ours; it contains the product's observer.
 void delivered(
     ::CFNotificationCenterRef center, void* observer, ::CFStringRef name, const void*, ::CFDictionaryRef)
 {
@@ -46,7 +46,7 @@ void CFNotificationCenterAddObserver(CFNotificationCenterRef center, void* obser
     CFNotificationCallback callback, const std::string& name, const void* object,
     CFNotificationSuspensionBehavior behavior)
 {
-    // For the life of the process, as there is no removing.
+    // Never freed: observers cannot be removed.
     auto* ours = new Observer { observer, callback };
     ::CFNotificationCenterAddObserver(nativeOf(center), ours, delivered, nativeName(name), object,
         static_cast<::CFNotificationSuspensionBehavior>(behavior));

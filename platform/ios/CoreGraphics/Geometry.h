@@ -1,4 +1,4 @@
-// Points, sizes and rectangles as the platform and as the product hold them.
+// Conversion of points, sizes and rectangles between the platform and the product.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"

@@ -1,5 +1,5 @@
-// Contexts and pictures of Core Graphics, in the native objects that are the peers of ours: they have
-// reference counts of their own.
+// Native objects that hold Core Graphics contexts and pictures. They are the peers of the product's objects,
+// because Core Graphics' own types cannot be.
 #pragma once
 
 #include "platform/CoreGraphics/CGContext.h"

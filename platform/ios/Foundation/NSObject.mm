@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-/// What a native object holds of ours: gone when it is gone.
+/// Attached to a native object. Destroys the product's object when the native one is deallocated.
 @interface BRLink : NSObject {
 @public
     brimsound::NSObject* _object;
@@ -23,7 +23,7 @@
 
 @end
 
-/// The peer of an object that is of no class of the platform's.
+/// The peer of an object without a native class of its own.
 @interface BRObject : NSObject
 @end
 

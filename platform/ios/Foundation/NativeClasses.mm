@@ -1,4 +1,4 @@
-// Which of our classes belongs to a native object that the platform made.
+// The product's class for each native class.
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/Preferences/PSSpecifier.h"
@@ -19,7 +19,8 @@ namespace brimsound::ios {
 
 namespace {
 
-/// Makes the object for a native one that belongs to others. The peer keeps the reference count that it has.
+/// Creates the product's object for a native object that the platform made. The peer keeps its reference
+/// count.
 template <typename Class> NSObject* makeFor(id native)
 {
     struct Made : Class {
@@ -38,7 +39,7 @@ struct NativeClass {
 
 NSObject* make(id native)
 {
-    // Derived classes before those that they derive from.
+    // Subclasses come before their superclasses.
     static const std::array classes {
         NativeClass { [::UIAlertView class], makeFor<UIAlertView> },
         NativeClass { [::UITableViewCell class], makeFor<UITableViewCell> },

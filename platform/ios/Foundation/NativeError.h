@@ -1,4 +1,4 @@
-// Errors as the platform and as the product hold them.
+// Conversion of errors between the platform and the product.
 #pragma once
 
 #include "platform/Foundation/NSError.h"

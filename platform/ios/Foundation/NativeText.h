@@ -1,4 +1,4 @@
-// Text as the platform and as the product hold it.
+// Conversion of text between the platform and the product.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -8,7 +8,7 @@
 
 namespace brimsound::ios {
 
-/// In UTF-8; empty for nil. Half a surrogate pair is three bytes, encoded as if it were a character.
+/// UTF-8; empty for nil. An unpaired surrogate is three bytes, encoded as if it were a character.
 std::string textOf(::NSString*);
 
 /// Autoreleased; nil for bytes that are not such UTF-8.

@@ -1,6 +1,6 @@
-// UIDs of keyed archives as the platform holds them. No public interface makes or reads them, so they are
-// reached by name where the platform has them; elsewhere, and in XML, one is a dictionary of the one key
-// "CF$UID".
+// The platform's representation of the UIDs of keyed archives. There is no public interface to create or read
+// them, so the functions are looked up by name where the platform has them. Elsewhere, and in XML, a UID is a
+// dictionary with the single key "CF$UID".
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -11,10 +11,10 @@
 
 namespace brimsound::ios {
 
-/// The UID that the native value is; nothing for any other value.
+/// The UID in the native value; nothing for any other value.
 std::optional<PropertyList::Uid> uidOf(id native);
 
-/// Autoreleased; nil for one beyond 32 bits, which the platform does not have.
+/// Autoreleased; nil for a UID that exceeds 32 bits, which the platform does not support.
 id nativeUid(PropertyList::Uid);
 
 } // namespace brimsound::ios

@@ -9,7 +9,7 @@ namespace brimsound::ios {
 
 namespace {
 
-/// Core Foundation's own functions for its own type; null where it has none.
+/// Core Foundation's functions for its UID type; null when it does not have them.
 struct Functions {
     unsigned long (*typeOf)(id) = function<unsigned long(id)>("CFGetTypeID");
     unsigned long (*uidType)() = function<unsigned long()>("_CFKeyedArchiverUIDGetTypeID");

@@ -1,9 +1,10 @@
-// How native objects and the product's belong together.
+// The relation between native objects and the product's objects.
 //
-// A native object is the peer of one of ours, and the two live equally long: ours is retained by retaining
-// the native one and is destroyed with it. Most classes have the platform's own as their peers. Those that
-// can be derived from have one of our native classes, named BR…, that hands what the platform asks of it to
-// the product's object; what the product's object asks of its base class goes to the native superclass.
+// A native object is the peer of a product object, and both have the same lifetime: retaining the product's
+// object retains the native one, and the product's object is destroyed with its peer. For most classes the
+// peer is an instance of the platform's class. Classes that can be derived from have a native class of ours,
+// named BR…, as their peer. It forwards the platform's calls to the product's object. Calls of the product's
+// object to its base class go to the native superclass.
 #pragma once
 
 #include "platform/Foundation/NSObject.h"
@@ -18,7 +19,7 @@ struct Peer {
 
 namespace ios {
 
-/// A native object as a constructor takes it: with the reference that came with its making.
+/// A native object as the constructors take it: with the reference from its creation.
 inline Peer* peer(id native)
 {
     return reinterpret_cast<Peer*>(native);
@@ -35,16 +36,17 @@ inline id nativeOf(const NSObject* object)
     return object ? nativeOf(*object) : nil;
 }
 
-/// The native object of something that is an object of ours in another of its roles; nil where it is none.
+/// The native object of a product object that is given by one of its base classes; nil if it is not an
+/// NSObject.
 template <typename Role> id nativeInRole(const Role* role)
 {
     return nativeOf(dynamic_cast<const NSObject*>(role));
 }
 
-/// The object whose peer this is, made for it if there was none; null for nil. Not retained.
+/// The product's object for the peer, created if it does not exist; null for nil. Not retained.
 NSObject* objectOf(id native);
 
-/// The same, as the class that belongs to the native one.
+/// The same, cast to the class for the native class.
 template <typename T> T* objectOf(id native)
 {
     return static_cast<T*>(objectOf(native));
@@ -56,7 +58,7 @@ template <typename T> RetainPtr<T> retainedObjectOf(id native)
     return brimsound::retain(objectOf<T>(native));
 }
 
-/// The object whose peer this is already; null when there is none, as before it is made and after it is gone.
+/// The product's object for the peer if it exists; null before its creation and after its destruction.
 NSObject* existingObjectOf(id native);
 
 template <typename T> T* existingObjectOf(id native)
@@ -64,10 +66,11 @@ template <typename T> T* existingObjectOf(id native)
     return static_cast<T*>(existingObjectOf(native));
 }
 
-/// Destroys the object before its peer's own teardown, for classes whose destructors still use the peer.
+/// Destroys the product's object before its peer is deallocated, for classes whose destructors still use the
+/// peer.
 void destroyObjectOf(id native);
 
-/// Lets the peer answer the selectors of the object's method table.
+/// Makes the peer respond to the selectors in the object's method table.
 void answerSelectors(NSObject& object);
 
 } // namespace ios

@@ -1,4 +1,4 @@
-// Property lists as the platform and as the product hold them.
+// Conversion of property lists between the platform and the product.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -11,15 +11,14 @@
 
 namespace brimsound::ios {
 
-/// What is in a native value, copied. Nothing for what is no property list, nil among it; and for one that is
-/// nested too deeply to be walked through, or that comes to more than `mostValues` with every container
-/// counted wherever it is referred to.
+/// A copy of the native value. Nothing when it is nil or not a property list, when it is nested too deeply,
+/// or when it has more than `mostValues` values. A container counts once for each reference to it.
 std::optional<PropertyList> valueOf(
     id native, std::size_t mostValues = std::numeric_limits<std::size_t>::max());
 
 /// The native value, autoreleased; nil for null, for text that is not UTF-8, and for numbers that the
-/// platform does not have. A container that holds such a one holds an NSNull in its place, which no
-/// property-list file can.
+/// platform does not support. In a container such a value becomes an NSNull, which cannot be written to a
+/// property-list file.
 id nativeValue(const PropertyList&);
 
 ::NSDictionary* nativeDictionary(const PropertyList::Dictionary&);

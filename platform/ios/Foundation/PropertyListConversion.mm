@@ -10,7 +10,7 @@ namespace brimsound::ios {
 
 namespace {
 
-/// As deep as property lists may be nested; each level takes stack while it is walked through.
+/// The maximum nesting depth. The conversion is recursive, so each level takes stack space.
 constexpr int deepest = 512;
 
 class Reader {
@@ -55,7 +55,7 @@ public:
 private:
     static PropertyList number(::NSNumber* native)
     {
-        // The two booleans are objects of their own, apart from the numbers 0 and 1.
+        // The two booleans are objects distinct from the numbers 0 and 1.
         if (native == [::NSNumber numberWithBool:YES])
             return true;
         if (native == [::NSNumber numberWithBool:NO])
@@ -66,7 +66,7 @@ private:
         if (type == @encode(double))
             return [native doubleValue];
         const std::int64_t value = [native longLongValue];
-        // What does not fit with a sign is greater than zero nevertheless.
+        // A positive number that does not fit into 64 signed bits is returned as a negative one.
         if (value < 0 && [native compare:[::NSNumber numberWithInt:0]] == NSOrderedDescending)
             return std::uint64_t { [native unsignedLongLongValue] };
         return value;
@@ -114,7 +114,7 @@ id orNull(id native)
     return native;
 }
 
-/// Nil for an integer beyond 64 bits, which no public class holds.
+/// Nil for an integer that exceeds 64 bits, for which there is no public class.
 ::NSNumber* nativeNumber(PropertyList::WideInteger integer)
 {
     return integer.high == 0 ? [::NSNumber numberWithUnsignedLongLong:integer.low] : nil;
@@ -122,7 +122,7 @@ id orNull(id native)
 
 ::NSNumber* nativeReal(const PropertyList& value)
 {
-    // A file takes four bytes for a single, eight for a double.
+    // In a file a single takes four bytes, a double eight.
     return value.isSingleReal() ? [::NSNumber numberWithFloat:value.floatValue()]
                                 : [::NSNumber numberWithDouble:value.doubleValue()];
 }

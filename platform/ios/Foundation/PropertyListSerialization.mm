@@ -7,8 +7,8 @@ namespace brimsound {
 
 namespace {
 
-/// Every value takes a byte of the file at least, where it is or where it is referred to. More come only from
-/// containers that many others refer to, and of those a small file can hold without end.
+/// Each value, or reference to a value, takes at least one byte of the file. A larger number of values means
+/// that containers are referred to many times; a small file could expand to any size in this way.
 std::size_t mostValuesIn(::NSData* file)
 {
     return 1024 + 4 * [file length];

@@ -1,4 +1,4 @@
-// Calls by name: what the platform sends to a native object arrives at the method in our object's table.
+// Calls by name: a message to a native object calls the method in the product object's table.
 #include "platform/ios/Foundation/Peer.h"
 #include "platform/ios/Foundation/PropertyListConversion.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t mostArguments = 2;
 
-/// A property list goes in by value, everything else as an object of ours.
+/// Property lists are passed by value, everything else as a product object.
 id call(id self, SEL selector, std::initializer_list<id> natives)
 {
     auto* object = existingObjectOf(self);

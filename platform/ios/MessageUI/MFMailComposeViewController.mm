@@ -7,8 +7,9 @@
 #import <MessageUI/MessageUI.h>
 #import <objc/runtime.h>
 
-/// Hands the outcome to a delegate of ours. The composer holds it, and with it the delegate, which might be
-/// gone before the outcome otherwise: the app can leave a pane while the composer stays.
+/// Forwards the result to the product's delegate. The composer retains this object and with it the delegate,
+/// which might otherwise be destroyed before the result arrives: the app can leave a pane while the composer
+/// is still shown.
 @interface BRMailComposeDelegate : NSObject <MFMailComposeViewControllerDelegate> {
 @public
     brimsound::MFMailComposeViewControllerDelegate* _delegate;
@@ -42,14 +43,14 @@ namespace {
 
 const char delegateKey = 0;
 
-/// Nil on a device that has no mail account.
+/// Nil on a device without a mail account.
 ::MFMailComposeViewController* nativeOf(const MFMailComposeViewController& composer)
 {
     id native = ios::nativeOf(composer);
     return [native isKindOfClass:[::MFMailComposeViewController class]] ? native : nil;
 }
 
-/// Something to live with where there is no composer.
+/// A replacement for a composer that could not be created.
 id orPlaceholder(id native)
 {
     return native ? native : [[::NSObject alloc] init];

@@ -1,19 +1,18 @@
-// The peer of a list controller.
 #pragma once
 
 #include "platform/Preferences/PSListController.h"
 
 #import <Preferences/PSListController.h>
 
-/// Hands what the Settings app asks of a list controller to an object of ours. The native class that the app
-/// is to instantiate derives from it, and says which of our classes that is.
+/// The peer of a list controller. Forwards the calls of the Settings app to the product's object. The native
+/// class that the app instantiates derives from it and says which product class to create.
 @interface BRListController : PSListController
 
-/// The object that belongs to a new native controller of this class. Its peer is the controller that is being
-/// made.
+/// Creates the product's object for a new native controller of this class. Its peer is the controller that is
+/// being initialized.
 + (brimsound::PSListController*)newController;
 
-// What our object asks of its base class.
+// Calls of the product's object to its base class.
 - (id)br_baseInitForContentSize:(CGSize)size;
 - (NSArray*)br_baseSpecifiers;
 - (void)br_baseSuspend;

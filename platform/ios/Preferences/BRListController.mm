@@ -15,8 +15,8 @@ using brimsound::ios::valueOf;
 
 namespace {
 
-/// The object that belongs to the controller. Null while its superclass tears it down, which may ask it for
-/// things still.
+/// The product's object for the controller. Null while the superclass deallocates the controller; it may
+/// still call methods then.
 brimsound::PSListController* controllerOf(BRListController* native)
 {
     return existingObjectOf<brimsound::PSListController>(native);
@@ -42,7 +42,8 @@ brimsound::PSListController* controllerOf(BRListController* native)
     return nil;
 }
 
-// Some versions of the Settings app know of no content size, and the framework comes by here in either case.
+// Some versions of the Settings app call init without a content size. The framework's initForContentSize:
+// calls it as well.
 - (id)init
 {
     return controllerOf(self) ? [super init] : [self initForContentSize:[[UIScreen mainScreen] bounds].size];

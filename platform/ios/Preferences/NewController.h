@@ -1,4 +1,4 @@
-// Making the object that belongs to a native list controller, and what only its peer may do to it.
+// Functions for the peers of list controllers only.
 #pragma once
 
 #include "platform/Preferences/PSListController.h"
@@ -7,10 +7,10 @@
 
 namespace brimsound::ios {
 
-/// The object for a native controller that the Settings app has allocated.
+/// Creates the product's object for a native controller that the Settings app has allocated.
 PSListController* newControllerFor(BRListController*);
 
-/// Has the specifiers loaded anew when they are next asked for.
+/// Makes the list controller load its specifiers again at their next use.
 void forgetSpecifiers(PSListController&);
 
 } // namespace brimsound::ios

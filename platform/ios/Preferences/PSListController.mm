@@ -17,7 +17,8 @@ using ios::retainedObjectOf;
 
 namespace {
 
-/// The native controller that an object is being made for; nil where the object brings its own.
+/// The native controller for which a product object is being created; nil when the product object creates its
+/// own.
 BRListController* awaitingObject = nil;
 
 BRListController* nativeOf(const PSListController& controller)
@@ -39,7 +40,7 @@ PSListController::Specifiers objectsOf(::NSArray* natives)
     return specifiers;
 }
 
-/// The list is its heirs' alone, and the peer is something of an heir.
+/// Gives access to the protected list of specifiers.
 struct Heir : PSListController {
     static constexpr auto list = &Heir::_specifiers;
 };
@@ -67,7 +68,7 @@ PSListController::~PSListController() = default;
 PSListController* PSListController::initForContentSize(CGSize size)
 {
     ios::answerSelectors(*this);
-    // A native initializer that fails takes the caller's reference with it; ours leaves it to the caller.
+    // A native initializer that fails releases the caller's reference; the product's leaves it to the caller.
     BRListController* native = [nativeOf(*this) retain];
     if (![native br_baseInitForContentSize:ios::native(size)])
         return nullptr;
@@ -92,7 +93,7 @@ PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget
 
 UITableView& PSListController::table()
 {
-    // The table comes with the view.
+    // The table is created with the view.
     [nativeOf(*this) view];
     return *objectOf<UITableView>([nativeOf(*this) table]);
 }
@@ -100,7 +101,7 @@ UITableView& PSListController::table()
 UIViewController& PSListController::rootController() const
 {
     id root = [nativeOf(*this) rootController];
-    // Whoever shows the pane may have given it none. What is presented from one that is nowhere is not shown.
+    // The app may not have set a root controller. A controller that is not shown presents nothing.
     return *objectOf<UIViewController>(root ? root : [[[::UIViewController alloc] init] autorelease]);
 }
 

@@ -6,7 +6,7 @@ namespace brimsound {
 
 int system(const char* command)
 {
-    // The C library has it, but its headers for a device declare it unavailable.
+    // The C library has this function, but the headers for iOS declare it unavailable.
     static const auto run = reinterpret_cast<int (*)(const char*)>(dlsym(RTLD_DEFAULT, "system"));
     return run ? run(command) : -1;
 }

@@ -1,6 +1,6 @@
 #include "platform/System/sysctl.h"
 
-// <sys/sysctl.h> has it on a device.
+// Declared in <sys/sysctl.h> of the iOS SDK.
 extern "C" int sysctlbyname(
     const char* name, void* value, std::size_t* size, void* newValue, std::size_t newSize);
 

@@ -1,4 +1,4 @@
-// What is to be done when a controller stands, as the platform takes it.
+// Conversion of completion handlers to the platform's blocks.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ inline Completion nativeCompletion(const std::function<void()>& completion)
     return [[^{ copy(); } copy] autorelease];
 }
 #else
-/// Without blocks there is no way to be told.
+/// Without blocks the platform cannot call a completion handler.
 inline id nativeCompletion(const std::function<void()>&)
 {
     return nil;

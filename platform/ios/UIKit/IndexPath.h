@@ -1,4 +1,4 @@
-// Positions in a table as the platform and as the product hold them.
+// Conversion of index paths between the platform and the product.
 #pragma once
 
 #include "platform/Foundation/NSIndexPath.h"

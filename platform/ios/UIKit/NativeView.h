@@ -1,4 +1,4 @@
-// The native views behind ours.
+// The native views of the product's views.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
@@ -6,8 +6,8 @@
 
 #import <UIKit/UIKit.h>
 
-/// What a view of ours asks of its base class. Native classes that hand these calls to our objects answer
-/// from their superclass; all others just answer.
+/// Calls of the product's views to their base class. Our native classes, which forward these calls to the
+/// product's objects, call their superclass; all other classes just call the method.
 @interface UIView (BRBaseClass)
 - (void)br_baseSetFrame:(CGRect)frame;
 - (void)br_baseLayoutSubviews;

@@ -1,14 +1,13 @@
-// What a native table is asked and told through.
 #pragma once
 
 #include "platform/UIKit/UITableView.h"
 
 #import <UIKit/UIKit.h>
 
-/// Hands what a table asks to a data source and to a delegate of ours. The table holds it.
+/// Forwards a native table's calls to the product's data source and delegate. The table retains it.
 @interface BRTableDelegate : NSObject <UITableViewDataSource, UITableViewDelegate> {
 @public
-    /// Null for none.
+    /// May be null.
     brimsound::UITableViewDataSource* _dataSource;
     brimsound::UITableViewDelegate* _delegate;
 }

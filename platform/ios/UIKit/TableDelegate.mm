@@ -16,7 +16,7 @@ brimsound::UITableView& tableOf(UITableView* native)
     return *objectOf<brimsound::UITableView>(native);
 }
 
-/// A title that is empty is none.
+/// An empty title means no title.
 NSString* titleOrNil(const std::string& title)
 {
     return title.empty() ? nil : nativeText(title);
@@ -24,7 +24,8 @@ NSString* titleOrNil(const std::string& title)
 
 } // namespace
 
-// The table asks only while it has a data source or a delegate, and each only for what it answers.
+// The table only calls these methods while it has a data source or a delegate, and only those that it
+// implements.
 @implementation BRTableDelegate
 
 - (NSInteger)numberOfSectionsInTableView:(UITableView*)table

@@ -6,8 +6,9 @@
 #import <UIKit/UIKit.h>
 #import <objc/runtime.h>
 
-/// Hands the answer to a delegate of ours. The alert holds it, and with it the delegate, which might be gone
-/// before the answer otherwise: the app can leave a pane while the alert stays.
+/// Forwards the answer to the product's delegate. The alert retains this object and with it the delegate,
+/// which might otherwise be destroyed before the answer: the app can leave a pane while the alert is still
+/// shown.
 @interface BRAlertViewDelegate : NSObject <UIAlertViewDelegate> {
 @public
     brimsound::UIAlertViewDelegate* _delegate;

@@ -8,7 +8,7 @@ namespace brimsound {
 
 namespace {
 
-/// Nil for what is no URL.
+/// Nil for an invalid URL.
 ::NSURL* nativeURL(const std::string& url)
 {
     ::NSString* text = ios::nativeText(url);

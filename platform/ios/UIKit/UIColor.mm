@@ -13,14 +13,14 @@ using ios::retainedObjectOf;
 
 namespace {
 
-/// From iOS 10 on, the platform keeps components beyond this range for programs that were linked for it.
+/// From iOS 10 on, the platform keeps components outside this range for programs linked against it.
 CGFloat inRange(CGFloat component)
 {
     return std::clamp(component, CGFloat(0), CGFloat(1));
 }
 
-/// Takes over the reference that came with the native color's making. What is autoreleased would stay until
-/// the end of the turn, in which a drag makes many.
+/// Takes over the reference from the native color's creation. Autoreleased colors would stay in memory until
+/// the end of the run-loop turn, and a drag creates many.
 RetainPtr<UIColor> adopted(::UIColor* native)
 {
     auto color = retainedObjectOf<UIColor>(native);

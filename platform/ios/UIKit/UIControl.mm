@@ -24,7 +24,7 @@ UIControl::UIControl(Peer* peer)
 void UIControl::addTargetActionForControlEvents(
     NSObject& target, std::string_view action, UIControlEvents events)
 {
-    // The platform would end the process at a selector that nobody answers.
+    // The platform would end the process at a selector that the target does not implement.
     if (!target.respondsToSelector(action))
         return;
     ios::answerSelectors(target);

@@ -12,10 +12,10 @@ namespace brimsound {
 
 namespace {
 
-/// The longest side of a bitmap, in pixels.
+/// The maximum side of a bitmap, in pixels.
 constexpr double longestSide = 32767;
 
-/// The current one last; null where none could be made.
+/// The stack of contexts; null for one that could not be created.
 std::vector<RetainPtr<CGContext>>& imageContexts()
 {
     static std::vector<RetainPtr<CGContext>> contexts;

@@ -53,7 +53,7 @@ CGFloat UIImage::scale() const
 
 CGImageRef UIImage::CGImage() const
 {
-    // Made once and kept with the image, whose own it is to be.
+    // Created once and attached to the image, which owns it.
     id kept = objc_getAssociatedObject(nativeOf(*this), &pictureKey);
     if (!kept) {
         const auto picture = ios::makePicture([nativeOf(*this) CGImage]);

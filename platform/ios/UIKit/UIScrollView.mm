@@ -30,7 +30,7 @@ CGPoint UIScrollView::contentOffset() const
 
 void UIScrollView::setContentOffset(CGPoint offset)
 {
-    // The platform goes as far as it is told.
+    // The platform does not limit the offset to the edges of the content.
     ::UIScrollView* view = nativeOf(*this);
     const auto lowest = std::max(0.0, [view contentSize].height - [view bounds].size.height);
     offset.x = [view contentOffset].x;

@@ -22,7 +22,7 @@ const char delegateKey = 0;
     return ios::nativeOf(table);
 }
 
-/// The table's own, made when it is first needed.
+/// The table's delegate object, created at its first use.
 BRTableDelegate* delegateOf(::UITableView* table)
 {
     BRTableDelegate* delegate = objc_getAssociatedObject(table, &delegateKey);

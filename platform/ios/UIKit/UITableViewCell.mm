@@ -7,7 +7,7 @@
 using brimsound::ios::existingObjectOf;
 using brimsound::ios::ours;
 
-/// The peer of a cell that can be derived from.
+/// The peer of a cell class that can be derived from.
 @interface BRTableViewCell : UITableViewCell
 @end
 

@@ -7,7 +7,7 @@
 #import <UIKit/UIKit.h>
 #import <objc/runtime.h>
 
-/// Hands what the field asks to a delegate of ours. The field holds it.
+/// Forwards the field's calls to the product's delegate. The field retains it.
 @interface BRTextFieldDelegate : NSObject <UITextFieldDelegate> {
 @public
     brimsound::UITextFieldDelegate* _delegate;

@@ -23,7 +23,7 @@ using brimsound::ios::ours;
 
 @end
 
-/// The peer of a view that can be derived from.
+/// The peer of a view class that can be derived from.
 @interface BRView : UIView
 @end
 
@@ -79,7 +79,7 @@ using ios::retainedObjectOf;
 
 namespace {
 
-/// The platform raises for a view whose middle is where no number says, as that of an endless one may be.
+/// The platform raises an exception for a view whose center is NaN, which an infinite frame can cause.
 bool isFinite(const CGRect& frame)
 {
     return std::isfinite(frame.origin.x) && std::isfinite(frame.origin.y) && std::isfinite(frame.size.width)
@@ -231,7 +231,7 @@ std::string UIView::accessibilityLabel() const
 
 void UIView::setAccessibilityLabel(const std::string& label)
 {
-    // None, and not an empty one, has the platform find a label itself.
+    // With nil, unlike with an empty string, the platform derives a label itself.
     [nativeView(*this) setAccessibilityLabel:label.empty() ? nil : ios::nativeText(label)];
 }
 
@@ -267,7 +267,7 @@ bool UIView::isFirstResponder() const
 
 void UIView::animateWithDurationAnimations(double seconds, const std::function<void()>& animations)
 {
-    // The same as animateWithDuration:animations:, which takes a block.
+    // Equivalent to animateWithDuration:animations:, which needs a block.
     [::UIView beginAnimations:nil context:NULL];
     [::UIView setAnimationDuration:seconds];
     animations();

@@ -5,7 +5,7 @@
 
 #import <UIKit/UIKit.h>
 
-/// The peer of a view controller that can be derived from.
+/// The peer of a view-controller class that can be derived from.
 @interface BRViewController : UIViewController
 @end
 
@@ -65,7 +65,7 @@ void UIViewController::setView(RetainPtr<UIView> view)
 void UIViewController::presentViewControllerAnimatedCompletion(
     RetainPtr<UIViewController> controller, Animated animated, const std::function<void()>& completion)
 {
-    // A device that has no mail account has no controller to compose one with either.
+    // On a device without a mail account the mail composer is nil.
     ::UIViewController* native = ios::nativeOf(controller.get());
     if ([nativeOf(*this) presentedViewController] || ![native isKindOfClass:[::UIViewController class]])
         return;

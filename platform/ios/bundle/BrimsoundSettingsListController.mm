@@ -1,4 +1,4 @@
-// The bundle's principal class: what the Settings app instantiates.
+// The bundle's principal class, which the Settings app instantiates.
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/UIKit/UIAlertView.h"
 #include "platform/ios/Foundation/NativeError.h"
@@ -23,7 +23,7 @@ brimsound::BrimsoundSettingsListController* controllerOf(BrimsoundSettingsListCo
 
 } // namespace
 
-// What else it answers stands in the method table of our class.
+// Its other selectors come from the method table of the product's class.
 @implementation BrimsoundSettingsListController
 
 + (brimsound::PSListController*)newController

@@ -17,7 +17,7 @@ MH_MAGIC_64 = 0xFEEDFACF
 LC_SEGMENT_64 = 0x19
 LC_CODE_SIGNATURE = 0x1D
 
-# What the blobs of a signature begin with, and where they go in it.
+# The magic numbers of a signature's blobs, and their slots in the signature.
 SIGNATURE, CODE_DIRECTORY, REQUIREMENTS, CMS = 0xFADE0CC0, 0xFADE0C02, 0xFADE0C01, 0xFADE0B01
 SLOT_CODE_DIRECTORY, SLOT_REQUIREMENTS, SLOT_ALTERNATE_CODE_DIRECTORY, SLOT_CMS = 0, 2, 0x1000, 0x10000
 
@@ -114,7 +114,7 @@ def signed(image, identifier):
     text_size = struct.unpack_from("<Q", image, segments[b"__TEXT"] + 48)[0]
     del image[code_size:]
 
-    # The first page, which is signed too, says how long the signature is.
+    # The size of the signature is stored in the first page, which is signed too.
     size = round_up(len(signature(image, identifier, text_size)), 16)
     struct.pack_into("<I", image, signature_command + 12, size)
     link_edit = segments[b"__LINKEDIT"]

@@ -1,4 +1,4 @@
-// Assertions. Included anew each time, as NDEBUG may have changed.
+// May be included several times, because NDEBUG may change.
 #include "_types.h"
 
 #undef assert

@@ -1,4 +1,3 @@
-// Kinds of characters.
 #pragma once
 
 #include "_types.h"

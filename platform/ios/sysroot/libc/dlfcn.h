@@ -1,4 +1,3 @@
-// Looking symbols up at run time.
 #pragma once
 
 #include "_types.h"

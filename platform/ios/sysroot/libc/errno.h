@@ -1,4 +1,3 @@
-// The last error of a call.
 #pragma once
 
 #include "_types.h"

@@ -1,4 +1,3 @@
-// The program's locale.
 #pragma once
 
 #include "_types.h"

@@ -1,4 +1,4 @@
-// Arithmetic. Each function comes for double, float and long double.
+// Each function is declared for double, float and long double.
 #pragma once
 
 #include "_types.h"
@@ -37,7 +37,7 @@ typedef double double_t;
 #define islessgreater(x, y) __builtin_islessgreater(x, y)
 #define isunordered(x, y) __builtin_isunordered(x, y)
 
-// Declares a function in its three types.
+// Declares a function for its three types.
 #define MATH_FUNCTION(result, name, suffix, ...) result name##suffix(__VA_ARGS__);
 #define MATH_OF_ONE(name)                                                                                    \
     MATH_FUNCTION(double, name, , double)                                                                    \

@@ -1,4 +1,5 @@
-// Threads, as far as libc++ names them: the pane has one. Sizes, signatures and their meaning are Darwin's.
+// The parts of pthreads that libc++ needs; the pane has one thread. Sizes, signatures and constants are
+// Darwin's.
 #pragma once
 
 #include "_types.h"

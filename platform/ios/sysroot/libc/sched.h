@@ -1,4 +1,3 @@
-// Giving other threads a turn.
 #pragma once
 
 #include "_types.h"

@@ -1,4 +1,3 @@
-// Streams and formats.
 #pragma once
 
 #include "_types.h"

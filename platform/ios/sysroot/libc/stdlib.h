@@ -1,4 +1,3 @@
-// Memory, numbers from text, the environment.
 #pragma once
 
 #include "_types.h"

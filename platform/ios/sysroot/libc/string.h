@@ -1,4 +1,3 @@
-// Bytes and strings of bytes.
 #pragma once
 
 #include "_types.h"

@@ -1,4 +1,4 @@
-// Wide characters. The pane uses none; libc++'s headers name them all.
+// Wide characters. The pane uses none, but libc++'s headers refer to them.
 #pragma once
 
 #include "_types.h"

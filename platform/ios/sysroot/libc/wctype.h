@@ -1,4 +1,3 @@
-// Kinds of wide characters.
 #pragma once
 
 #include "_types.h"

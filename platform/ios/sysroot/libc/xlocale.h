@@ -1,4 +1,3 @@
-// Locales as values.
 #pragma once
 
 #include "_types.h"

@@ -14,7 +14,7 @@
 
 + (CPDistributedMessagingCenter*)centerNamed:(NSString*)name;
 
-/// The reply. Nil on failure; then `error` says why.
+/// The reply. Nil on failure; `error` is then set.
 - (NSDictionary*)sendMessageAndReceiveReplyName:(NSString*)name
                                        userInfo:(NSDictionary*)userInfo
                                           error:(NSError**)error;
@@ -25,7 +25,7 @@
 extern "C" {
 #endif
 
-/// Of librocketbootstrap: lets messages through this center reach servers outside the sandbox.
+/// From librocketbootstrap. Allows messages through this center to reach servers outside the sandbox.
 void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter* messaging_center);
 
 #ifdef __cplusplus

@@ -1,4 +1,3 @@
-// Digests.
 #pragma once
 
 #include <stdint.h>

@@ -1,4 +1,4 @@
-// Core Foundation: what the pane's platform uses of it.
+// The parts of Core Foundation that the platform uses.
 #pragma once
 
 #include <stddef.h>

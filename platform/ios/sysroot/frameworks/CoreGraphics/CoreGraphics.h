@@ -1,4 +1,4 @@
-// Core Graphics: geometry, and drawing on bitmaps.
+// The parts of Core Graphics that the platform uses: geometry, and drawing on bitmaps.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -122,7 +122,7 @@ void CGContextSetBlendMode(CGContextRef context, CGBlendMode mode);
 void CGContextDrawImage(CGContextRef context, CGRect rect, CGImageRef image);
 void CGContextFillRect(CGContextRef context, CGRect rect);
 #if defined(GNUSTEP)
-/// What the double of UIColor sets the fill color with.
+/// Used by the test double of UIColor.
 void CGContextSetRGBFillColor(CGContextRef context, CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha);
 #endif
 

@@ -1,4 +1,4 @@
-// Foundation: the classes that the pane's platform uses, and of each what it uses.
+// The classes and methods of Foundation that the platform uses.
 #pragma once
 
 #import <CoreFoundation/CoreFoundation.h>

@@ -1,4 +1,3 @@
-// Ordered collections.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Putting releases off.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Folders of code and resources.
 #pragma once
 
 #import <Foundation/NSObject.h>

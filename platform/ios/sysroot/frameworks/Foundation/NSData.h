@@ -1,4 +1,3 @@
-// Bytes.
 #pragma once
 
 #import <Foundation/NSObject.h>

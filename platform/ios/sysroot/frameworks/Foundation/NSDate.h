@@ -1,4 +1,3 @@
-// Moments.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Values under keys.
 #pragma once
 
 #import <Foundation/NSArray.h>

@@ -1,4 +1,3 @@
-// What went wrong.
 #pragma once
 
 #import <Foundation/NSDictionary.h>

@@ -1,4 +1,3 @@
-// Positions in nested lists.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Messages as objects.
 #pragma once
 
 #import <Foundation/NSMethodSignature.h>

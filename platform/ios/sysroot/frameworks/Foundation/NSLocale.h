@@ -1,4 +1,3 @@
-// The user's languages and formats.
 #pragma once
 
 #import <Foundation/NSArray.h>

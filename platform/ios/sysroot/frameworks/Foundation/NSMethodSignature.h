@@ -1,4 +1,3 @@
-// What a method takes and gives.
 #pragma once
 
 #import <Foundation/NSObject.h>

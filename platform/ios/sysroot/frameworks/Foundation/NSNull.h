@@ -1,4 +1,3 @@
-// A value that stands for none.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Numbers as objects.
 #pragma once
 
 #import <Foundation/NSObject.h>

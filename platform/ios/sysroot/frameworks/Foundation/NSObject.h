@@ -1,4 +1,3 @@
-// What every Foundation class stands on.
 #pragma once
 
 #import <CoreFoundation/CoreFoundation.h>

@@ -1,4 +1,3 @@
-// Property lists as bytes.
 #pragma once
 
 #import <Foundation/NSData.h>

@@ -1,4 +1,3 @@
-// A part of something that is counted.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,4 +1,3 @@
-// Sets.
 #pragma once
 
 #import <Foundation/NSArray.h>

@@ -1,4 +1,3 @@
-// Texts.
 #pragma once
 
 #import <Foundation/NSArray.h>

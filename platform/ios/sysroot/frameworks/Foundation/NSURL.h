@@ -1,4 +1,3 @@
-// Addresses.
 #pragma once
 
 #import <Foundation/NSObject.h>

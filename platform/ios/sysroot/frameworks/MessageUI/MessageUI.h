@@ -1,4 +1,3 @@
-// Composing a mail.
 #pragma once
 
 #import <UIKit/UIKit.h>
@@ -19,7 +18,7 @@ typedef enum MFMailComposeResult : NSInteger {
                         error:(NSError*)error;
 @end
 
-/// A navigation controller, which is nothing that is asked of it here.
+/// A navigation controller in the framework; the platform does not need that here.
 @interface MFMailComposeViewController : UIViewController
 #if defined(GNUSTEP)
 {

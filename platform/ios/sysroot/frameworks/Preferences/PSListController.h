@@ -1,4 +1,4 @@
-// A list of specifiers as a table. The framework is private.
+// A list of specifiers shown as a table. The framework is private.
 #pragma once
 
 #import <Preferences/PSViewController.h>
@@ -16,10 +16,10 @@
 
 - (id)initForContentSize:(CGSize)contentSize;
 
-/// Asks a subclass's -specifiers once, which keeps them in its ivar.
+/// Calls a subclass's -specifiers once. The subclass stores them in its instance variable.
 - (NSArray*)specifiers;
 - (NSArray*)loadSpecifiersFromPlistName:(NSString*)plistName target:(id)target;
-/// Lets go of the specifiers, asks for them anew and shows them.
+/// Drops the specifiers, loads them again and shows them.
 - (void)reloadSpecifiers;
 
 - (UITableView*)table;

@@ -1,4 +1,4 @@
-// What one row or group of a settings pane is made from. The framework is private.
+// The description of a row or group of a settings pane. The framework is private.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -19,7 +19,7 @@
 - (id)readPreferenceValue:(PSSpecifier*)specifier;
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier*)specifier;
 
-/// The app goes to the background.
+/// The app enters the background.
 - (void)suspend;
 
 @end

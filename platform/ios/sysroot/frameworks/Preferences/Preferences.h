@@ -1,4 +1,4 @@
-// The framework that panes of the Settings app are made with. It is private.
+// The framework for panes of the Settings app. It is private.
 #pragma once
 
 #import <Preferences/PSListController.h>

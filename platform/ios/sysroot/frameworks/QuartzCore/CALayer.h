@@ -1,4 +1,3 @@
-// Layers: what gives views their shape.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

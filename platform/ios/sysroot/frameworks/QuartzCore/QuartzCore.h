@@ -1,4 +1,4 @@
-// What the pane uses of QuartzCore, as it is in iOS 9.
+// The parts of QuartzCore in iOS 9 that the platform uses.
 #pragma once
 
 #import <QuartzCore/CALayer.h>

@@ -1,4 +1,3 @@
-// Alerts.
 #pragma once
 
 #import <UIKit/UIView.h>

@@ -1,4 +1,3 @@
-// The running application.
 #pragma once
 
 #import <UIKit/UIResponder.h>

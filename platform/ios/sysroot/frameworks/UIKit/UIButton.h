@@ -1,4 +1,3 @@
-// Buttons.
 #pragma once
 
 #import <UIKit/UIControl.h>

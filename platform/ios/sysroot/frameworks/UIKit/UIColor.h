@@ -1,4 +1,3 @@
-// Colors.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

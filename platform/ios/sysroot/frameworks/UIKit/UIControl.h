@@ -1,4 +1,3 @@
-// Controls: views that turn touches into actions.
 #pragma once
 
 #import <UIKit/UIView.h>

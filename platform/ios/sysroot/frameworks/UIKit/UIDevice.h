@@ -1,4 +1,3 @@
-// The device that the program runs on.
 #pragma once
 
 #import <Foundation/Foundation.h>

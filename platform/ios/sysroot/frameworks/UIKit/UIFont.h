@@ -1,4 +1,3 @@
-// Fonts.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

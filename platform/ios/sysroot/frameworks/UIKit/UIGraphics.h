@@ -1,4 +1,3 @@
-// Contexts to draw images in.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

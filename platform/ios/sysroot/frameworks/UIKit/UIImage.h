@@ -1,4 +1,3 @@
-// Images.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

@@ -1,4 +1,3 @@
-// Views that show an image.
 #pragma once
 
 #import <UIKit/UIView.h>

@@ -1,4 +1,4 @@
-// What the pane uses of UIKit, as it is in iOS 9.
+// The parts of UIKit in iOS 9 that the platform uses.
 #pragma once
 
 #import <UIKit/UIAlertView.h>

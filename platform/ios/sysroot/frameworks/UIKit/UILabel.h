@@ -1,4 +1,3 @@
-// Labels.
 #pragma once
 
 #import <UIKit/UIView.h>

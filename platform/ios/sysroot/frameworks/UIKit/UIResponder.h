@@ -1,4 +1,3 @@
-// What events and the keyboard can be given to.
 #pragma once
 
 #import <Foundation/Foundation.h>

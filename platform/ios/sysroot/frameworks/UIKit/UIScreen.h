@@ -1,4 +1,3 @@
-// The screen that the program is shown on.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

@@ -1,4 +1,3 @@
-// Views that scroll.
 #pragma once
 
 #import <UIKit/UIView.h>

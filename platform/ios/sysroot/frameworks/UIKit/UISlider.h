@@ -1,4 +1,3 @@
-// Sliders.
 #pragma once
 
 #import <UIKit/UIControl.h>

@@ -1,4 +1,3 @@
-// Switches.
 #pragma once
 
 #import <UIKit/UIControl.h>

@@ -1,4 +1,3 @@
-// Tables, and whom they ask and tell.
 #pragma once
 
 #import <UIKit/UIScrollView.h>
@@ -62,7 +61,7 @@ typedef enum UITableViewRowAnimation : NSInteger {
 - (void)deleteRowsAtIndexPaths:(NSArray*)indexPaths withRowAnimation:(UITableViewRowAnimation)animation;
 - (id)dequeueReusableCellWithIdentifier:(NSString*)identifier;
 - (CGRect)rectForRowAtIndexPath:(NSIndexPath*)indexPath;
-/// nil for a row that is not on view.
+/// nil for a row out of view.
 - (UITableViewCell*)cellForRowAtIndexPath:(NSIndexPath*)indexPath;
 @end
 

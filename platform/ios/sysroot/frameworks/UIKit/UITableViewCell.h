@@ -1,4 +1,3 @@
-// The rows of a table.
 #pragma once
 
 #import <UIKit/UIView.h>

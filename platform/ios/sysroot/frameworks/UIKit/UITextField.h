@@ -1,4 +1,3 @@
-// Text fields: one line of text to be edited.
 #pragma once
 
 #import <UIKit/UIControl.h>

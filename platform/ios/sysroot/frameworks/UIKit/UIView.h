@@ -1,4 +1,3 @@
-// Views, and how their changes are animated.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

@@ -1,4 +1,3 @@
-// View controllers.
 #pragma once
 
 #import <UIKit/UIResponder.h>
@@ -12,7 +11,7 @@
 }
 #endif
 
-/// Loaded when it is first asked for.
+/// Loaded at its first use.
 @property (nonatomic, retain) UIView* view;
 - (BOOL)isViewLoaded;
 - (void)loadView;
@@ -21,7 +20,7 @@
 - (void)viewDidLayoutSubviews;
 
 @property (nonatomic, readonly) UIViewController* presentedViewController;
-// Where blocks are not, `completion` can only be nil.
+// A compiler without blocks can only pass nil as `completion`.
 #if defined(__BLOCKS__)
 - (void)presentViewController:(UIViewController*)viewController
                      animated:(BOOL)animated

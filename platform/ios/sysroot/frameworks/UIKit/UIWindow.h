@@ -1,4 +1,3 @@
-// Windows: the roots of view trees.
 #pragma once
 
 #import <UIKit/UIView.h>

@@ -1,4 +1,3 @@
-// The root class.
 #pragma once
 
 #include <objc/objc.h>

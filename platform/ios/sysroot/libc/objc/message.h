@@ -1,4 +1,4 @@
-// Sending messages from C++. The functions are cast to the type of the method that is called.
+// Sending messages from C++. The functions are cast to the type of the called method.
 #pragma once
 
 #include <objc/objc.h>

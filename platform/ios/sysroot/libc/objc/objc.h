@@ -1,4 +1,4 @@
-// The Objective-C types that the compiler knows by name.
+// The Objective-C types that are built into the compiler.
 #pragma once
 
 #include <stddef.h>

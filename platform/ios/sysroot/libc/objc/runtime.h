@@ -1,4 +1,3 @@
-// Classes, methods and associated objects at run time.
 #pragma once
 
 #include <objc/objc.h>

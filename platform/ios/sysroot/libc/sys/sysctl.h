@@ -1,4 +1,3 @@
-// What the system tells of itself.
 #pragma once
 
 #include "../_types.h"
