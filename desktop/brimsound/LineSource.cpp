@@ -12,7 +12,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-// In bytes without the line feed. A file without line feeds may have no end either.
+// In bytes without the line feed. The limit is for files without line feeds, such as /dev/zero.
 constexpr qint64 longestLine = qint64 { 64 } * 1024;
 
 } // namespace
@@ -20,7 +20,7 @@ constexpr qint64 longestLine = qint64 { 64 } * 1024;
 LineSource::LineSource(const QString& path)
     : _file(path)
 {
-    // Neither Qt nor stdio may read ahead: the notifier below tells only of lines that are still in the pipe.
+    // Neither Qt nor stdio may read ahead: the notifier below only reports lines that are still in the pipe.
     const bool opened = path == "-" ? _file.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered)
                                     : _file.open(QIODevice::ReadOnly);
     if (!opened)
@@ -35,7 +35,7 @@ std::optional<std::string> LineSource::next()
         QObject::connect(&readable, &QSocketNotifier::activated, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    // With one byte more to tell, and one that Qt may keep for a closing NUL.
+    // One more byte to detect a longer line, and one for a terminating NUL that Qt may add.
     auto line = _file.readLine(longestLine + 2);
     if (line.isEmpty())
         return std::nullopt;

@@ -1,4 +1,3 @@
-// Lines of a script, as they come.
 #pragma once
 
 #include <QFile>
@@ -9,15 +8,15 @@
 
 namespace brimsound::desktop {
 
-/// Reads a file or, for "-", standard input, one line at a time. While standard input has nothing to say the
-/// event loop runs, so that a pane in a window stays alive.
+/// Reads a script line by line from a file or, for "-", from standard input. While it waits for standard
+/// input, the event loop runs, so that a pane in a window stays responsive.
 class LineSource {
 public:
     /// Throws std::runtime_error when the file cannot be read.
     explicit LineSource(const QString& path);
 
-    /// The next line without its line feed; nothing at the end. Throws ScriptError for a line
-    /// that no command is as long as.
+    /// The next line without its line feed; nothing at the end. Throws ScriptError for a line that is longer
+    /// than any command.
     std::optional<std::string> next();
 
 private:

@@ -15,17 +15,17 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// How long the app waits for a server to answer: at its own start, and while the pane is in use.
+/// How long the app waits for a server to answer: when the app starts, and while the pane is in use.
 constexpr auto firstPatience = 5s;
 constexpr auto laterPatience = 500ms;
-/// How long for one to end whose name is gone, which happens a moment before.
+/// How long to wait for a server process to end after it has lost its name. It loses the name just before.
 constexpr auto endPatience = 100ms;
 constexpr auto pollInterval = 5ms;
-/// When servers end sooner than this after their start, more often than this in a row, there is a pause
-/// before the next start, so that they do not keep the machine busy.
+/// When servers repeatedly end sooner than this after their start, the next start is delayed, so that they do
+/// not keep the machine busy.
 constexpr auto quickEnd = 1s;
 constexpr int mostQuickEnds = 5;
-/// The pause before a server that is missing is looked for again, in seconds; each doubles the next one.
+/// The delay before the first check for a missing server, in seconds. Each further delay is twice as long.
 constexpr double firstPause = 1;
 constexpr double longestPause = 8;
 
@@ -61,7 +61,8 @@ void MediaServer::start(std::chrono::milliseconds patience)
     _process = std::make_unique<ChildProcess>(std::move(command));
     _started = std::chrono::steady_clock::now();
     for (;;) {
-        // Asked first: a server that ends because another pane's was faster leaves the name served.
+        // Checked first: if this server ends because another pane started one faster, the name is still
+        // served.
         const bool running = _process->running();
         if (isServed())
             return;
@@ -85,7 +86,7 @@ void MediaServer::serverLost()
 
 void MediaServer::startIfMissing()
 {
-    // Without a bus none can serve; the loss is told once there is one.
+    // Without a bus no server can work. The loss is reported when the bus is back.
     if (!SessionBus::shared().connection() || isServed())
         return;
     if (_process && !_process->exitStatus(endPatience)) {

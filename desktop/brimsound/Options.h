@@ -1,4 +1,4 @@
-// The command line.
+// The command-line options.
 #pragma once
 
 #include <QString>
@@ -11,26 +11,26 @@
 namespace brimsound::desktop {
 
 struct Options {
-    /// The folder that device paths resolve under; empty for the user's data directory.
+    /// The folder that device paths are relative to; empty for the user's data directory.
     QString root;
     bool headless = false;
     /// The gesture script, "-" for standard input; empty for none.
     QString script;
-    /// Whether a script's commands, URLs and mails reach the rest of the machine.
+    /// Whether a script's commands, URLs and mails are really passed to other programs.
     bool live = false;
-    /// The picture to write before the end; empty for none.
+    /// The picture to write at the end; empty for none.
     QString snapshot;
-    /// Device pixels a point; nothing for the screen's own, 2 without a screen.
+    /// Device pixels per point; nothing for the screen's own scale, or 2 without a screen.
     std::optional<double> scale;
 };
 
-/// A command line that cannot be followed; `what` is the one line to print.
+/// An invalid command line; `what` is the line to print.
 class UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments, the program's name first. Answers --help and --version itself and ends the program
-/// then. Throws UsageError.
+/// Parses the arguments, which begin with the program's name. Handles --help and --version itself and then
+/// ends the program. Throws UsageError.
 Options readOptions(const QStringList& arguments);
 
 } // namespace brimsound::desktop

@@ -24,7 +24,7 @@ bool OwnBus::startAgain()
 {
     if (_bus && _bus->running())
         return false;
-    // Only one at a time can be the bus that this process finds.
+    // The old bus has to be destroyed first: each sets the environment variable that names the bus.
     _bus.reset();
     try {
         _bus.emplace();

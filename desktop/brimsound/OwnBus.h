@@ -1,4 +1,3 @@
-// The session bus that the app brings along.
 #pragma once
 
 #include "platform/desktop/bus/PrivateBus.h"
@@ -7,8 +6,8 @@
 
 namespace brimsound::desktop {
 
-/// Starts a session bus where there is none, and starts it again when it ended and is looked for. It ends
-/// with this object.
+/// The app's own session bus. It is started when there is no other, and started again when it has ended and
+/// is needed. It ends with this object.
 class OwnBus {
 public:
     /// Throws std::runtime_error when there is no bus and none can be started.
@@ -20,7 +19,7 @@ public:
 private:
     bool startAgain();
 
-    /// Nothing while somebody else's is used.
+    /// Nothing while another bus is used.
     std::optional<PrivateBus> _bus;
 };
 

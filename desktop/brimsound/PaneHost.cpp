@@ -9,7 +9,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// Fills the window: the bar above, the pane's table below.
+/// Fills the window: the title bar at the top, the pane's table below.
 class RootView : public UIView {
 public:
     RootView()
@@ -20,7 +20,7 @@ public:
 
     void setContent(RetainPtr<UIView> content)
     {
-        // A preset panel may be here too, and has no business over another content.
+        // This view may also contain a preset panel, which must not be above a new content view.
         for (const auto& view : std::vector(subviews())) {
             if (view != _bar.get())
                 view->removeFromSuperview();
@@ -45,7 +45,7 @@ private:
     RetainPtr<UIView> _content;
 };
 
-/// Keeps its one view as large as itself.
+/// Resizes its one subview with the window.
 class PaneWindow : public Window {
 public:
     using Window::Window;
@@ -75,7 +75,7 @@ PaneHost::PaneHost(CGSize size)
 
 PaneHost::~PaneHost()
 {
-    // A touch that is still down when the program ends was never let go, so nothing is saved for it.
+    // A touch that is still down when the program ends is not released, so nothing is saved for it.
     releasePane();
 }
 
@@ -101,11 +101,11 @@ void PaneHost::close()
 
 void PaneHost::releasePane()
 {
-    // They would answer to a pane that is gone.
+    // Their answers would go to a pane that no longer exists.
     _window->alerts().dismissAll();
     _rootController->dismissViewControllerAnimatedCompletion(Animated::No, {});
     static_cast<RootView&>(*_root).setContent(nullptr);
-    // Pane and panel hold one another.
+    // The pane and the panel retain each other.
     if (_controller && _controller->saver())
         _controller->saver()->setDelegate(nullptr);
     _controller = nullptr;

@@ -1,4 +1,3 @@
-// The place that a pane is shown in.
 #pragma once
 
 #include "platform/desktop/UIKit/Window.h"
@@ -6,10 +5,10 @@
 
 namespace brimsound::desktop {
 
-/// A window with a title bar and, below it, the pane's table. The pane can be let go and opened anew.
+/// A window with a title bar and, below it, the pane's table. The pane can be released and opened again.
 class PaneHost {
 public:
-    /// Opens the pane in a window of that size, in points.
+    /// Opens the pane in a window of that size in points.
     explicit PaneHost(CGSize);
     PaneHost(const PaneHost&) = delete;
     PaneHost& operator=(const PaneHost&) = delete;
@@ -23,7 +22,7 @@ public:
     UIViewController& rootController() const { return *_rootController; }
 
     void open();
-    /// Takes a touch that is down away, and alerts and sheets unanswered, and releases the pane.
+    /// Cancels a touch, dismisses alerts and sheets without an answer, and releases the pane.
     void close();
 
 private:

@@ -12,7 +12,7 @@ bool isBlank(char character)
     return character == ' ' || character == '\t' || character == '\r';
 }
 
-/// Takes a quoted text that starts at `position`, and moves that behind it.
+/// Reads a quoted text that starts at `position`, and moves `position` behind it.
 std::string takeQuoted(std::string_view line, std::size_t& position)
 {
     std::string text;
@@ -56,7 +56,7 @@ std::vector<std::string> wordsOf(std::string_view line)
 double numberFrom(const std::string& word)
 {
     double number = 0;
-    // A sign in front is as good for a plus as for a minus.
+    // std::from_chars accepts only a minus sign.
     const char* start = word.data() + (word.starts_with('+') ? 1 : 0);
     const char* end = word.data() + word.size();
     const auto [stop, error] = std::from_chars(start, end, number);

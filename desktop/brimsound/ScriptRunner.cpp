@@ -20,12 +20,12 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// How far below a slider a finger counts as outside, in points: beyond the margin that controls grant.
+/// How far below a slider a finger is outside, in points. Controls accept touches within a smaller margin.
 constexpr double outsideDistance = 200;
 constexpr std::size_t lastSlider = 10;
-/// How far a swipe draws a row to the left, in points: beyond its button's width.
+/// How far a swipe moves a row to the left, in points: more than the width of its button.
 constexpr double swipeDistance = 120;
-/// Where the dimmed area is touched beside the panel, in points from the window's corner.
+/// Where a script taps the dimmed area next to the panel, in points from the window's corner.
 constexpr double dimmedMargin = 22;
 constexpr double largestWindow = 10000;
 /// A day.
@@ -45,7 +45,7 @@ struct ScriptRunner::Command {
     std::string_view name;
     std::size_t fewestArguments;
     std::size_t mostArguments;
-    /// How the command is written, for whoever wrote it otherwise.
+    /// The syntax of the command, for error messages.
     std::string_view usage;
     void (ScriptRunner::*carryOut)(const Words& arguments);
 };
@@ -175,7 +175,7 @@ void ScriptRunner::touch(const Words& words)
         throw ScriptError("slider " + words[0] + " is covered");
     pressAt(place);
     _held = words[0];
-    // As the mouse does, which reaches the slider at once; a finger would wait to see whether it scrolls.
+    // A mouse press reaches the slider at once. A finger would wait to see whether the user scrolls.
     _host.window().touchDown({ place, Pointer::Mouse });
 }
 
@@ -335,7 +335,7 @@ void ScriptRunner::dim(const Words&)
         throw ScriptError("the presets are not shown");
     pressAt(convertToWindow({ dimmedMargin, dimmedMargin }, panel->view()));
     _host.window().touchDown({ _finger, Pointer::Mouse });
-    // The touch down closes the panel; a user's finger goes up all the same.
+    // The touch down already closes the panel; the finger is lifted as a user would do.
     _host.window().touchUp(_finger);
 }
 

@@ -1,4 +1,4 @@
-// Carries a gesture script out.
+// Executes gesture scripts.
 #pragma once
 
 #include "desktop/brimsound/PaneHost.h"
@@ -14,15 +14,15 @@
 
 namespace brimsound::desktop {
 
-/// Drives a pane through the same path as a finger.
+/// Operates a pane through the same touch events as a finger.
 class ScriptRunner {
 public:
-    /// All three outlive the runner. `scale` is that of snapshots which name none; `resize` gives the window
-    /// a size in points.
+    /// All three arguments must outlive the runner. `scale` is for snapshots without a scale of their own.
+    /// `resize` sets the window's size in points.
     ScriptRunner(PaneHost&, MainLoop&, Trace&, double scale, std::function<void(CGSize)> resize);
 
-    /// Carries one line out. Throws ScriptError when it is unknown or impossible; then nothing was done, but
-    /// the table may have been scrolled to where a touch was to go.
+    /// Executes one line. Throws ScriptError when the line is unknown or cannot be executed. Then nothing was
+    /// changed, except that the table may have been scrolled to the touched row.
     void run(std::string_view line);
 
 private:
@@ -55,21 +55,21 @@ private:
     void snapshot(const Words&);
 
     void pressAt(CGPoint);
-    /// Touches the middle of the view and lets go.
+    /// Touches the center of the view and releases it.
     void tap(UIView&, const std::string& name) const;
     /// The row of that specifier, scrolled into view.
     UITableViewCell& rowOf(const PSSpecifier&) const;
     /// A row's cell, scrolled into view.
     UITableViewCell& cellAt(UITableView&, const NSIndexPath&) const;
     BrimsoundSettingsListController& pane() const;
-    /// The preset panel with its list shown.
+    /// The preset panel, with its list visible.
     PlaylistSaver& presetList() const;
-    /// Where that preset's row stands.
+    /// The position of that preset's row.
     NSIndexPath presetRow(const std::string& name) const;
     /// A row of the preset list, scrolled into view.
     UITableViewCell& rowInPresetList(const NSIndexPath&) const;
     UISlider& slider(const std::string& word) const;
-    /// The held slider, which must be the one that the word names.
+    /// The touched slider. Throws ScriptError unless the word names it.
     UISlider& heldSlider(const std::string& word) const;
 
     PaneHost& _host;
@@ -78,7 +78,7 @@ private:
     const double _scale;
     const std::function<void(CGSize)> _resize;
     CGPoint _finger;
-    /// The word that `touch` named its slider by.
+    /// The word that named the slider in `touch`.
     std::optional<std::string> _held;
 };
 

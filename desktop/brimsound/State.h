@@ -1,4 +1,4 @@
-// What a pane shows, for the trace.
+// The pane's state, for the trace.
 #pragma once
 
 #include "desktop/brimsound/PaneHost.h"
@@ -6,18 +6,18 @@
 
 namespace brimsound::desktop {
 
-/// How the preset panel shows.
+/// The visible state of the preset panel.
 enum class PanelState {
     Hidden,
     List,
     Naming,
 };
 
-/// Hidden for a panel that was never shown (null).
+/// Hidden when the panel was never shown (null).
 PanelState panelStateOf(const PlaylistSaver*);
 
-/// The fields of a state line. Sliders, labels, colors and bar are empty or null while there is no pane or
-/// its sliders are not built; rows and selected preset are those of the panel's last showing.
+/// The fields of a state line. Sliders, labels, colors and bar are empty or null when there is no pane or its
+/// sliders are not built. Rows and selected preset are those of the last time the panel was shown.
 Json stateOf(const PaneHost&);
 
 } // namespace brimsound::desktop

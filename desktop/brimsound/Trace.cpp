@@ -109,7 +109,7 @@ void Trace::stateAsked(const Json& state)
 
 void Trace::print(const Json& line)
 {
-    // Names may come from anywhere; a broken character must not end the trace.
+    // Names may contain invalid UTF-8, which must not end the trace.
     const auto text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
     const auto written = std::fwrite(text.data(), 1, text.size(), _stream);
     if ((written != text.size() || std::fflush(_stream) != 0) && _failure == 0)

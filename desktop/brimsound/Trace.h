@@ -1,4 +1,4 @@
-// The trace of a script: one JSON object a line for every effect.
+// The trace of a script: one line with a JSON object for each effect.
 #pragma once
 
 #include "platform/desktop/effects/Effects.h"
@@ -13,13 +13,13 @@ using Json = nlohmann::ordered_json;
 
 class Trace : public EffectObserver {
 public:
-    /// Prints to the stream, which the caller keeps open; each line is flushed.
+    /// Prints to the stream, which must stay open. Flushes each line.
     explicit Trace(std::FILE* stream)
         : _stream(stream)
     {
     }
 
-    /// Why the first line that is missing could not be printed, as errno tells; 0 while none is.
+    /// The error number (errno) of the first line that could not be printed; 0 if there is none.
     int failure() const { return _failure; }
 
     void messageSent(
@@ -41,7 +41,7 @@ private:
     int _failure = 0;
 };
 
-/// The value as JSON: data as base64 does not occur and becomes null, as does null itself.
+/// The value as JSON. Null and data become null; data does not occur.
 Json toJson(const PropertyList&);
 
 } // namespace brimsound::desktop

@@ -1,4 +1,4 @@
-// The settings pane on the desktop: in a window, or without one under a gesture script.
+// The settings pane on the desktop: in a window, or without one when a gesture script is run.
 #include "desktop/brimsound/LineSource.h"
 #include "desktop/brimsound/MediaServer.h"
 #include "desktop/brimsound/Options.h"
@@ -29,7 +29,7 @@ constexpr CGSize firstSize { 320, 568 };
 constexpr QSize smallestSize { 280, 240 };
 constexpr double scaleWithoutScreen = 2;
 
-/// Has Qt use a display when there is one, and none when not or when none is wanted.
+/// Makes Qt use the display if there is one and it is wanted, otherwise no display.
 void choosePlatform(const Options& options)
 {
     if (options.headless)
@@ -63,7 +63,7 @@ int runScript(const QString& path, ScriptRunner& runner, const Trace& trace, Mai
         std::fprintf(stderr, "brimsound: line %d: %s\n", number, error.what());
         return 2;
     }
-    // What the last line set off is part of the trace.
+    // Effects that the last line caused are part of the trace.
     loop.wait(0);
     throwIfIncomplete(trace);
     return 0;
@@ -87,7 +87,7 @@ int run(int argc, char** argv, const Options& options)
         throw UsageError("without a display there is nothing to do but --script or --snapshot");
 
     const OwnBus bus;
-    // A script is for trying the pane out, whatever plays meanwhile.
+    // A script is a trial of the pane, so it must not change the sound that is playing.
     const auto sound = headless || !options.script.isEmpty() ? MediaServer::Sound::LeftAlone
                                                              : MediaServer::Sound::Equalized;
     MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot(), sound);

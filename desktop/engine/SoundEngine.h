@@ -1,4 +1,4 @@
-// The desktop's sound, equalized.
+// The equalizer for the desktop's sound.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -13,49 +13,50 @@
 
 namespace brimsound::engine {
 
-/// What is done to the sound.
+/// The settings of the equalizer.
 struct Settings {
     /// Slider positions in dB, from 60 Hz up.
     audio::BandGains sliders {};
     /// In dB.
     double preamp = 0;
-    /// Whether what would exceed full scale is turned down.
+    /// Whether the limiter keeps the output below full scale.
     bool limits = true;
 
     bool operator==(const Settings&) const = default;
 };
 
-/// Called on the thread of the event loop. Any of them may be empty.
+/// Callbacks on the thread of the event loop. Each may be empty.
 struct Reports {
-    /// PipeWire was reached, or went away.
+    /// PipeWire was reached, or the connection was lost.
     std::function<void(bool)> connected;
-    /// The node name of the device that the sound goes to; empty when there is none.
+    /// The node name of the output device; empty when there is none.
     std::function<void(const std::string&)> output;
-    /// Channels of the equalizer, such as "FL", in their order.
+    /// The channels of the equalizer, such as "FL", in their order.
     std::function<void(const std::vector<std::string>&)> layout;
     /// Sampling rate in Hz.
     std::function<void(unsigned)> rate;
-    /// The preamp plus the response's maximum, in dB: how far a full-scale sound may go beyond full scale.
+    /// The preamp plus the response's maximum, in dB: how far a full-scale sound may exceed full scale.
     std::function<void(double)> headroom;
-    /// How many blocks were limited since the start. At most once a second.
+    /// The number of blocks limited since the start. Reported at most once a second.
     std::function<void(std::uint64_t)> limited;
-    /// A line for the user about what keeps the sound from being equalized.
+    /// A line for the user about a problem that prevents equalizing.
     std::function<void(const std::string&)> problem;
 };
 
-/// Puts an equalizer between the programs that play and the device that the user chose: a sink "brimsound",
-/// to which their streams are moved. It looks for PipeWire until there is one, and again when it went away.
+/// Inserts an equalizer between the programs that play sound and the user's output device: a sink
+/// "brimsound", to which their streams are moved. Tries to connect to PipeWire until it is available, and
+/// again after the connection was lost.
 class SoundEngine {
 public:
-    /// Runs on the loop, which outlives this object. The signals that end the program have to be blocked
-    /// already: threads are made here. Throws std::runtime_error when it cannot run at all.
+    /// Runs on the loop, which must outlive this object. Creates threads, so the signals that end the program
+    /// must be blocked before. Throws std::runtime_error when it cannot run at all.
     SoundEngine(sd_event*, const Settings&, Reports);
     SoundEngine(const SoundEngine&) = delete;
     SoundEngine& operator=(const SoundEngine&) = delete;
-    /// Gives every stream back that was moved, and waits at most half a second until that is done.
+    /// Moves all streams back, and waits for that for at most half a second.
     ~SoundEngine();
 
-    /// Takes effect without a click.
+    /// The change is free of clicks.
     void set(const Settings&);
 
 private:

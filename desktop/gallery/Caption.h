@@ -1,4 +1,4 @@
-// Small text beside what a sheet shows.
+// Small text next to a picture.
 #pragma once
 
 #include "platform/UIKit/UILabel.h"

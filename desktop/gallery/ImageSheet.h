@@ -1,12 +1,12 @@
-// The plus of the Save row and what the image operations make of it.
+// The plus sign of the Save row and the results of the image operations on it.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
 
 namespace brimsound::desktop {
 
-/// A row for the image at one pixel a point and one for the same at two, each beside its filled, darkened and
-/// inverted forms, all drawn large.
+/// Two rows: the image at one pixel per point and the same at two. Each shows the image and its filled,
+/// darkened and inverted forms, enlarged.
 class ImageSheet : public UIView {
 public:
     ImageSheet();

@@ -1,4 +1,4 @@
-// Draws what the preset list is made of, as one picture.
+// Draws the parts of the preset list in one picture.
 #include "desktop/gallery/CurveSheet.h"
 #include "desktop/gallery/ImageSheet.h"
 #include "platform/desktop/Qt/Snapshot.h"

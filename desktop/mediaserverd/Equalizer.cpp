@@ -9,7 +9,7 @@ namespace brimsound::mediaserver {
 
 namespace {
 
-/// In dB; the sliders go no further.
+/// In dB, the limit of the sliders.
 constexpr float largestGain = 12;
 
 float finiteOrZero(float gain)

@@ -1,4 +1,4 @@
-// The gains that the media server plays with.
+// The gains of the media server.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -15,14 +15,14 @@ using Gains = std::array<float, 11>;
 /// The gains of an "equalizer_send" message's user info; nothing unless "vals" is eleven finite numbers.
 std::optional<Gains> gainsOfMessage(const PropertyList::Dictionary& userInfo);
 
-/// The gains in the preferences. What is missing, or no finite number, is 0 dB.
+/// The gains in the preferences. A gain that is missing or not a finite number is 0 dB.
 Gains gainsOfPreferences(const PropertyList::Dictionary&);
 
-/// Starts with every gain at 0 dB.
+/// Initially all gains are 0 dB.
 class Equalizer {
 public:
     const Gains& gains() const { return _gains; }
-    /// Gains beyond 12 dB count as 12 dB.
+    /// Limits the gains to 12 dB in either direction.
     void setGains(Gains);
 
     /// Called after the gains changed.

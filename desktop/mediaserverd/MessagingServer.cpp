@@ -44,7 +44,7 @@ int serveMessagingCenter(sd_bus* bus, Equalizer& equalizer)
     const auto path = desktop::messagingCenterPath(messagingCenterName);
     const int added = sd_bus_add_object_vtable(
         bus, nullptr, path.c_str(), desktop::messagingCenterInterface, methods, &equalizer);
-    // The name comes last: whoever sees it can send.
+    // The name is requested last: clients send as soon as the name exists.
     return added < 0 ? added : sd_bus_request_name(bus, messagingCenterName, 0);
 }
 

@@ -1,4 +1,4 @@
-// The server's side of the messaging center.
+// The server side of the messaging center.
 #pragma once
 
 #include "desktop/mediaserverd/Equalizer.h"
@@ -7,9 +7,9 @@
 
 namespace brimsound::mediaserver {
 
-/// Answers every "equalizer_send" that arrives on the connection from now on: with an empty reply after the
-/// gains were set, with an error when the message is not what it should be. The equalizer outlives the
-/// connection. A negative errno on failure; -EEXIST when another process serves the center.
+/// Answers each "equalizer_send" message on the connection: with an empty reply after setting the gains, or
+/// with an error when the message is invalid. The equalizer must outlive the connection. Returns a negative
+/// errno on failure; -EEXIST when another process serves the center.
 int serveMessagingCenter(sd_bus*, Equalizer&);
 
 } // namespace brimsound::mediaserver

@@ -8,13 +8,13 @@ namespace brimsound::mediaserver {
 
 namespace {
 
-// Numbers of single precision, so that they are printed no longer than that takes.
+// Numbers are printed with the digits of single precision.
 using Json
     = nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, float>;
 
 void printLine(const char* key, const Json& value)
 {
-    // Names come from other programs: what is no UTF-8 in them is replaced.
+    // Names come from other programs: invalid UTF-8 in them is replaced.
     std::puts(Json { { key, value } }.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
     std::fflush(stdout);
 }

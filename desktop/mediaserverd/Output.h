@@ -1,4 +1,4 @@
-// What the media server prints.
+// The output of the media server.
 #pragma once
 
 #include "desktop/engine/SoundEngine.h"
@@ -6,12 +6,12 @@
 
 namespace brimsound::mediaserver {
 
-/// A line of JSON on standard output: {"vals":[…]}.
+/// Prints a line of JSON to standard output: {"vals":[…]}.
 void print(const Gains&);
 
-/// Problems go to standard error. The rest is printed when that is wanted, a line of JSON each on standard
-/// output: {"connected":true}, {"output":"speakers"}, {"layout":["FL","FR"]}, {"rate":48000},
-/// {"headroom":-1.5}, {"limited":12}.
+/// The callbacks that print reports. Problems are printed to standard error. The other reports are printed
+/// only if `printed`, each as a line of JSON on standard output: {"connected":true}, {"output":"speakers"},
+/// {"layout":["FL","FR"]}, {"rate":48000}, {"headroom":-1.5}, {"limited":12}.
 engine::Reports reports(bool printed);
 
 } // namespace brimsound::mediaserver

@@ -1,4 +1,4 @@
-// What the preferences file says about the engine.
+// The engine's part of the preferences file.
 #pragma once
 
 #include "desktop/mediaserverd/Equalizer.h"
@@ -7,19 +7,19 @@
 
 namespace brimsound::mediaserver {
 
-/// The values of a file that has none of the keys.
+/// The initial values are the defaults for missing keys.
 struct Preferences {
-    /// Whether there is an equalizer in the sound at all.
+    /// Whether the equalizer is on.
     bool enabled = true;
     /// Whether the sound passes unchanged, whatever the gains are.
     bool filterDisabled = false;
-    /// Whether the output goes beyond full scale unchecked.
+    /// Whether the output may exceed full scale.
     bool checkingDisabled = false;
     Gains gains {};
 };
 
-/// Reads the file. Without one, the defaults; nothing when it is damaged or cannot be read, as while somebody
-/// is writing it.
+/// Reads the file. Returns the defaults when there is no file, and nothing when it is damaged or cannot be
+/// read, for example while another process writes it.
 std::optional<Preferences> readPreferences();
 
 } // namespace brimsound::mediaserver

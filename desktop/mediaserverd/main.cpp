@@ -1,4 +1,5 @@
-// The equalizer's engine: takes the live gains, rereads the preferences when told to, and plays with them.
+// The equalizer's engine: receives the live gains, reads the preferences again when notified, and applies
+// both.
 #include "desktop/engine/SoundEngine.h"
 #include "desktop/mediaserverd/Equalizer.h"
 #include "desktop/mediaserverd/MessagingServer.h"
@@ -48,7 +49,7 @@ constexpr int usageError = 2;
 struct Options {
     bool print = false;
     bool silent = false;
-    /// Set when the program is done already, with this exit status.
+    /// Set when the program should end now, with this exit status.
     std::optional<int> exitStatus;
 };
 
@@ -91,7 +92,7 @@ Options readOptions(int argumentCount, char** arguments)
     return options;
 }
 
-/// What the program holds together. It outlives the connection to the bus.
+/// The objects of the program. They outlive the connection to the bus.
 struct Server {
     Equalizer equalizer;
     bool filterDisabled = false;
@@ -120,7 +121,7 @@ void updateSound(const Server& server)
 void rereadGains(
     CFNotificationCenterRef, void* server, std::string_view, const void*, const PropertyList::Dictionary*)
 {
-    // A file that somebody is writing leaves everything as it is.
+    // While another process writes the file, the settings stay unchanged.
     if (const auto preferences = readPreferences())
         static_cast<Server*>(server)->equalizer.setGains(preferences->gains);
 }
@@ -138,7 +139,8 @@ void rereadFlags(
 
 using Event = std::unique_ptr<sd_event, decltype(&sd_event_unref)>;
 
-// An event loop that SIGTERM and SIGINT end. They are blocked, for threads made later too. Null on failure.
+// An event loop that ends on SIGTERM and SIGINT. The signals are blocked, also for threads made later. Null
+// on failure.
 Event makeEventLoop()
 {
     sd_event* created = nullptr;
@@ -205,7 +207,7 @@ int main(int argumentCount, char** arguments)
     if (served < 0)
         return fail(std::strerror(-served));
 
-    // The gains are there before any sound passes.
+    // The gains are set before any sound is processed.
     const auto preferences = readPreferences().value_or(Preferences {});
     server.filterDisabled = preferences.filterDisabled;
     server.checkingDisabled = preferences.checkingDisabled;

@@ -22,7 +22,7 @@ audio::BandGains gainsOfPreset(const std::string& name)
 
     audio::BandGains gains {};
     std::ranges::transform(tenGains(*preset), gains.begin(), [](float gain) {
-        // As a slider does.
+        // A slider does the same.
         return std::isnan(gain) ? 0.0 : std::clamp<double>(gain, -audio::sliderLimit, audio::sliderLimit);
     });
     return gains;

@@ -1,4 +1,4 @@
-// The gains of a rendering.
+// The gains for rendering a file.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -7,11 +7,11 @@
 
 namespace brimsound::render {
 
-/// The gains of a preset in the preferences, or of a built-in one while none is saved. Throws
-/// std::runtime_error when there is no such preset, or it is not ten numbers.
+/// The gains of a preset in the preferences, or of a built-in preset when none is saved. Throws
+/// std::runtime_error when there is no such preset, or when it is not ten numbers.
 audio::BandGains gainsOfPreset(const std::string& name);
 
-/// What the pane's Auto Preamp makes of band gains: minus the highest, in dB.
+/// The preamp that the pane's Auto Preamp sets for these gains: the negated highest gain, in dB.
 double autoPreamp(const audio::BandGains&);
 
 } // namespace brimsound::render

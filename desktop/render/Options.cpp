@@ -41,7 +41,7 @@ double readGain(std::string_view text)
     double gain = 0;
     const auto* end = digits.data() + digits.size();
     const auto [stopped, error] = std::from_chars(digits.data(), end, gain);
-    // Written so that NaN is refused.
+    // The condition is negated so that NaN is rejected.
     if (error != std::errc() || stopped != end
         || !(-audio::sliderLimit <= gain && gain <= audio::sliderLimit))
         throw UsageError(quoted(text) + " is no gain in dB from -12 to 12");
@@ -93,7 +93,7 @@ std::optional<Options> readOptions(int argumentCount, char** arguments)
     };
     Options options;
     std::optional<std::string> preamp;
-    // What is wrong is said in the program's own name.
+    // getopt must not print errors: this program prints its own.
     opterr = 0;
     for (int letter = 0; (letter = getopt_long(argumentCount, arguments, ":", known, nullptr)) != -1;) {
         switch (letter) {

@@ -1,4 +1,4 @@
-// What brimsound-render is asked for.
+// The options of brimsound-render.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -10,7 +10,7 @@
 
 namespace brimsound::render {
 
-/// Arguments that make no sense; says which and why in one line.
+/// Invalid arguments; `what` is the line to print.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -19,16 +19,16 @@ public:
 struct Options {
     std::filesystem::path in;
     std::filesystem::path out;
-    /// Either the name of a preset or gains is set. Gains are in dB, from -12 to 12.
+    /// Either a preset's name or gains are set. Gains are in dB, from -12 to 12.
     std::optional<std::string> preset;
     std::optional<audio::BandGains> gains;
-    /// In dB, from -12 to 12; nothing when it follows from the gains.
+    /// In dB, from -12 to 12; nothing when it is derived from the gains.
     std::optional<double> preamp;
     std::optional<std::filesystem::path> root;
     bool limiter = true;
 };
 
-/// Reads the arguments of a program. Nothing when a text was asked for, which has been printed. Throws
+/// Parses the arguments of the program. Returns nothing after printing the help or version text. Throws
 /// UsageError.
 std::optional<Options> readOptions(int argumentCount, char** arguments);
 

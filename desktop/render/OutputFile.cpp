@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where a signal handler finds it. Empty while there is none.
+// Global so that a signal handler can remove the file. Empty when there is none.
 std::string temporaryPath;
 
 constexpr auto endings = { SIGHUP, SIGINT, SIGTERM };
@@ -25,11 +25,11 @@ constexpr auto endings = { SIGHUP, SIGINT, SIGTERM };
 void removeAndEnd(int signal)
 {
     unlink(temporaryPath.c_str());
-    // The action is the default one again.
+    // The default action is restored, so this ends the program.
     raise(signal);
 }
 
-// Lets no signal in while the temporary path changes.
+// Blocks signals while the temporary path changes.
 class SignalsHeld {
 public:
     SignalsHeld()
@@ -56,15 +56,15 @@ void removeOnSignals()
     for (const int signal : endings) {
         struct sigaction now { };
         sigaction(signal, nullptr, &now);
-        // A program that was started to ignore a signal, by nohup for example, goes on ignoring it.
+        // A signal that is ignored from the start, for example because of nohup, stays ignored.
         if (now.sa_handler != SIG_IGN)
             sigaction(signal, &removal, nullptr);
     }
-    // A file that may not grow any more is an error of the write.
+    // A file-size limit is reported as a write error.
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-// As the file that is replaced; else as any new file.
+// Those of the file that is replaced; otherwise those of a new file.
 mode_t permissionsFor(const fs::path& path)
 {
     struct stat status { };
@@ -81,7 +81,7 @@ OutputFile::OutputFile(const fs::path& path)
     : _path(path)
 {
     std::error_code error;
-    // What a link leads to is replaced, not the link.
+    // Through a symbolic link its target is replaced, not the link.
     if (fs::exists(path, error))
         _path = fs::canonical(path, error);
     if (error)
@@ -111,7 +111,7 @@ OutputFile::~OutputFile()
 
 void OutputFile::keep()
 {
-    // A full disk may show only now.
+    // A full disk may be reported only here.
     if (fsync(_descriptor) != 0)
         fail(errno);
     const SignalsHeld signalsHeld;

@@ -1,16 +1,16 @@
-// A file that is there as a whole or not at all.
+// A file that is written completely or not at all.
 #pragma once
 
 #include <filesystem>
 
 namespace brimsound::render {
 
-/// Writes to a temporary file beside the path and puts it in the path's place at the end. Until then what was
-/// there stays, and a temporary file that was not kept is removed, also when SIGINT, SIGTERM or SIGHUP end
-/// the program. One object at a time in a process.
+/// Writes to a temporary file next to the path and renames it to the path at the end. Until then an existing
+/// file stays. The temporary file is removed if it is not kept, also when SIGINT, SIGTERM or SIGHUP end the
+/// program. One object at a time in a process.
 class OutputFile {
 public:
-    /// Throws std::runtime_error when no file can be made there.
+    /// Throws std::runtime_error when no file can be created there.
     explicit OutputFile(const std::filesystem::path&);
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
@@ -19,7 +19,7 @@ public:
     /// Owned by this object.
     int descriptor() const { return _descriptor; }
 
-    /// Puts the file in its place. Throws std::runtime_error when that fails.
+    /// Renames the file to its path. Throws std::runtime_error on failure.
     void keep();
 
 private:

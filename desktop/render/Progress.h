@@ -1,15 +1,14 @@
-// How far a long job is, for somebody who watches.
 #pragma once
 
 #include <cstdint>
 
 namespace brimsound::render {
 
-/// A line on standard error that changes as the job goes on, and is gone at the end. Prints nothing when
-/// standard error is no terminal.
+/// Shows the progress of a long job in one line on standard error, which is removed at the end. Prints
+/// nothing when standard error is not a terminal.
 class Progress {
 public:
-    /// `total` is how much there is to do, in any unit.
+    /// `total` is the amount of work, in any unit.
     explicit Progress(std::int64_t total);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t blockLength = 4096;
 
-/// The equalizer on interleaved samples.
+/// Applies the equalizer to interleaved samples.
 class Chain {
 public:
     Chain(const SF_INFO& info, const Setting& setting)

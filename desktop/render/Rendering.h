@@ -1,4 +1,4 @@
-// From one sound file to another.
+// Applying the equalizer to a sound file.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -7,15 +7,15 @@
 
 namespace brimsound::render {
 
-/// What the equalizer is set to. In dB.
+/// The gains of the equalizer, in dB.
 struct Setting {
     audio::BandGains gains {};
     double preamp = 0;
     bool limiter = true;
 };
 
-/// Writes `out` as the sound of `in` through the equalizer. The paths may be the same. Throws
-/// std::runtime_error, and then leaves `out` as it was.
+/// Applies the equalizer to the file `in` and writes `out`. The paths may be the same. Throws
+/// std::runtime_error and then leaves `out` unchanged.
 void renderFile(const std::filesystem::path& in, const std::filesystem::path& out, const Setting&);
 
 } // namespace brimsound::render

@@ -8,7 +8,7 @@ namespace brimsound::render {
 
 namespace {
 
-// 0 for what is no plain integer.
+// 0 for a format that is not a plain integer.
 int bitsOf(int format)
 {
     switch (format & SF_FORMAT_SUBMASK) {
@@ -46,7 +46,7 @@ SampleScale::SampleScale(SNDFILE* file, int format)
         _unit = std::ldexp(1.0f, bits - 1);
     }
     _lowest = -_unit;
-    // The largest integer; of 32 bits the largest that a float can tell from full scale.
+    // The largest integer. For 32 bits it is the largest value below full scale that a float can represent.
     _highest = _unit > 1 ? std::min(_unit - 1, std::nextafter(_unit, 0.0f)) : std::nextafter(1.0f, 0.0f);
 }
 

@@ -8,7 +8,7 @@ namespace brimsound::render {
 
 namespace {
 
-// libsndfile ends some of its messages with a full stop.
+// Removes the period at the end of some of libsndfile's messages.
 [[noreturn]] void failWith(const std::string& what, std::string reason)
 {
     while (!reason.empty() && (reason.back() == '.' || reason.back() == '\n'))

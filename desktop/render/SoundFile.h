@@ -1,4 +1,4 @@
-// Sound files by libsndfile.
+// Reading and writing sound files with libsndfile.
 #pragma once
 
 #include "desktop/render/SampleScale.h"
@@ -11,7 +11,7 @@
 
 namespace brimsound::render {
 
-/// A file being read. Samples are interleaved, full scale is 1.
+/// A file that is being read. Samples are interleaved, full scale is 1.
 class SoundReader {
 public:
     /// Throws std::runtime_error when it cannot be read as sound.
@@ -20,8 +20,8 @@ public:
     const SF_INFO& info() const { return _info; }
     SNDFILE* handle() const { return _file.get(); }
 
-    /// Fills the samples, whole frames, as far as the file goes, and returns how many frames there were:
-    /// fewer only at its end. Throws std::runtime_error when the file is damaged.
+    /// Reads whole frames into the samples and returns the number of frames. It is smaller than requested
+    /// only at the end of the file. Throws std::runtime_error when the file is damaged.
     std::size_t read(std::span<float> samples);
 
 private:
@@ -31,16 +31,16 @@ private:
     SampleScale _scale;
 };
 
-/// A file being written, in the format of another, with its texts and the order of its channels.
+/// A file that is being written, in the format of another, with its tags and channel order.
 class SoundWriter {
 public:
-    /// Writes to an open descriptor, which stays the caller's. `name` is for messages. Throws
+    /// Writes to an open descriptor, which the caller closes. `name` is for messages. Throws
     /// std::runtime_error when libsndfile cannot write the format.
     SoundWriter(int descriptor, const SoundReader& like, const std::filesystem::path& name);
 
-    /// Whole frames, scaled and clipped in place. Throws std::runtime_error when they cannot be written.
+    /// Writes whole frames. Scales and clips them in place. Throws std::runtime_error on failure.
     void write(std::span<float> samples);
-    /// Throws std::runtime_error when what was written so far cannot be completed.
+    /// Completes the file. Throws std::runtime_error on failure.
     void finish();
 
 private:

@@ -1,4 +1,4 @@
-// The equalizer for sound files: the same filters as on the desktop's sound, not in real time.
+// The equalizer for sound files, with the same filters as for the desktop's sound.
 #include "desktop/render/Gains.h"
 #include "desktop/render/Options.h"
 #include "desktop/render/Rendering.h"

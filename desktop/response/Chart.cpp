@@ -37,7 +37,7 @@ struct Mark {
 constexpr std::array<Mark, 10> marks { { { 20, "20 Hz" }, { 50, "50" }, { 100, "100" }, { 200, "200" },
     { 500, "500" }, { 1000, "1k" }, { 2000, "2k" }, { 5000, "5k" }, { 10000, "10k" }, { 20000, "20 kHz" } } };
 
-// Of each curve.
+// The number of points of each curve.
 constexpr int points = 1500;
 
 double frequencyOf(int point)
@@ -53,7 +53,8 @@ QFont font(double pixels, QFont::Weight weight = QFont::Normal)
     return font;
 }
 
-// The cookbook's bells with the sliders' own gains and the Q that graphic equalizers of one octave have.
+// The bell filters of the Audio EQ Cookbook with the sliders' own gains and the usual Q of graphic equalizers
+// with bands one octave apart.
 audio::FilterTargets plainFilters(const audio::BandGains& sliders)
 {
     auto targets = audio::EqualizerDesign(rate).solve({}, 0);
@@ -161,7 +162,7 @@ private:
 
     void drawLabels()
     {
-        // Beside the curves, where they are farthest apart.
+        // Next to the curves, where they are farthest apart.
         double widest = lowest;
         for (int point = 0; point <= points; ++point) {
             if (distance(frequencyOf(point)) > distance(widest))
@@ -186,7 +187,7 @@ private:
     const audio::BandGains& _sliders;
     audio::FilterTargets _ours;
     audio::FilterTargets _plain;
-    // Of the plot, in dB.
+    // The lower limit of the plot, in dB.
     double _bottom = -6;
     double _top = 6;
 };

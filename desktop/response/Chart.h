@@ -1,4 +1,4 @@
-// What sliders do to each frequency, as a picture.
+// A picture of the frequency response.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -8,8 +8,8 @@
 
 namespace brimsound::desktop {
 
-/// The response to ten sliders, in dB: as it is, and as it would be if each slider's gain were that of one
-/// filter. At 48 kHz, drawn with `scale` device pixels a point.
+/// The response for ten sliders, in dB: the actual one, and the one if each slider's gain were used for one
+/// filter. At 48 kHz, drawn with `scale` device pixels per point.
 QImage responseChart(const QString& name, const audio::BandGains& sliders, double scale);
 
 } // namespace brimsound::desktop

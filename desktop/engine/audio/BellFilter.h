@@ -1,4 +1,4 @@
-// One band of the cascade.
+// One bell filter of the cascade, for one band.
 #pragma once
 
 #include <cmath>
@@ -6,20 +6,20 @@
 
 namespace brimsound::audio {
 
-/// A bell's coefficients: A. Simper, "Solving the continuous SVF equations using trapezoidal integration and
-/// equivalent currents", Cytomic, 2013. With t = tan(pi center / rate), A = 10^(gain / 40) and k = 1 / (Q A)
-/// his are
+/// The coefficients of a bell filter, after A. Simper, "Solving the continuous SVF equations using
+/// trapezoidal integration and equivalent currents", Cytomic, 2013. With t = tan(pi center / rate), A =
+/// 10^(gain / 40) and k = 1 / (Q A) his coefficients are
 ///     a1 = 1 / (1 + t (t + k)),   a2 = t a1,   a3 = t a2,   m1 = k (A^2 - 1)
-/// and the response is exactly that of the peaking filter in the W3C Audio EQ Cookbook. Any a1 between two
-/// good ones makes a stable filter too, so that coefficients may be interpolated.
+/// and the response equals that of the peaking filter in the W3C Audio EQ Cookbook. Coefficients may be
+/// interpolated: any a1 between two stable ones is stable too.
 ///
-/// `Number` is a double or a vector of them, one a channel.
+/// `Number` is a double or a vector of doubles, one per channel.
 template <typename Number> struct BellCoefficients {
     /// t
     Number tangent {};
     /// 2 a1
     Number feedback {};
-    /// m1 a1: 0 at 0 dB, so that samples pass unchanged, to the bit.
+    /// m1 a1. It is 0 at 0 dB, so that samples pass bit-identical.
     Number mix {};
     /// 1 + m1 a2
     Number through {};
@@ -35,14 +35,15 @@ inline BellCoefficients<double> bellCoefficients(double gain, double tangent, do
     return { .tangent = tangent, .feedback = 2 * a1, .mix = mix, .through = 1 + mix * tangent };
 }
 
-/// A bell's memory.
+/// The state of a bell filter.
 template <typename Number> struct BellFilter {
     Number s1 {};
     Number s2 {};
 
-    /// The next output. In Simper's terms:
+    /// Returns the next output sample. In Simper's notation:
     ///     v1 = a1 (s1 + t (x - s2)),   v2 = s2 + t v1,   s1 = 2 v1 - s1,   s2 = 2 v2 - s2,   y = x + m1 v1
-    /// The order is such that y waits for one product and one sum of x alone: the next bell waits for y.
+    /// The operations are ordered so that y needs only one product and one sum after x: the next bell waits
+    /// for y.
     Number next(Number x, const BellCoefficients<Number>& bell)
     {
         const Number rest = s1 - bell.tangent * s2;

@@ -18,7 +18,7 @@ constexpr int largestNumberOfRounds = 12;
 using Row = std::array<double, bandCount>;
 using Matrix = std::array<Row, bandCount>;
 
-// In octaves. The outermost bands have one neighbor, which counts for both.
+// In octaves. Each outermost band has one neighbor, which counts twice.
 double bandwidth(std::size_t band)
 {
     const double below = band > 0 ? centers[band] / centers[band - 1] : centers[1] / centers[0];
@@ -31,7 +31,7 @@ double bandwidth(std::size_t band)
 double inverseQ(std::size_t band, double rate)
 {
     const double angle = 2 * std::numbers::pi * centers[band] / rate;
-    // Just below half the rate a bell would become so wide that it covers every other band.
+    // Just below half the rate a bell would become wide enough to cover all other bands.
     constexpr double mostWidening = 2.5;
     const double widening = std::min(angle / std::sin(angle), mostWidening);
     return 2 * std::sinh(0.5 * std::numbers::ln2 * bandwidth(band) * widening);
@@ -42,7 +42,7 @@ double sliderGain(double gain)
     return std::isnan(gain) ? 0 : std::clamp(gain, -sliderLimit, sliderLimit);
 }
 
-// Solves matrix * x = right by elimination, with the largest pivot of each column. `right` becomes x.
+// Solves matrix * x = right by Gaussian elimination with column pivoting. The result is in `right`.
 void solveLinear(Matrix& matrix, Row& right, std::size_t size)
 {
     for (std::size_t column = 0; column < size; ++column) {

@@ -10,7 +10,7 @@ namespace brimsound::audio {
 
 namespace {
 
-// In seconds, of each of the two poles.
+// In seconds, for each of the two poles.
 constexpr double timeConstant = 0.01;
 // In samples.
 constexpr std::size_t stepLength = 16;
@@ -18,17 +18,18 @@ constexpr std::size_t stepLength = 16;
 constexpr float largestSample = 1e6f;
 constexpr double largestState = 1e12;
 
-// Null stands for silence.
+// Null means silence.
 float sampleAt(const float* samples, std::size_t frame)
 {
     if (!samples)
         return 0;
     const float sample = samples[frame];
-    // Written so that no comparison with NaN holds.
+    // The condition is false for NaN.
     return std::abs(sample) <= largestSample ? sample : 0;
 }
 
-// What was left alone keeps its bits: the sign of zero, and numbers that the arithmetic took for zero.
+// Unfiltered samples keep their bits, including the sign of zero and numbers that the arithmetic rounds to
+// zero.
 float outputFor(float input, double x, double y)
 {
     return y == x ? input : static_cast<float>(y);
@@ -36,7 +37,7 @@ float outputFor(float input, double x, double y)
 
 } // namespace
 
-/// The arrays of a pair. The second output is null when there is no second channel.
+/// The arrays of a pair of channels. The second output is null when there is no second channel.
 struct EqualizerProcessor::Channels {
     std::array<const float*, 2> in;
     std::array<float*, 2> out;
@@ -161,7 +162,7 @@ void EqualizerProcessor::process(
 void EqualizerProcessor::processStill(
     Cascade& cascade, const Channels& channels, std::size_t frames) const noexcept
 {
-    // Copies, which no output array can overlap.
+    // Copies, so that the compiler knows that no output array overlaps them.
     auto filters = cascade;
     const auto coefficients = _coefficients;
     for (std::size_t frame = 0; frame < frames; ++frame) {
@@ -207,7 +208,7 @@ void EqualizerProcessor::clearPoison() noexcept
     for (auto& cascade : _cascades) {
         for (auto& filter : cascade) {
             for (const int lane : { 0, 1 }) {
-                // Written so that NaN is cleared too.
+                // The condition is negated so that NaN is cleared too.
                 if (!(std::abs(filter.s1[lane]) < largestState && std::abs(filter.s2[lane]) < largestState))
                     filter.s1[lane] = filter.s2[lane] = 0;
             }

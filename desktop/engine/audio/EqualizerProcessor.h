@@ -1,4 +1,3 @@
-// The filters at work on a stream of samples.
 #pragma once
 
 #include "desktop/engine/audio/BellFilter.h"
@@ -13,33 +12,33 @@ namespace brimsound::audio {
 
 constexpr unsigned maximumChannels = 8;
 
-/// Ten bells and a preamp for up to eight channels of single-precision samples; inside it counts in double
+/// Applies ten bells and a preamp to up to eight channels of single-precision samples. Computes in double
 /// precision.
 ///
-/// Gains glide: each goes in dB through two one-pole low-passes of 10 ms, a step every 16 samples, and
-/// coefficients are interpolated between steps. A gain of 0 dB everywhere, once reached, passes samples to
-/// the bit. What comes out does not depend on how the stream is cut into blocks.
+/// Gains change smoothly: each passes, in dB, through two one-pole low-passes of 10 ms, with a step every 16
+/// samples. Coefficients are interpolated between steps. When all gains have reached 0 dB, samples pass
+/// bit-identical. The output does not depend on how the stream is divided into blocks.
 ///
-/// set, settle and process take neither memory nor locks, and belong on one thread.
+/// set, settle and process neither allocate nor lock. They must be called on one thread.
 class EqualizerProcessor {
 public:
     /// Passes samples unchanged until targets are set.
     EqualizerProcessor() noexcept;
 
-    /// From the next step on the gains glide to these. The first targets, and those for another rate, are
-    /// settled at once.
+    /// From the next step on, gains move to these targets. The first targets, and targets for another rate,
+    /// take effect at once.
     void set(const FilterTargets&) noexcept;
 
-    /// Jumps to the targets and forgets the sound so far: for a stream that begins, or begins again after a
+    /// Jumps to the targets and clears the filters' state. For a stream that starts, or resumes after a
     /// pause.
     void settle() noexcept;
 
-    /// Whether no gain is moving any more.
+    /// Whether all gains have reached their targets.
     bool isSettled() const noexcept { return _settled; }
 
     /// `in` and `out` point to `channels` (at most eight) arrays of `frames` samples. An input array may be
-    /// the output array of the same channel, and null stands for silence. Samples that are no number, or
-    /// beyond a million times full scale, count as 0.
+    /// the output array of the same channel; null means silence. Samples that are NaN or exceed a million
+    /// times full scale count as 0.
     void process(const float* const* in, float* const* out, unsigned channels, std::size_t frames) noexcept;
 
 private:
@@ -61,14 +60,14 @@ private:
     FilterTargets _targets;
     std::array<GainSmoother, bandCount> _gains;
     GainSmoother _preamp;
-    // What each pole covers of its distance in a step.
+    // The fraction of the remaining distance that each pole covers in a step.
     double _share = 1;
     bool _settled = true;
 
-    // Where the step began, and unless settled where it ends.
+    // At the start of the step and, unless settled, at its end.
     Coefficients _coefficients;
     Coefficients _end;
-    // How many samples of the step are done.
+    // The number of samples processed in the step.
     std::size_t _position = 0;
 
     std::array<Cascade, maximumChannels / 2> _cascades;

@@ -34,7 +34,7 @@ double responseAt(const FilterTargets& targets, double frequency)
     double power = 1;
     for (std::size_t band = 0; band < targets.bands; ++band) {
         const double x = detuning(frequency, targets.rate, targets.tangents[band]);
-        // A bell does nothing at 0 Hz and at half the rate.
+        // A bell has no effect at 0 Hz and at half the rate.
         if (std::isfinite(x))
             power *= bellResponse(x, amplitude(targets.gains[band]), targets.inverseQ[band]).power;
     }

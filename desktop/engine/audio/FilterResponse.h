@@ -1,23 +1,23 @@
-// What filters do to each frequency.
+// The frequency response of filters.
 #pragma once
 
 #include "desktop/engine/audio/FilterTargets.h"
 
 namespace brimsound::audio {
 
-/// What one bell filter does to a frequency.
+/// The effect of one bell filter at a frequency.
 struct BellResponse {
-    /// By how much it multiplies the power.
+    /// The factor for the power.
     double power = 1;
-    /// How the response in dB changes with the filter's gain, in dB per dB.
+    /// The derivative of the response in dB by the filter's gain, in dB per dB.
     double slope = 0;
 };
 
-/// How far a frequency is from a bell's center: (w - 1/w)^2 with w = tan(pi f / rate) / tan(pi center /
+/// The distance of a frequency from a bell's center: (w - 1/w)^2 with w = tan(pi f / rate) / tan(pi center /
 /// rate). 0 at the center, infinite at 0 Hz.
 double detuning(double frequency, double rate, double centerTangent);
 
-/// The factor that a gain in dB stands for: G = 10^(gain / 20).
+/// The factor for a gain in dB: G = 10^(gain / 20).
 double amplitude(double gain);
 
 /// The response of a bell of gain G at a detuning x:
@@ -30,8 +30,8 @@ BellResponse bellResponse(double detuning, double amplitude, double inverseQ);
 double responseAt(const FilterTargets&, double frequency);
 
 /// The highest gain in dB at the centers and at 200 frequencies between them, evenly spaced on a logarithmic
-/// scale from 20 Hz to 20 kHz or half the rate. Without the preamp: the headroom that is left is -(preamp +
-/// maximum).
+/// scale from 20 Hz to 20 kHz or half the rate. Does not include the preamp: the remaining headroom is
+/// -(preamp + maximum).
 double maximumResponse(const FilterTargets&);
 
 } // namespace brimsound::audio

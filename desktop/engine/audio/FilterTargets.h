@@ -1,4 +1,3 @@
-// What the filters are to become.
 #pragma once
 
 #include "desktop/engine/audio/Bands.h"
@@ -7,16 +6,16 @@
 
 namespace brimsound::audio {
 
-/// The numbers that a cascade of bell filters and a preamp are made of. A plain value, so that it can be
-/// handed from one thread to another as bytes. The default is a flat response at no rate.
+/// The target parameters of a cascade of bell filters and a preamp. A plain value that can be copied between
+/// threads as bytes. The default is a flat response without a rate.
 struct FilterTargets {
     /// Sampling rate in Hz.
     double rate = 0;
-    /// How many bands lie below half the rate. These are the first ones; the others have no filter.
+    /// The number of bands below half the rate. They are the first ones; the others have no filter.
     std::size_t bands = 0;
-    /// The gain of each filter in dB. Neighbors overlap, so this is not the slider's position.
+    /// The gain of each filter in dB. Neighbors overlap, so it differs from the slider's position.
     BandGains gains {};
-    /// In dB, for all frequencies alike.
+    /// In dB, for all frequencies.
     double preamp = 0;
     /// tan(pi * center / rate) of each band.
     std::array<double, bandCount> tangents {};

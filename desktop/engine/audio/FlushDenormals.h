@@ -1,4 +1,3 @@
-// Arithmetic without subnormal numbers.
 #pragma once
 
 #include <cstdint>
@@ -9,9 +8,9 @@
 
 namespace brimsound::audio {
 
-/// While one of these lives, numbers too small for full precision count as zero on this thread. Filters that
-/// ring out into silence end in such numbers, and a processor may take a hundred times as long for each. The
-/// thread's own mode is put back at the end. Does nothing on processors other than x86-64 and AArch64.
+/// While such an object exists, subnormal numbers count as zero on this thread. The state of filters decays
+/// to such numbers in silence, and a processor may need a hundred times as long for each. The destructor
+/// restores the thread's mode. Does nothing on processors other than x86-64 and AArch64.
 class FlushDenormals {
 public:
     FlushDenormals()

@@ -1,12 +1,11 @@
-// A gain that moves without steps.
 #pragma once
 
 #include <cmath>
 
 namespace brimsound::audio {
 
-/// Follows a target in dB through two one-pole low-passes, one after the other. Two, because the slope then
-/// starts at zero: no corner is heard when the target jumps.
+/// A gain that follows its target, in dB, through two one-pole low-passes in series. With two, the slope
+/// starts at zero, so that a jump of the target is not heard as a click.
 class GainSmoother {
 public:
     /// In dB.
@@ -15,11 +14,11 @@ public:
 
     void jumpTo(double target) { _first = _second = target; }
 
-    /// One step toward the target; `share` is what each pole covers of its distance, 1 - exp(-step / time
-    /// constant). Ends on the target exactly.
+    /// One step toward the target. `share` is the fraction of the remaining distance that each pole covers: 1
+    /// - exp(-step / time constant). Reaches the target exactly.
     void stepToward(double target, double share)
     {
-        // A ten-thousandth of a dB is beyond hearing.
+        // A ten-thousandth of a dB is inaudible.
         constexpr double near = 1e-4;
         _first += share * (target - _first);
         _second += share * (_first - _second);

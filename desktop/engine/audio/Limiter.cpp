@@ -12,7 +12,7 @@ namespace {
 constexpr double releaseTime = 0.2;
 // -0.1 dBFS.
 constexpr double ceiling = 0.98855309465693886;
-// The last step of the release, 100 dB below the signal.
+// The release ends when the remaining change is 100 dB below the signal.
 constexpr double nearOne = 1e-5;
 
 } // namespace

@@ -1,9 +1,8 @@
-// Two channels side by side.
 #pragma once
 
 namespace brimsound::audio {
 
-/// Two numbers that are computed with at once: arithmetic on pairs is by element.
+/// Two numbers that are processed in parallel: arithmetic on pairs is by element.
 using Pair [[gnu::vector_size(16)]] = double;
 
 /// The same number twice.

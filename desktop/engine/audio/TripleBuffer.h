@@ -1,4 +1,4 @@
-// Handing a value from one thread to another without either waiting.
+// Passing values between threads without waiting.
 #pragma once
 
 #include <array>
@@ -8,9 +8,9 @@
 
 namespace brimsound::audio {
 
-/// Carries the newest value from one writing thread to one reading thread. Both sides finish in a bounded
-/// number of steps, whatever the other one does. Values that were not read in time are dropped. There are
-/// three slots: the writer owns one, the reader owns one, and they exchange theirs for the third.
+/// Passes the newest value from one writing thread to one reading thread. Both functions are wait-free.
+/// Values that are not read in time are dropped. There are three slots: the writer owns one, the reader owns
+/// one, and each exchanges its own for the third.
 template <typename Value> class TripleBuffer {
     static_assert(std::is_trivially_copyable_v<Value>);
     static_assert(std::atomic<std::uint32_t>::is_always_lock_free);
@@ -23,8 +23,8 @@ public:
         _writing = _shared.exchange(_writing | fresh, std::memory_order_acq_rel) & index;
     }
 
-    /// Reader's side only: the newest value when one was written since the last call, else null. It stays
-    /// valid and unchanged until the next call.
+    /// Reader's side only. Returns the newest value if one was written since the last call, otherwise null.
+    /// It stays valid and unchanged until the next call.
     const Value* read() noexcept
     {
         if (!(_shared.load(std::memory_order_relaxed) & fresh))
@@ -38,9 +38,9 @@ private:
     static constexpr std::uint32_t fresh = 4;
 
     std::array<Value, 3> _slots {};
-    // The slot that nobody owns, and whether it holds something new.
+    // The slot without an owner, and whether it holds a new value.
     std::atomic<std::uint32_t> _shared = 1;
-    // Apart from one another, so that the threads do not share a cache line.
+    // On separate cache lines, because the threads would otherwise slow each other down.
     alignas(64) std::uint32_t _writing = 0;
     alignas(64) std::uint32_t _reading = 2;
 };

@@ -1,4 +1,4 @@
-// The engine of a build without a sound server to talk to.
+// The engine of a build without PipeWire.
 #include "desktop/engine/SoundEngine.h"
 
 #include <utility>

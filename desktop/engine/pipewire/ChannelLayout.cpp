@@ -13,7 +13,7 @@ namespace brimsound::engine {
 
 namespace {
 
-/// "FL" of "Spa:Enum:AudioChannel:FL".
+/// Returns "FL" for "Spa:Enum:AudioChannel:FL".
 std::string_view shortName(const char* name)
 {
     const std::string_view whole(name);

@@ -1,4 +1,4 @@
-// The session manager's metadata "default": targets of streams, and the default sink.
+// The session manager's metadata "default": the targets of streams, and the default sink.
 #pragma once
 
 #include "desktop/engine/pipewire/Pointers.h"
@@ -10,12 +10,12 @@
 
 namespace brimsound::engine {
 
-/// Tells a StreamRouting all that the metadata holds and every change of it, and writes to it. It belongs to
-/// the session manager, and goes when that goes.
+/// Reports the contents of the metadata and all changes to a StreamRouting, and writes changes to it. The
+/// metadata belongs to the session manager and disappears with it.
 class DefaultMetadata {
 public:
-    /// Takes over the proxy of an object of type PW_TYPE_INTERFACE_Metadata. The routing outlives this object
-    /// and is told when it goes.
+    /// Takes ownership of the proxy of a PW_TYPE_INTERFACE_Metadata object. The routing must outlive this
+    /// object; the destructor notifies it.
     DefaultMetadata(Proxy, StreamRouting&);
     DefaultMetadata(const DefaultMetadata&) = delete;
     DefaultMetadata& operator=(const DefaultMetadata&) = delete;

@@ -1,4 +1,4 @@
-// The nodes of the graph, and what the equalizer's output plays to.
+// The nodes of the graph, and the device that the equalizer plays to.
 #pragma once
 
 #include <cstdint>
@@ -12,13 +12,13 @@ namespace brimsound::engine {
 /// Channel names in their order, such as { "FL", "FR" }.
 using ChannelNames = std::vector<std::string>;
 
-/// Remembers what the registry tells. Properties are those of the registry, such as "node.name"; what is
-/// neither a node, nor a port, nor a link is not remembered.
+/// Keeps track of the nodes, ports and links in the registry; other objects are ignored. Properties are those
+/// of the registry, such as "node.name".
 class DeviceGraph {
 public:
     struct Device {
         std::string name;
-        /// The channels that it is linked by.
+        /// The channels by which the node is linked.
         ChannelNames channels;
     };
 
@@ -35,8 +35,8 @@ public:
     std::optional<Device> sinkNamed(const std::string& name) const;
     /// The registry's serial number of a node; empty when there is no such node.
     std::string serialOf(std::uint32_t node) const;
-    /// Whether another client has had a sink of that name for longer than this one, which has none when its
-    /// serial number is empty.
+    /// Whether another client has a sink of that name that is older than this client's. This client has none
+    /// when its serial number is empty.
     bool hasOlderSink(const std::string& name, std::uint32_t client, const std::string& serial) const;
 
 private:

@@ -1,4 +1,4 @@
-// Properties as PipeWire hands them over.
+// Conversion of PipeWire's properties.
 #pragma once
 
 #include <spa/utils/dict.h>
@@ -8,7 +8,7 @@
 
 namespace brimsound::engine {
 
-/// Null makes an empty map.
+/// Null gives an empty map.
 inline std::map<std::string, std::string> toMap(const spa_dict* dictionary)
 {
     std::map<std::string, std::string> map;

@@ -20,18 +20,18 @@ namespace brimsound::engine {
 
 namespace {
 
-/// The sink's part of a cycle ends before the output's does. Without this flag later versions hand out every
-/// second buffer only; earlier ones have no need of it and do not know it.
+/// The sink's part of a cycle ends before the output's does. Without this flag, later versions of PipeWire
+/// skip every second buffer; earlier ones do not know the flag and do not need it.
 constexpr unsigned asyncFlag = 1U << 10;
 
-/// The session manager has restored volumes by then, and no user has got hold of one yet.
+/// By this time the session manager has restored volumes, but no user has changed one yet.
 constexpr auto restoreTime = std::chrono::seconds(3);
 
 constexpr unsigned commonFlags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
 
 pw_properties* commonProperties(const char* name, const char* description, const char* mediaClass)
 {
-    // Volume and target are not to be kept from one run to the next.
+    // The session manager should not restore the volume and target at the next start.
     return pw_properties_new(PW_KEY_NODE_NAME, name, PW_KEY_NODE_DESCRIPTION, description, PW_KEY_MEDIA_CLASS,
         mediaClass, PW_KEY_NODE_GROUP, groupName, PW_KEY_NODE_LINK_GROUP, groupName, "state.restore-props",
         "false", "state.restore-target", "false", nullptr);
@@ -51,7 +51,7 @@ pw_properties* outputProperties()
     return properties;
 }
 
-/// What a volume or a mute is when nobody has touched it; nothing for other controls.
+/// The default value of a volume or mute control; nothing for other controls.
 std::optional<float> usualValue(std::uint32_t control)
 {
     switch (control) {
@@ -65,7 +65,7 @@ std::optional<float> usualValue(std::uint32_t control)
     }
 }
 
-/// The newest buffer that has come in; older ones go back.
+/// The newest available buffer; older ones are returned to the stream.
 pw_buffer* newestBuffer(pw_stream* stream)
 {
     pw_buffer* newest = nullptr;
@@ -90,7 +90,7 @@ public:
     Turn& operator=(const Turn&) = delete;
     ~Turn() { --_sink._turns; }
 
-    // Counted before: either the end is seen here, or the turn is seen by the end.
+    // The turn is counted first: either it sees here that the end has begun, or the end sees and awaits it.
     bool mayPlay() const { return _sink._mayPlay; }
 
 private:
@@ -120,7 +120,7 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
     open(_input, core, "Brimsound", sinkProperties());
     _output.other = &_input;
     _input.other = &_output;
-    // The output comes first: when sound arrives there is somewhere to take it.
+    // The output is connected first, so that it is ready when sound arrives.
     connect(_output, PW_DIRECTION_OUTPUT, PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_TRIGGER, outputEvents);
     connect(_input, PW_DIRECTION_INPUT, asyncFlag, inputEvents);
 }
@@ -128,7 +128,7 @@ EqualizedSink::EqualizedSink(pw_core* core, ChannelLayout layout, const Settings
 EqualizedSink::~EqualizedSink()
 {
     stopPlaying();
-    // From here on the playing thread calls neither, and their listeners may go.
+    // From here on the audio thread calls neither stream, so their listeners can be removed.
     for (const auto* side : { &_input, &_output }) {
         if (side->stream)
             pw_stream_disconnect(side->stream.get());
@@ -164,8 +164,8 @@ void EqualizedSink::connect(
 
 void EqualizedSink::stopPlaying()
 {
-    // PipeWire waits for the playing thread to leave a stream that changes, but a turn of one stream uses the
-    // other one as well.
+    // PipeWire waits for the audio thread to leave a stream that changes, but a turn of one stream also uses
+    // the other stream.
     _mayPlay = false;
     while (_turns != 0)
         std::this_thread::yield();
@@ -189,7 +189,7 @@ void EqualizedSink::inputProcess(void* side)
     const Turn turn(*input.owner);
     if (turn.mayPlay() && pw_stream_trigger_process(input.other->stream.get()) >= 0)
         return;
-    // There is no device, or it is not ready. The buffers go back, so that programs play on.
+    // There is no device, or it is not ready. The buffers are returned, so that programs keep playing.
     if (auto* buffer = newestBuffer(input.stream.get()))
         pw_stream_queue_buffer(input.stream.get(), buffer);
 }
@@ -254,7 +254,7 @@ void EqualizedSink::parameterChanged(void* side, std::uint32_t id, const spa_pod
         self._changes.rate(format.rate);
         self.design();
     } else if (id == SPA_PARAM_Latency) {
-        // What lies behind one side is what programs at the other side have to reckon with.
+        // The latency behind one stream is reported to the programs at the other stream.
         pw_stream_update_params(changed.other->stream.get(), &parameter, 1);
     }
 }
@@ -268,7 +268,7 @@ void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state no
         changed.hasPlayed = true;
     if (&changed != &self._output)
         return;
-    // To trigger an output that is still being made ready ends in a converter that PipeWire has not finished.
+    // Triggering an output before it is ready fails in a converter that PipeWire has not set up yet.
     if (plays)
         self._mayPlay = true;
     else
@@ -277,8 +277,8 @@ void EqualizedSink::stateChanged(void* side, pw_stream_state, pw_stream_state no
 
 void EqualizedSink::controlInfo(void* side, std::uint32_t id, const pw_stream_control* control)
 {
-    // Some session managers give a new node the volume of an earlier run. What a mixer does to it later is
-    // the user's wish.
+    // Some session managers restore the volume of an earlier run on a new node. Later changes are made by the
+    // user and are kept.
     auto& changed = *static_cast<Side*>(side);
     if (changed.hasPlayed && std::chrono::steady_clock::now() > changed.owner->_made + restoreTime)
         return;

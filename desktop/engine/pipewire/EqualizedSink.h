@@ -15,35 +15,35 @@
 
 namespace brimsound::engine {
 
-/// Two streams of one program, an Audio/Sink and a Stream/Output/Audio, that PipeWire runs within one cycle:
-/// the sound is not delayed by a sample. The output follows the default device, and lets it sleep.
+/// Two streams, an Audio/Sink and a Stream/Output/Audio, that PipeWire runs within one cycle, so that the
+/// sound is not delayed. The output follows the default device and lets it suspend.
 class EqualizedSink {
 public:
     /// Called on the loop's thread.
     struct Changes {
-        /// The rate in Hz, whenever sound of another rate is going to come.
+        /// The new sampling rate in Hz, called before sound of that rate arrives.
         std::function<void(unsigned)> rate;
         std::function<void(double)> headroom;
     };
 
-    /// Throws std::runtime_error when PipeWire does not take the streams.
+    /// Throws std::runtime_error when PipeWire rejects the streams.
     EqualizedSink(pw_core*, ChannelLayout, const Settings&, Changes);
     EqualizedSink(const EqualizedSink&) = delete;
     EqualizedSink& operator=(const EqualizedSink&) = delete;
     ~EqualizedSink();
 
-    /// The nodes' numbers in the graph; SPA_ID_INVALID until they have one.
+    /// The nodes' ids in the graph; SPA_ID_INVALID until they are assigned.
     std::uint32_t sinkNode() const { return pw_stream_get_node_id(_input.stream.get()); }
     std::uint32_t outputNode() const { return pw_stream_get_node_id(_output.stream.get()); }
     const ChannelLayout& layout() const { return _layout; }
-    /// 0 until there was sound to come.
+    /// 0 until the first sound is expected.
     unsigned rate() const { return _rate; }
     std::uint64_t limitedBlocks() const { return _chain.limitedBlocks(); }
 
     void set(const Settings&);
-    /// Undoes what the session manager restored. Not from within PipeWire's own calls.
+    /// Resets the controls that the session manager restored. Must not be called from PipeWire's callbacks.
     void resetControls();
-    /// From now on there is silence.
+    /// Plays silence from now on.
     void mute() { _chain.mute(); }
 
 private:
@@ -53,11 +53,12 @@ private:
         Hook listener;
         Side* other = nullptr;
         bool hasPlayed = false;
-        /// Volumes and mutes that were restored, and how many values each has.
+        /// The restored volume and mute controls, with the number of values of each.
         std::map<std::uint32_t, std::uint32_t> restored;
     };
 
-    /// While one lives on the playing thread, and says that it may, the streams are there.
+    /// Held by the audio thread during a cycle. The streams exist while a turn exists and its mayPlay() is
+    /// true.
     class Turn;
 
     void open(Side&, pw_core*, const char* name, pw_properties*);

@@ -1,4 +1,3 @@
-// A call at a later time.
 #pragma once
 
 #include <systemd/sd-event.h>
@@ -9,7 +8,7 @@
 
 namespace brimsound::engine {
 
-/// Calls a function on an sd-event loop, once each time it is started.
+/// A timer on an sd-event loop. Calls a function once after each start.
 class EventTimer {
 public:
     EventTimer(sd_event*, std::function<void()>);
@@ -17,7 +16,7 @@ public:
     EventTimer& operator=(const EventTimer&) = delete;
     ~EventTimer();
 
-    /// Takes the place of a start before.
+    /// Replaces an earlier start.
     void start(std::chrono::milliseconds delay);
     void stop();
 

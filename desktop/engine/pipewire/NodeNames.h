@@ -1,11 +1,11 @@
-// What the equalizer's two nodes are called.
+// The names of the equalizer's two nodes.
 #pragma once
 
 namespace brimsound::engine {
 
 inline constexpr auto sinkName = "brimsound";
 inline constexpr auto outputName = "brimsound.output";
-/// Nodes of one link group are never linked to each other, whatever they are told to play to.
+/// The session manager never links nodes of the same link group to each other.
 inline constexpr auto groupName = "brimsound";
 
 } // namespace brimsound::engine

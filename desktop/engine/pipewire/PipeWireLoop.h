@@ -1,4 +1,3 @@
-// PipeWire's events within the program's own event loop.
 #pragma once
 
 #include <pipewire/pipewire.h>
@@ -9,19 +8,19 @@
 
 namespace brimsound::engine {
 
-/// Serves PipeWire on the thread of an sd-event loop, so that all control has one thread. Sound has a thread
-/// of PipeWire's own.
+/// Handles PipeWire's events on the thread of an sd-event loop, so that all control is on one thread.
+/// PipeWire processes sound on its own thread.
 class PipeWireLoop {
 public:
-    /// `afterEvents` is called whenever events were served, outside all of PipeWire's own calls: there
-    /// anything may be destroyed. Throws std::runtime_error when there is no loop to be had.
+    /// `afterEvents` is called each time after events were handled, outside PipeWire's callbacks, where any
+    /// object may be destroyed. Throws std::runtime_error when PipeWire's loop cannot be created.
     PipeWireLoop(sd_event*, std::function<void()> afterEvents);
     PipeWireLoop(const PipeWireLoop&) = delete;
     PipeWireLoop& operator=(const PipeWireLoop&) = delete;
     ~PipeWireLoop();
 
     pw_loop* get() const { return _loop; }
-    /// Serves what arrives within that time, without calling `afterEvents`.
+    /// Handles events for at most that time, without calling `afterEvents`.
     void iterate(int milliseconds);
 
 private:

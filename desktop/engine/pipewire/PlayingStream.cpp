@@ -55,7 +55,7 @@ void PlayingStream::done(void* self, std::uint32_t, int sequence)
     auto& stream = *static_cast<PlayingStream*>(self);
     if (sequence != stream._sync || stream._hasFormats)
         return;
-    // The properties came before the answer.
+    // The properties were received before this reply.
     stream._hasFormats = true;
     stream._properties.encoded = stream._offersEncoded && !stream._offersRaw;
     stream.tell();

@@ -1,4 +1,3 @@
-// A program's stream, looked at closely.
 #pragma once
 
 #include "desktop/engine/pipewire/Pointers.h"
@@ -8,12 +7,13 @@
 
 namespace brimsound::engine {
 
-/// Finds out what the registry does not tell about a stream: all its properties, and whether it can do
-/// without encoding. The session manager links a stream when it knows as much, so this must not take longer.
+/// Queries what the registry does not contain about a program's stream: all its properties, and whether it
+/// supports sound that is not encoded. The session manager links a stream once it knows this, so the queries
+/// must not take longer.
 class PlayingStream {
 public:
-    /// Takes over the proxy of a node. `changed` is told what is known once that is enough to decide by, and
-    /// again when it changed.
+    /// Takes ownership of the proxy of a node. Calls `changed` once enough is known to route the stream, and
+    /// again after each change.
     PlayingStream(Proxy, pw_core*, std::function<void(const StreamProperties&)> changed);
     PlayingStream(const PlayingStream&) = delete;
     PlayingStream& operator=(const PlayingStream&) = delete;

@@ -20,7 +20,7 @@ using Core = std::unique_ptr<pw_core, PipeWireDestroy>;
 using Stream = std::unique_ptr<pw_stream, PipeWireDestroy>;
 using Proxy = std::unique_ptr<pw_proxy, PipeWireDestroy>;
 
-/// A listener's place in the list of what it listens to. Destroy it before that.
+/// A listener's entry in the list of its object. Must be destroyed before the object.
 struct Hook : spa_hook {
     Hook()
         : spa_hook {}

@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto limitedInterval = 1s;
-/// How long the session manager gets to link the output to the device.
+/// How long to wait for the session manager to link the output to the device.
 constexpr auto linkPatience = 2s;
 constexpr auto releasePatience = 500ms;
 
@@ -84,7 +84,7 @@ void Session::coreDone(void* self, std::uint32_t id, int sequence)
 
 void Session::coreError(void* self, std::uint32_t id, int, int result, const char*)
 {
-    // Others concern single objects: a stream without a device to play to, or one that ended meanwhile.
+    // Other errors concern single objects, for example a stream without a device, or one that has ended.
     if (id == PW_ID_CORE && result == -EPIPE)
         static_cast<Session*>(self)->_lost = true;
 }
@@ -154,7 +154,8 @@ void Session::update()
         if (sink)
             sink->resetControls();
     }
-    // A sink takes the other one's place only when programs can be moved to it: none plays past it.
+    // The new sink replaces the old one only when programs can be moved to it, so that none plays without
+    // equalizing.
     if (_nextSink && !_graph.serialOf(_nextSink->sinkNode()).empty()
         && _graph.deviceOf(_nextSink->outputNode())) {
         _limitedBefore += _sink->limitedBlocks();
@@ -166,7 +167,7 @@ void Session::update()
     std::optional<StreamRouting::OwnNodes> own;
     if (_sink) {
         auto serial = _graph.serialOf(_sink->sinkNode());
-        // The output is made before the sink, so it is in the graph as well.
+        // The output is created before the sink, so it is in the graph as well.
         if (!serial.empty())
             own = { _sink->sinkNode(), std::move(serial), _sink->outputNode() };
     }
@@ -207,7 +208,7 @@ void Session::fitSink()
     }
     if (layout == (_nextSink ? _nextSink->layout() : _sink->layout()))
         return;
-    // To mix many channels into few may make them louder than they were.
+    // Downmixing can make the sound louder.
     if (layout.size() < _sink->layout().size())
         _sink->mute();
     makeSink(layout);

@@ -1,4 +1,4 @@
-// The equalizer at work on one connection to PipeWire.
+// The equalizer's work on one connection to PipeWire.
 #pragma once
 
 #include "desktop/engine/SoundEngine.h"
@@ -17,24 +17,24 @@
 
 namespace brimsound::engine {
 
-/// Watches the graph, keeps the sink fitting to the device, and has streams moved. PipeWire's events are only
-/// noted; what follows from them is done in `update`.
+/// Watches the graph, adapts the sink to the device, and moves streams. PipeWire's callbacks only record
+/// changes; `update` acts on them.
 class Session {
 public:
-    /// Takes over a connection that was just made; the rest outlives this object. Throws std::runtime_error
-    /// when PipeWire does not take part.
+    /// Takes ownership of a new connection; the other arguments must outlive this object. Throws
+    /// std::runtime_error when PipeWire refuses.
     Session(Core, sd_event*, PipeWireLoop&, const Settings&, const Reports&);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
     void set(const Settings&);
-    /// Does what the events since the last call make necessary. Not from within PipeWire's own calls.
+    /// Acts on the changes since the last call. Must not be called from PipeWire's callbacks.
     void update();
-    /// Whether PipeWire has answered.
+    /// Whether PipeWire has replied.
     bool works() const { return _answered >= 0; }
-    /// Whether the connection is of no use any more.
+    /// Whether the connection was lost.
     bool lost() const { return _lost; }
-    /// Gives every stream back that was moved, and waits at most half a second until PipeWire knows.
+    /// Moves all streams back, and waits for PipeWire to confirm for at most half a second.
     void release();
 
 private:
@@ -68,24 +68,24 @@ private:
     std::unique_ptr<DefaultMetadata> _metadata;
     std::uint32_t _metadataId = SPA_ID_INVALID;
     std::unique_ptr<EqualizedSink> _sink;
-    /// Takes the place of `_sink` once the graph knows it.
+    /// Replaces `_sink` once it appears in the graph.
     std::unique_ptr<EqualizedSink> _nextSink;
-    /// A session manager that came back may not care for streams that were there before.
+    /// A restarted session manager may not link streams that existed before.
     bool _mayStayUnlinked = false;
     bool _yields = false;
     bool _lost = false;
 
-    // The number of the last question to PipeWire, and of the last one answered: when they are the same,
-    // everything that was there at the time of the question is known.
+    // The numbers of the last request to PipeWire and of the last reply. When they are equal, everything that
+    // existed at the time of the request is known.
     int _asked = 0;
     int _answered = -1;
-    /// The question whose answer means that the metadata has told all it held.
+    /// The request whose reply marks the end of the metadata's initial contents.
     std::optional<int> _metadataAsked;
 
     std::string _reportedOutput;
     unsigned _reportedRate = 0;
     std::optional<double> _reportedHeadroom;
-    /// By sinks that were replaced.
+    /// The count of earlier sinks.
     std::uint64_t _limitedBefore = 0;
     std::uint64_t _reportedLimited = 0;
     EventTimer _limitedTimer;

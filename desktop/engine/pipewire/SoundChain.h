@@ -1,4 +1,4 @@
-// What happens to each block of sound.
+// The processing of each block of sound.
 #pragma once
 
 #include "desktop/engine/SoundEngine.h"
@@ -12,20 +12,20 @@
 
 namespace brimsound::engine {
 
-/// The equalizer and then the limiter. One thread plays blocks, another one changes what is done to them;
+/// The equalizer followed by the limiter. One thread processes blocks and another changes the settings;
 /// neither waits for the other.
 class SoundChain {
 public:
-    /// For the controlling thread: designs the filters for a sampling rate in Hz and hands them over. The
-    /// first ones apply from the first sample on, later ones take over without a click. Returns the preamp
-    /// plus the response's maximum, in dB.
+    /// For the controlling thread. Designs the filters for a sampling rate in Hz and passes them to the audio
+    /// thread. The first ones apply from the first sample on, later ones take effect without a click. Returns
+    /// the preamp plus the response's maximum, in dB.
     double set(const Settings&, double rate);
-    /// For the controlling thread: from now on play silence.
+    /// For the controlling thread. Plays silence from now on.
     void mute() { _muted.store(true, std::memory_order_relaxed); }
-    /// For the controlling thread: how many blocks were limited so far.
+    /// For the controlling thread. The number of blocks limited so far.
     std::uint64_t limitedBlocks() const { return _limitedBlocks.load(std::memory_order_relaxed); }
 
-    /// For the playing thread; see EqualizerProcessor. Silence until filters were handed over.
+    /// For the audio thread; see EqualizerProcessor. Silence until the first filters are set.
     void process(const float* const* in, float* const* out, unsigned channels, std::size_t frames) noexcept;
 
 private:
@@ -38,7 +38,7 @@ private:
     std::atomic<bool> _muted = false;
     std::atomic<std::uint64_t> _limitedBlocks = 0;
 
-    // The playing thread's own.
+    // Used by the audio thread only.
     audio::EqualizerProcessor _equalizer;
     audio::Limiter _limiter { 48000 };
     double _rate = 0;

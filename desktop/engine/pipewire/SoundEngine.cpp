@@ -20,8 +20,8 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds firstPause = 100ms;
 constexpr std::chrono::milliseconds longestPause = 5s;
 
-/// Whether the library's own configuration gives the playing thread real-time priority; before, only another
-/// file did, which later versions do not have.
+/// Whether the library's default configuration gives the audio thread real-time priority. In earlier
+/// versions only a separate file does, which later versions do not have.
 bool isRealtimeByDefault()
 {
     const std::string version = pw_get_library_version();

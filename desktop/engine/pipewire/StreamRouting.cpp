@@ -13,7 +13,7 @@ constexpr auto targetObject = "target.object";
 constexpr auto targetNode = "target.node";
 constexpr auto stringType = "Spa:String";
 constexpr auto idType = "Spa:Id";
-/// The target that means "wherever the default goes".
+/// The target that stands for the default device.
 constexpr auto followsDefault = "-1";
 
 bool mayBeMoved(const StreamProperties& stream)
@@ -44,7 +44,7 @@ void StreamRouting::streamChanged(std::uint32_t id, const StreamProperties& prop
 void StreamRouting::streamRemoved(std::uint32_t id)
 {
     _streams.erase(id);
-    // The session manager forgets them without a word, and the number may be another stream's soon.
+    // The session manager deletes a stream's keys without an event, and the id may be reused soon.
     _targets.erase(id);
 }
 
@@ -84,12 +84,12 @@ bool StreamRouting::isEqualizer(const std::string& target) const
 
 StreamRouting::Wish StreamRouting::wishOf(const Targets& targets) const
 {
-    // The session manager notes -1 here by itself; it says nothing.
+    // The session manager itself sets this key to -1, which has no meaning.
     const bool hasNode = targets.node && *targets.node != followsDefault;
     const bool nodeIsEqualizer = hasNode && _own && *targets.node == std::to_string(_own->sink);
     if (targets.object && !isEqualizer(*targets.object))
         return Wish::Elsewhere;
-    // The session manager restores what a user chose at another time by this key alone.
+    // The session manager restores the user's choice with this key alone.
     if (hasNode && !nodeIsEqualizer)
         return Wish::RestoredElsewhere;
     return targets.object || nodeIsEqualizer ? Wish::Equalizer : Wish::None;
@@ -110,8 +110,8 @@ void StreamRouting::route(std::uint32_t stream)
     case Wish::Elsewhere:
         return;
     case Wish::RestoredElsewhere:
-        // The stream was moved before its own target was restored. Deleting a key makes the session manager
-        // forget what it stored, and so the restored one is written once more.
+        // The stream was moved before its own target was restored. Deleting a key also deletes what the
+        // session manager stored, so the restored target is written again.
         if (targets.object) {
             write(stream, targetObject, "", std::nullopt);
             write(stream, targetNode, "", std::nullopt);
@@ -120,7 +120,7 @@ void StreamRouting::route(std::uint32_t stream)
         return;
     case Wish::None:
     case Wish::Equalizer:
-        // By name, as the name outlives this sink.
+        // By name, because the name stays valid when this sink is replaced.
         if (targets.node && *targets.node != followsDefault)
             write(stream, targetNode, "", std::nullopt);
         if (targets.object != sinkName)
@@ -135,11 +135,12 @@ void StreamRouting::routeOutput()
     const auto found = _targets.find(output);
     const auto targets = found == _targets.end() ? Targets {} : found->second;
 
-    // A target of an earlier run, which some session managers restore for every stream.
+    // A target from an earlier run, which some session managers restore for every stream.
     if (targets.node && !targets.object)
         write(output, targetNode, "", std::nullopt);
 
-    // The equalizer cannot play to itself. Without this it would go to the device of the highest priority.
+    // The equalizer cannot play to itself. Without a target it would play to the device with the highest
+    // priority.
     const bool isDefault = _defaultSink == sinkName;
     if (isDefault && !targets.object && !_lastDevice.empty()) {
         write(output, targetObject, stringType, _lastDevice);
@@ -165,7 +166,7 @@ std::vector<MetadataWrite> StreamRouting::takeWrites()
 
 std::vector<MetadataWrite> StreamRouting::release()
 {
-    // Without a sink of its own it moved nothing: those are another equalizer's.
+    // Without a sink this equalizer has moved nothing: the targets are another equalizer's.
     if (_own) {
         for (const auto& [id, properties] : _streams) {
             const auto found = _targets.find(id);

@@ -1,4 +1,4 @@
-// Which streams play through the equalizer.
+// The decision which streams play through the equalizer.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace brimsound::engine {
 
-/// One change of the session manager's metadata "default"; without a value the key is deleted.
+/// A change of the session manager's metadata "default". Without a value the key is deleted.
 struct MetadataWrite {
     std::uint32_t subject = 0;
     std::string key;
@@ -19,23 +19,23 @@ struct MetadataWrite {
     bool operator==(const MetadataWrite&) const = default;
 };
 
-/// What a stream says of itself.
+/// The properties of a stream.
 struct StreamProperties {
     /// Properties of the node, such as "media.class".
     std::map<std::string, std::string> values;
-    /// Whether it offers encoded formats alone, which only a device can take.
+    /// Whether it only offers encoded formats, which only a device can play.
     bool encoded = false;
 };
 
-/// Decides where streams go. Events come in, changes of the metadata come out; nothing is done here.
+/// Decides where streams play. Receives events and returns changes of the metadata; it performs none itself.
 ///
-/// Streams are moved, the default is not: programs that play get the target "brimsound", and the equalizer's
-/// own output follows the default device by itself. A stream is left alone when its program asked for a
-/// device, when it is part of a filter, when it carries encoded sound, and while the user has it somewhere
-/// else. Moved back to "brimsound" by the user, it is treated as before.
+/// Streams are moved; the default device is not changed. Streams that play get the target "brimsound", and
+/// the equalizer's output follows the default device. A stream is not moved when its program asked for a
+/// device, when it is part of a filter, when it carries encoded sound, or while the user has moved it to
+/// another device. When the user moves it back to "brimsound", it is handled as before.
 class StreamRouting {
 public:
-    /// The equalizer's sink and its output, as the graph numbers them; nothing while they are not there.
+    /// The ids of the equalizer's sink and output in the graph; nothing while they do not exist.
     struct OwnNodes {
         std::uint32_t sink = 0;
         std::string sinkSerial;
@@ -43,24 +43,24 @@ public:
     };
     void setOwnNodes(const std::optional<OwnNodes>&);
 
-    /// A playing stream was found, or changed its properties.
+    /// A playing stream appeared, or its properties changed.
     void streamChanged(std::uint32_t id, const StreamProperties&);
     void streamRemoved(std::uint32_t id);
 
-    /// The metadata is there and all that it held was told.
+    /// The metadata is available, and its initial contents have been reported.
     void metadataReady();
-    /// The metadata went away, with all that it held.
+    /// The metadata was removed with all its contents.
     void metadataRemoved();
-    /// Somebody, perhaps this program, changed a key; without a value it was deleted, without a key all keys
-    /// of that subject were.
+    /// A key was changed, perhaps by this program. Without a value the key was deleted; without a key, all
+    /// keys of the subject were.
     void metadataChanged(std::uint32_t subject, const std::optional<std::string>& key,
         const std::optional<std::string>& value);
-    /// The name of the sink that the session manager plays to by default; empty when there is none.
+    /// The name of the session manager's default sink; empty when there is none.
     void defaultSinkChanged(const std::string& name);
 
-    /// What has to be written now, in this order. It counts as written afterward.
+    /// The changes to write now, in this order. They are assumed to be written after this call.
     std::vector<MetadataWrite> takeWrites();
-    /// What gives every stream back. Nothing is moved from then on.
+    /// The changes that move all streams back. No stream is moved after this call.
     std::vector<MetadataWrite> release();
 
 private:
@@ -84,7 +84,7 @@ private:
     bool _released = false;
     std::string _defaultSink;
     std::string _lastDevice;
-    /// The device that the output was sent to, because the equalizer itself was made the default.
+    /// The device that the output was sent to, because the equalizer itself is the default.
     std::optional<std::string> _outputTarget;
     std::vector<MetadataWrite> _writes;
 };
