@@ -1,4 +1,4 @@
-# A language with a decimal comma, whatever languages the machine has.
+# A locale with a decimal comma, generated because the machine may not have one.
 set(locales ${CMAKE_CURRENT_BINARY_DIR}/locales)
 set(german ${locales}/de_DE.UTF-8)
 add_custom_command(OUTPUT ${german}

@@ -1,4 +1,4 @@
-// What is left of a gesture once a fault is over.
+// The state after a fault is over.
 #pragma once
 
 #include "tests/brimsound/Program.h"
@@ -12,23 +12,24 @@
 
 namespace brimsound::tests {
 
-/// The gains in the preferences file, the preamp first; empty unless the file is whole and holds them all.
+/// The gains in the preferences file, the preamp first; empty unless the file is complete and has all of
+/// them.
 std::vector<float> storedGains();
 
-/// Whether the media server comes to play those gains.
+/// Waits for the media server to play those gains. Returns whether it does.
 bool comesToPlay(MediaServer&, const std::vector<float>& gains);
 
-/// Moves the third band to that many dB and lets go. Whether the file was written whole, the notification was
-/// posted, and the media server then plays what the file holds.
+/// Moves the third band to that gain in dB and releases it. Checks that the file is written completely, that
+/// the notification is posted, and that the media server then plays the gains in the file.
 testing::AssertionResult releaseArrives(RunningProgram&, MediaServer&, float gain);
 
-/// The process that serves the media server's center; 0 when none does.
+/// The process of the media server; 0 when there is none.
 pid_t serverProcess();
 
-/// Waits until the condition holds, ten seconds at most. Whether it does.
+/// Waits until the condition is true, for ten seconds at most. Returns whether it is.
 bool eventually(const std::function<bool()>& condition);
 
-/// How long the action takes, in seconds.
+/// The duration of the action in seconds.
 template <typename Action> double secondsOf(const Action& action)
 {
     const auto start = std::chrono::steady_clock::now();
@@ -36,7 +37,7 @@ template <typename Action> double secondsOf(const Action& action)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// The second that a send is waited for; on a busy machine everything takes longer.
+/// The one-second timeout of a send; on a busy machine everything takes longer.
 inline auto oneSecond()
 {
     return testing::AllOf(testing::Ge(0.9), testing::Lt(1.9));

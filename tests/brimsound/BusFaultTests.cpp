@@ -21,7 +21,7 @@ namespace brimsound::tests {
 namespace {
 
 using namespace std::chrono_literals;
-/// Takes connections as a bus does and never says a word.
+/// Accepts connections like a bus, but never sends anything.
 class MuteBus {
 public:
     explicit MuteBus(const std::filesystem::path& path)
@@ -41,7 +41,7 @@ private:
     int _socket;
 };
 
-/// The child of the process that runs that program; 0 when it has none.
+/// The child process that runs that program; 0 when there is none.
 pid_t childOf(pid_t process, const std::string& program)
 {
     const auto number = std::to_string(process);
@@ -88,7 +88,7 @@ TEST_F(APaneWhoseBus, IsGoneLogsEachSendSavesAndFindsItAgain)
     }
     headless.say("lift 3");
     EXPECT_EQ(headless.next().at("effect"), "write");
-    // Nobody could be told.
+    // Without a bus no notification is posted.
     EXPECT_EQ(headless.state().at("effect"), "state");
     EXPECT_EQ(storedGains().at(3), 2);
     EXPECT_EQ(server->process().exitStatus(10s), 1);
@@ -163,7 +163,7 @@ TEST_F(APaneInAWindowWhoseBus, ComesBackHearsOthersAgainByItself)
         bus.kill();
         std::this_thread::sleep_for(700ms);
         bus.start();
-        // The pane brings the media server back, untouched.
+        // The pane starts the media server again without an action of the user.
         ASSERT_TRUE(eventually([] { return serverProcess() > 0; }));
         ASSERT_TRUE(desktop::darwinNotifyPost(settingsFinishedNotification));
         EXPECT_EQ(window.next().at("effect"), "delivered");

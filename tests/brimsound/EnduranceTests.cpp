@@ -1,4 +1,4 @@
-// As many faults and gestures as a long life brings; a part of them unless BRIMSOUND_LONG is set.
+// Many faults and gestures, as in a long session; fewer unless BRIMSOUND_LONG is set.
 #include "settings/tweak.h"
 #include "tests/brimsound/Aftermath.h"
 #include "tests/support/EnvironmentVariable.h"
@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What may come and go without anything being lost.
+/// How much the memory use may vary without a leak.
 constexpr std::size_t slack = 4 << 20;
 
 int count(int often, int seldom)
@@ -28,13 +28,13 @@ int count(int often, int seldom)
 
 class ALongLife : public testing::Test {
 protected:
-    // Memory that a sanitizer keeps to find uses after its release looks like a leak here.
+    // Freed memory that the sanitizer keeps, to detect later uses, would look like a leak here.
     EnvironmentVariable sanitizer { "ASAN_OPTIONS", "quarantine_size_mb=1" };
     TemporaryRoot root;
     TestBus bus;
 };
 
-/// Memory and descriptors of a process at two times.
+/// The memory and descriptors of a process before and after an action.
 class Use {
 public:
     Use(std::string name, pid_t process)
@@ -62,7 +62,7 @@ private:
     std::size_t _descriptors;
 };
 
-/// Drags the third slider to and fro; every message is answered.
+/// Drags the third slider back and forth. Every message is answered.
 void drag(RunningProgram& pane, int times)
 {
     constexpr int batch = 500;
@@ -124,7 +124,7 @@ TEST_F(ALongLife, OfKilledMediaServersIsSurvived)
     const Use use("the pane", pane.process().processIdentifier());
     int failed = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        // The server goes at some moment during these, and the last of them find none.
+        // The server is killed during these drags; the last of them are sent without a server.
         constexpr int drags = 20;
         for (int i = 0; i < drags; ++i)
             pane.say("drag 3 " + std::to_string(i % 10));

@@ -28,7 +28,7 @@ Json flat()
     return std::vector<double>(11, 0.0);
 }
 
-/// Eleven zeros but for those given.
+/// Eleven zeros except for the given values.
 Json valuesWith(std::initializer_list<std::pair<std::size_t, double>> some)
 {
     std::vector<double> values(11, 0.0);
@@ -91,7 +91,7 @@ assert prefs['PEAKING_EQ_VALUES'] == [0, 0, 4.5, 0, 0, 0, 0, 0, 0, 0]
 assert prefs['PREAMP'] == -4.5
 assert len(prefs['PRESETS']) == 16
 assert all(len(gains) == 10 for gains in prefs['PRESETS'].values())
-# Single precision: the marker of a real in four bytes, and none of one in eight.
+# The file contains the marker of a four-byte real, and none of an eight-byte one.
 assert data.count(b'\x22') >= 20 and prefs['PRESETS']['Full treble'][9] == 10.451612472534180
 )";
     desktop::ChildProcess python({ "python3", "-c", check, file });
@@ -129,7 +129,7 @@ TEST_F(AScript, ShowsTheStateOfThePane)
     EXPECT_EQ(state.at("colors")[0], (Json { 0.0, 0.0, 0.0, 1.0 }));
     EXPECT_EQ(state.at("colors")[3], (Json { 1.0, 1.0, 0.0, 1.0 }));
     EXPECT_EQ(state.at("colors")[4], (Json { 0.0, 1.0, 0.0, 1.0 }));
-    // The bar at the thumb's center of a band at +12: 14 points before the slider's end.
+    // The bar is at the center of the thumb of a band at +12 dB: 14 points before the slider's end.
     EXPECT_EQ(state.at("blackBar"), (Json { 35 + 280 - 14.0, 54.0, 1.0, 420.0 }));
     EXPECT_EQ(state.at("panel"), "hidden");
     EXPECT_EQ(state.at("switches"),
@@ -169,7 +169,7 @@ TEST_F(AScript, ReachesEverySliderWithAFinger)
 
 TEST_F(AScript, MovesThePixelsOfARealFinger)
 {
-    // The third band's strip: the table begins at 44, the slider row where the first screen shows it.
+    // The third band's strip on the first screen. The table begins at 44.
     const auto start = playScript(root, "resize 320 1000\nstate\n");
     ASSERT_EQ(start.status, 0);
     const auto run = playScript(root,
@@ -300,7 +300,7 @@ TEST_F(AScript, IsReadFromStandardInputToo)
 {
     RunningProgram program(root.path(), { "--headless" });
     EXPECT_EQ(program.state().at("sliders"), flat());
-    // Both lines come at once, and are carried out without waiting for the end.
+    // Both lines arrive at once and are executed before the end of the input.
     desktop::ChildProcess shell(
         { "/bin/sh", "-c",
             "cd '" + root.path().string()
@@ -354,7 +354,7 @@ TEST_F(AScript, StopsWhenItsTraceCannotBeWritten)
     }
     EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 1);
     EXPECT_THAT(told, ElementsAre("brimsound: the trace cannot be written: No space left on device"));
-    // Not even the line after the one that could not be told was carried out.
+    // No line after the one whose trace failed was executed.
     EXPECT_EQ(root.read(preferences), "");
 }
 
@@ -398,7 +398,7 @@ TEST_F(AProgramWithoutABus, StartsOneOfItsOwn)
 TEST_F(TwoPanes, ShowEachOthersEdits)
 {
     RunningProgram first(root.path(), { "--headless" });
-    // The first one's media server serves both.
+    // Both use the first one's media server.
     ASSERT_FALSE(first.state().is_null());
     RunningProgram second(root.path(), { "--headless" });
     ASSERT_FALSE(second.state().is_null());
@@ -416,7 +416,7 @@ TEST_F(TwoPanes, ShowEachOthersEdits)
     EXPECT_EQ(second.next().at("text"), "Brimsound: got notification in settings");
     EXPECT_EQ(second.state().at("sliders"), expected);
 
-    // The first one did not reload what it had written itself.
+    // The first pane did not reload what it had written itself.
     first.say("wait 0.1");
     first.say("state");
     EXPECT_EQ(first.next().at("effect"), "state");
@@ -467,7 +467,7 @@ TEST_F(AMediaServer, IsBroughtAlongAndEndsWithThePane)
         EXPECT_THAT(commandLineOf("com.quorvix.brimsound"),
             AllOf(HasSubstr("mediaserverd"), HasSubstr(root.path().string())));
     }
-    // It is told when the pane's process has ended.
+    // The kernel signals the server when the pane's process has ended.
     for (int i = 0; i < 1000 && desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     EXPECT_FALSE(desktop::SessionBus::shared().hasOwner("com.quorvix.brimsound"));

@@ -1,4 +1,4 @@
-// A preferences file of far more keys than the pane's own, which another program wrote.
+// A preferences file by another program, with far more keys than the pane's own.
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "settings/tweak.h"
 #include "tests/brimsound/Program.h"
@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// What Python prints that runs the program on the preferences file.
+/// Runs the Python program on the preferences file and returns its output.
 std::string outputOfPython(const std::string& program)
 {
     desktop::ChildProcess python(

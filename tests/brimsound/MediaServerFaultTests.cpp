@@ -19,7 +19,7 @@ using testing::HasSubstr;
 
 constexpr auto errorLine = "Brimsound: ERROR SENDING TO MEDIA SERVER Error Domain=";
 
-/// A pane that drags its third slider, and whose media server is the test's.
+/// A pane whose third slider is dragged, with a media server run by the test.
 class APaneWhoseMediaServer : public testing::Test {
 protected:
     APaneWhoseMediaServer()
@@ -36,14 +36,14 @@ protected:
         return pane.next();
     }
 
-    /// Lets go and waits for the file.
+    /// Releases the slider and waits for the file.
     void lift()
     {
         pane.say("lift 3");
         EXPECT_EQ(pane.next("write").at("effect"), "write");
     }
 
-    /// The message failed and one line of the log says why.
+    /// Expects a failed message and one line in the log with the reason.
     void expectLogged(const Json& message)
     {
         ASSERT_EQ(message.at("effect"), "message");
@@ -105,7 +105,8 @@ TEST_F(APaneWhoseMediaServer, HangsWaitsOneSecondASend)
     EXPECT_LT(secondsOf([&] { lift(); }), 0.9);
     EXPECT_EQ(storedGains().at(3), 2);
 
-    // What was sent meanwhile is old, and what the notification has it read comes last.
+    // The messages sent meanwhile are handled first. The notification, which makes it read the file, comes
+    // last.
     server->process().signal(SIGCONT);
     EXPECT_TRUE(comesToPlay(*server, storedGains()));
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
@@ -143,7 +144,7 @@ TEST_F(APaneWhoseMediaServer, AnswersNonsenseGoesOn)
         expectLogged(drag(2));
     }
     {
-        // Whatever a reply of the right type holds is ignored.
+        // A reply of the right type is accepted whatever it contains.
         const StandInServer answering(messagingCenterName, [](auto* message) {
             return sd_bus_reply_method_return(message, "a{sv}", 2, "vals", "s", "none", "vals", "ai", 1, 5);
         });
@@ -154,7 +155,7 @@ TEST_F(APaneWhoseMediaServer, AnswersNonsenseGoesOn)
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
 }
 
-/// {"numbers": that many bytes of 16-bit numbers}
+/// Replies with {"numbers": 16-bit numbers of that many bytes}.
 int replyWithNumbers(sd_bus_message* message, std::size_t bytes)
 {
     sd_bus_message* created = nullptr;
@@ -187,7 +188,7 @@ TEST_F(APaneWhoseMediaServer, AnswersHugelyKeepsNoneOfIt)
             EXPECT_LT(secondsOf([&] { message = drag(gain); }), 1.9);
             expectLogged(message);
         }
-        // An answer that came too late is taken in and dropped here.
+        // A reply that came too late is received and dropped here.
         pane.say("wait 0");
         lift();
     }
@@ -214,7 +215,7 @@ TEST_F(APaneWhoseMediaServer, IsReplacedByAMuteOneIsServedAgainWhenThatLeaves)
         EXPECT_THAT(secondsOf([&] { message = drag(2); }), oneSecond());
         expectLogged(message);
         EXPECT_EQ(heard, 1);
-        // It serves, in its way: no other one is started beside it.
+        // The name is taken, so the pane starts no server of its own.
         pane.say("wait 0");
         pane.state();
         EXPECT_EQ(serverProcess(), getpid());
@@ -246,7 +247,7 @@ TEST(APaneWithAMediaServerOfItsOwn, HasItStartedAgainHoweverOftenItIsKilled)
         ASSERT_GT(server, 0) << kills;
         kill(server, SIGKILL);
         ASSERT_TRUE(eventually([&] { return serverProcess() != server; }));
-        // After some quick ends there is a pause, which grows to eight seconds.
+        // After several quick ends the next start is delayed, by up to eight seconds.
         pane.say("wait 9");
         pane.say("drag 3 " + std::to_string(kills));
     }

@@ -14,7 +14,7 @@ using testing::SizeIs;
 
 constexpr auto preferencesPath = "/var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
 
-/// What the last state line said.
+/// The last state line.
 Json lastState(const Run& run)
 {
     return run.all("state").back();
@@ -26,7 +26,7 @@ protected:
     TestBus bus;
 };
 
-/// Rock's gains in dB: whole numbers of steps, 31 of which make 12 dB.
+/// The gains of Rock in dB: whole numbers of steps; 31 steps make 12 dB.
 std::vector<float> rock()
 {
     std::vector<float> gains;
@@ -154,7 +154,7 @@ TEST_F(AScriptOfPresets, SavesUnderANameThatIsConfirmedWithAPointer)
     EXPECT_EQ(lastState(run).at("panel"), "hidden");
     EXPECT_EQ(lastState(run).at("selected"), "Mine");
 
-    // The same with a finger, which needs to be told where the key is: at the field's right end.
+    // The same with a finger, which needs the position of the key: at the field's right end.
     const auto pointed = playScript(
         root, "press \"Presets\"\nsaverow\nwait 1\ntype \"Yours\"\nfinger down 237 66\nfinger up\nstate\n");
     EXPECT_EQ(pointed.status, 0) << pointed.errors;
@@ -163,7 +163,7 @@ TEST_F(AScriptOfPresets, SavesUnderANameThatIsConfirmedWithAPointer)
 
 TEST_F(AScriptOfPresets, FollowsTheWindow)
 {
-    // Beside the panel of a window that was widened lies the dimmed area, which closes it.
+    // In a widened window, the dimmed area next to the panel closes it.
     const auto run
         = playScript(root, "press \"Presets\"\nresize 900 600\nfinger down 600 300\nfinger up\nstate\n");
     EXPECT_EQ(run.status, 0) << run.errors;
@@ -205,7 +205,7 @@ TEST_F(AScriptOfPresets, WorksInAWindowTooLowForTheSliders)
 
 TEST_F(AScriptOfPresets, WorksAgainWhenTheSlidersAreOffView)
 {
-    // The switch is on already: the pane is only scrolled to it.
+    // The switch is on already, so this only scrolls the pane to it.
     const auto run = playScript(root,
         "close\nresize 568 320\nopen\npress \"Presets\"\npress \"Cancel\"\nswitch ENABLED on\n"
         "press \"Presets\"\nstate\nrow \"Rock\"\nstate\n");

@@ -48,7 +48,7 @@ std::vector<Json> Run::all(const std::string& effect) const
 Run runProgram(const std::vector<std::string>& arguments)
 {
     const auto folder = newFolder();
-    // The shell puts standard error into a file, where it can be looked at apart from the trace.
+    // The shell redirects standard error to a file, to keep it apart from the trace.
     std::vector<std::string> command { "/bin/sh", "-c", "errors=$1; shift; exec \"$@\" 2>\"$errors\"", "sh",
         folder / "errors", BRIMSOUND };
     command.insert(command.end(), arguments.begin(), arguments.end());

@@ -1,4 +1,4 @@
-// The desktop app as a user starts it.
+// Running the desktop app.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -15,10 +15,10 @@ namespace brimsound::tests {
 
 using Json = nlohmann::ordered_json;
 
-/// What a run of the program left behind.
+/// The results of a run of the program.
 struct Run {
     int status;
-    /// Its trace, an object a line.
+    /// Its trace, with one object per line.
     std::vector<Json> trace;
     std::string errors;
 
@@ -31,29 +31,29 @@ struct Run {
 /// Runs the program with the arguments until it ends.
 Run runProgram(const std::vector<std::string>& arguments);
 
-/// Plays a script without a window on the root.
+/// Runs a script without a window on the root.
 Run playScript(const TemporaryRoot&, const std::string& script);
 
-/// A program that is told its script line by line while it runs.
+/// A running program that receives its script line by line.
 class RunningProgram {
 public:
-    /// What becomes of the lines that it prints on standard error.
+    /// What happens with the lines on its standard error.
     enum class Errors { Shown, Dropped };
 
-    /// Starts it on the root with the script still to come; `more` are further arguments.
+    /// Starts the program on the root; the script is sent later. `more` are further arguments.
     explicit RunningProgram(
         const std::filesystem::path& root, const std::vector<std::string>& more, Errors = Errors::Shown);
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
     ~RunningProgram();
 
-    /// Hands over a line.
+    /// Sends a line of the script.
     void say(const std::string& line);
     /// The next line of its trace; null when none comes within ten seconds.
     Json next();
     /// The next line with that effect; those before it are dropped.
     Json next(const std::string& effect);
-    /// Says "state" and gives the answer.
+    /// Sends "state" and returns the answer.
     Json state();
 
     desktop::ChildProcess& process() { return *_process; }

@@ -18,7 +18,7 @@ namespace {
 using namespace desktop;
 using testing::ElementsAre;
 
-/// Notes the control events of a slider.
+/// Records the control events of a slider.
 class EventListener : public NSObject {
 public:
     explicit EventListener(UISlider& slider)
@@ -58,17 +58,17 @@ class AGesture : public testing::Test {
 protected:
     AGesture() { host.window().layOut(); }
 
-    /// The events of the third band's slider while the lines are carried out.
+    /// The events of the third band's slider while the lines are executed.
     std::vector<std::string> eventsOf(std::initializer_list<const char*> lines)
     {
-        // Stays until the sliders are gone: they do not retain it.
+        // Outlives the sliders, which do not retain it.
         listener = make<EventListener>(*host.controller()->sliders()->at(3));
         for (const auto* line : lines)
             runner.run(line);
         return listener->heard;
     }
 
-    /// Text is measured by Qt, which has to run for that.
+    /// Keeps Qt running, which measures text.
     class RunningQt {
         int _count = 1;
         std::string _name = "brimsound";
@@ -84,7 +84,7 @@ protected:
     RetainPtr<EventListener> listener;
     Trace trace { stdout };
     MainLoop loop { MainLoop::Time::Virtual };
-    // Tall enough for the sliders to be on view.
+    // Tall enough to show the sliders.
     PaneHost host { { 320, 1000 } };
     ScriptRunner runner { host, loop, trace, 1, [](CGSize) {} };
 };

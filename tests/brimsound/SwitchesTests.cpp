@@ -40,7 +40,7 @@ std::string decoded(const std::string& base64)
     return text;
 }
 
-/// The process that serves the center; 0 when none does.
+/// The process of the media server; 0 when there is none.
 pid_t serverProcess()
 {
     sd_bus_creds* creds = nullptr;
@@ -77,7 +77,7 @@ TEST_F(AScriptOfSwitches, FlipsEachSwitchAndKeepsIt)
     EXPECT_EQ(run.all("state")[0].at("switches"),
         (Json { { "ENABLED", false }, { "ENABLED_CC", false }, { "AUTO_PREAMP", false },
             { "FILTER_DISABLED", true }, { "CHECKING_DISABLED", true } }));
-    // Already off: nothing was flipped. And the preamp stayed where it was.
+    // The switch was off already, so nothing was changed, and the preamp stayed the same.
     EXPECT_THAT(run.all("alert"), IsEmpty());
     EXPECT_EQ(run.all("state")[1].at("sliders")[0], 0.0);
 }
@@ -92,7 +92,7 @@ TEST_F(AScriptOfSwitches, ShowsValuesOfOtherTypesAsTheyConvert)
     EXPECT_EQ(run.all("state")[0].at("switches"),
         (Json { { "ENABLED", false }, { "ENABLED_CC", true }, { "AUTO_PREAMP", false },
             { "FILTER_DISABLED", true }, { "CHECKING_DISABLED", false } }));
-    // It showed as off, so it could be switched on.
+    // It was shown as off, so it could be switched on.
     EXPECT_THAT(run.all("alert"), SizeIs(1));
 }
 
@@ -173,7 +173,7 @@ TEST_F(AScriptOfLinks, OpensTheWebsite)
 
 TEST_F(ALiveScript, ReportsThisMachinesPackagesToTheUsersMailProgram)
 {
-    // A mail program that takes whatever it is given, and a home of its own to be set up in.
+    // A mail program that accepts every mail, and a home folder to install it in.
     const auto home = root.path() / "home";
     const auto programs = home / ".local/share/applications";
     std::filesystem::create_directories(programs);
@@ -208,7 +208,7 @@ TEST_F(ALiveScript, ReportsThisMachinesPackagesToTheUsersMailProgram)
 
 TEST_F(ALiveScript, StartsItsMediaServerAgainWhenItWasKilled)
 {
-    // What the pane would kill is not this test's: the command is only written down.
+    // The test must not kill other processes: the command is only recorded.
     const auto bin = root.path() / "bin";
     std::filesystem::create_directory(bin);
     std::ofstream(bin / "killall") << "#!/bin/sh\necho \"$@\" >> \"" << (root.path() / "killed").string()

@@ -16,19 +16,19 @@ protected:
     ARealWindow()
         : pane(root.path(), {})
     {
-        // Answers once the window is up.
+        // The answer arrives when the window is shown.
         pane.say("wait 0.2");
         pane.state();
     }
 
-    /// Lets xdotool do something with the window, and waits until it is done.
+    /// Performs the actions in the window with xdotool and waits for the end.
     void point(std::vector<std::string> actions)
     {
         std::vector<std::string> command { "xdotool", "search", "--onlyvisible", "--name", "Brimsound" };
         command.insert(command.end(), actions.begin(), actions.end());
         desktop::ChildProcess xdotool(command);
         ASSERT_EQ(xdotool.exitStatus(std::chrono::seconds(20)), 0);
-        // The pane sees to its window while it waits for a line.
+        // The pane handles window events while it waits for a line.
         pane.say("wait 0.2");
     }
 
@@ -41,7 +41,7 @@ protected:
     RunningProgram pane;
 };
 
-/// Effects and messages of a gesture until its notification came back.
+/// The trace of a gesture until its notification is delivered.
 std::vector<Json> gesture(RunningProgram& pane)
 {
     std::vector<Json> lines;
@@ -53,7 +53,7 @@ std::vector<Json> gesture(RunningProgram& pane)
 
 TEST_F(ARealWindow, DoesForAPointerWhatItDoesForAScript)
 {
-    // The third band's thumb as the first screen shows it.
+    // The third band's thumb on the first screen.
     point({ "mousemove", "--window", "%1", "175", "541", "mousedown", "1" });
     const auto touched = pane.next();
     EXPECT_EQ(touched.at("effect"), "message");
@@ -86,7 +86,7 @@ TEST_F(ARealWindow, ScrollsByTheWheelWithoutMovingASlider)
     const auto before = pane.state();
     point({ "mousemove", "--window", "%1", "175", "541", "click", "5", "click", "5" });
     EXPECT_EQ(pane.state(), before);
-    // What lay under the pointer has moved up: the same place now holds a lower slider.
+    // The content has moved up, so the same position is now on a lower slider.
     point({ "mousedown", "1", "mouseup", "1" });
     const auto pressed = pane.next();
     EXPECT_EQ(pressed.at("effect"), "message");
@@ -98,7 +98,7 @@ TEST_F(ARealWindow, CanBeResized)
     pane.say("wait 0.2");
     pane.say("touch 0");
     pane.say("drag 0 6");
-    // The sliders are as wide as the row but for 40 points, and the thumb's center keeps 14 from their ends.
+    // The sliders are 40 points narrower than the row; the thumb's center stays 14 points from their ends.
     const double bar = pane.state().at("blackBar")[0];
     EXPECT_NEAR(bar, 35 + 14 + (360 - 28) * (12 - 6) / 24.0, 1e-4);
 }

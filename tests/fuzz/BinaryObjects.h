@@ -1,5 +1,5 @@
-// Binary property lists taken apart into their objects, for a fuzzer that changes those and keeps the rest
-// right.
+// Splitting binary property lists into their objects, for a fuzzer that changes the objects and keeps the
+// rest of the file valid.
 #pragma once
 
 #include <cstdint>
@@ -16,10 +16,10 @@ struct BinaryObjects {
     std::uint64_t root = 0;
 };
 
-/// Nothing for bytes whose trailer or table is wrong. Objects that overlap come out as copies.
+/// Nothing for bytes with an invalid trailer or table. Overlapping objects become copies.
 std::optional<BinaryObjects> binaryObjectsOf(std::string_view file);
 
-/// A file of those objects with a table and a trailer that fit.
+/// A file of those objects with a matching table and trailer.
 std::string fileOf(const BinaryObjects&);
 
 } // namespace brimsound::tests

@@ -1,4 +1,4 @@
-// Every file that the fuzzers start from, and every one that they found something with.
+// All files that the fuzzers start from, and all files with which they found errors.
 #include "tests/fuzz/GestureScript.h"
 #include "tests/fuzz/PreferencesFile.h"
 

@@ -21,7 +21,7 @@ void writeAndReadAgain(const PropertyList& value)
         throw std::logic_error("what was written reads otherwise");
 }
 
-/// Every conversion of every value.
+/// Calls every conversion of every value.
 float sumOf(const PropertyList& value)
 {
     float sum

@@ -1,4 +1,4 @@
-// What is tried on the bytes of a preferences file.
+// The fuzz test for the bytes of a preferences file.
 #pragma once
 
 #include <cstddef>
@@ -6,8 +6,8 @@
 
 namespace brimsound::tests {
 
-/// Reads the bytes as the pane reads its file, takes from them what it shows, changes what letting go of a
-/// slider changes, and writes. Throws std::logic_error when what is written does not read alike.
+/// Reads the bytes as the pane reads its file, gets the values that it shows, makes the changes of releasing
+/// a slider, and writes the file. Throws std::logic_error when the written file is read back differently.
 void tryPreferencesFile(std::span<const std::byte> bytes);
 
 } // namespace brimsound::tests

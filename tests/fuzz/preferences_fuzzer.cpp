@@ -31,7 +31,7 @@ std::string randomFile(std::mt19937& random)
     return RandomPropertyLists(static_cast<std::uint32_t>(random())).file();
 }
 
-/// Changes one object, or which there are.
+/// Changes one object, or adds or removes one.
 void mutateObjects(std::vector<std::string>& objects, std::mt19937& random)
 {
     const auto any = [&] { return random() % objects.size(); };
@@ -47,7 +47,7 @@ void mutateObjects(std::vector<std::string>& objects, std::mt19937& random)
         objects[place] = objects[any()];
         break;
     case 3: {
-        // An object of another file.
+        // An object from another file.
         const auto other = binaryObjectsOf(randomFile(random));
         objects[place] = other->objects[random() % other->objects.size()];
         break;
@@ -68,8 +68,8 @@ std::string mutated(std::string_view file, std::mt19937& random)
 
 } // namespace
 
-/// One half of all changes is to bytes, wherever they are; the other to the objects of a binary file, whose
-/// tables are then made to fit, so that the reader gets past them.
+/// Half of all mutations change arbitrary bytes. The other half changes the objects of a binary file and
+/// rebuilds its tables, so that the reader accepts them.
 extern "C" std::size_t LLVMFuzzerCustomMutator(
     std::uint8_t* data, std::size_t size, std::size_t mostBytes, unsigned seed)
 {

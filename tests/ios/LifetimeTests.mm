@@ -1,4 +1,4 @@
-// Native objects and the product's live equally long, and nothing is held for longer than it is used.
+// Native objects and the product's have the same lifetime, and nothing is retained longer than it is used.
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UISlider.h"
 #include "platform/ios/Foundation/Peer.h"
@@ -17,7 +17,7 @@ namespace {
 
 class LivingTogether : public testing::Test {
 protected:
-    /// As one turn of the main loop, at whose end what was autoreleased goes.
+    /// Runs a turn of the main loop, at the end of which autoreleased objects are released.
     static void inOneTurn(const std::function<void()>& turn)
     {
         NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
@@ -28,7 +28,7 @@ protected:
     TestPlatform platform;
 };
 
-/// Counts the objects that there are.
+/// Counts its instances.
 class Counted : public UIView {
 public:
     Counted() { ++alive; }
@@ -158,7 +158,7 @@ TEST_F(LivingTogether, APaneThatShowedPresetsLeavesTheirCycleAlone)
     });
     ASSERT_EQ(_activeController, controller);
     EXPECT_EQ(controller->retainCount(), 1u) << "the panel's";
-    // Its root view shows it for no longer than it lives.
+    // Its root view retains the panel only while it exists.
     inOneTurn([&] { controller->saver()->setDelegate(nullptr); });
     EXPECT_EQ(_activeController, nullptr);
 }

@@ -1,4 +1,4 @@
-// The bundle's principal class as the Settings app uses it: by its name, and through the runtime.
+// The bundle's principal class as the Settings app uses it: by its name and through the runtime.
 #include "settings/BrimsoundSettings.h"
 #include "tests/settings/TestPlatform.h"
 
@@ -17,7 +17,7 @@ class ThePrincipalClass : public testing::Test {
 protected:
     static Class principalClass() { return NSClassFromString(@"BrimsoundSettingsListController"); }
 
-    /// As the Settings app does it. To be released.
+    /// Opens a controller as the Settings app does. The caller releases it.
     static PSListController* open()
     {
         return [[principalClass() alloc] initForContentSize:CGSizeMake(320, 568)];
@@ -172,7 +172,7 @@ TEST_F(ThePrincipalClass, ShowsNoMailWhereThereIsNothingToShowItOver)
 
 TEST_F(ThePrincipalClass, AnswersNothingBeforeItIsInitialized)
 {
-    // The class learns its selectors with the first controller.
+    // The class gets its methods when the first controller is created.
     [open() release];
     PSListController* controller = [principalClass() alloc];
     EXPECT_EQ([controller performSelector:@selector(settings)], nil);

@@ -66,7 +66,7 @@ const auto someGains = gains({ 5.8064516f, 1.5, 2, 3, 4, 5, 6, 7, 8, 9, -12 });
 constexpr auto someGainsPrinted = R"({"vals":[5.806452,1.5,2.0,3.0,4.0,5.0,6.0,7.0,8.0,9.0,-12.0]})";
 constexpr auto zerosPrinted = R"({"vals":[0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0]})";
 
-// Standard output and standard error of a run, and its exit status at the end.
+// Standard output and standard error of a run, followed by its exit status.
 std::string outcomeOf(const std::string& options)
 {
     desktop::ChildProcess run(
@@ -207,7 +207,7 @@ TEST_F(AMediaServer, KeepsTheGainsWhileTheFileIsDamagedOrUnreadable)
     postSettingsFinished();
     store(Array { 1 });
     postSettingsFinished();
-    // The answer comes after the notifications were acted on. A file that is missing is no damaged one.
+    // The reply arrives after the notifications were handled. A missing file is not a damaged one.
     send(someGains);
     const auto file = root.path() / "var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
     std::filesystem::remove(file);

@@ -1,4 +1,4 @@
-// The tests of the interface measure and draw text, which takes a running Qt; a display it does not take.
+// The tests measure and draw text, which needs a running Qt but no display.
 #include <QApplication>
 
 #include <gmock/gmock.h>

@@ -47,7 +47,7 @@ struct Outcome {
 
 class Rendering : public testing::Test {
 protected:
-    /// Runs the program through a shell, in the folder. `before` is shell code in front of it.
+    /// Runs the program through a shell in the folder. `before` is shell code before the command.
     Outcome run(const std::string& arguments, const std::string& before = {})
     {
         const TemporaryFolder streams;
@@ -65,7 +65,7 @@ protected:
         EXPECT_EQ(outcome.errors, "");
     }
 
-    /// One line that says so, and nothing new in the folder.
+    /// Expects one line with the reason and no new file in the folder.
     void expectRefused(const Outcome& outcome, int status, const std::string& reason)
     {
         EXPECT_EQ(outcome.status, status);
@@ -183,7 +183,7 @@ TEST_F(Rendering, HasTheGainsOfTheSliders)
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), 2.5, 0.02);
     expectDone(run("in.wav out.wav --gains '0 0 0 0 6.5 0 0 9 0 0' --preamp auto"));
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), -2.5, 0.02);
-    // The preamp follows gains that are all below 0 dB upwards.
+    // The automatic preamp is positive when all gains are below 0 dB.
     expectDone(run("in.wav out.wav --gains '-5 -5 -5 -5 -3 -5 -5 -5 -5 -5' --preamp auto"));
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), 0, 0.02);
 }
@@ -191,7 +191,7 @@ TEST_F(Rendering, HasTheGainsOfTheSliders)
 TEST_F(Rendering, HasTheGainsOfAPresetBelowThePreamp)
 {
     writeSine("in.wav", 1000, 0.1f);
-    // At 1 kHz 2 of 31 steps, at the highest band 15, each 12/31 dB.
+    // At 1 kHz 2 of 31 steps, at the highest band 15; a step is 12/31 dB.
     expectDone(run("in.wav out.wav --preset 'Full bass'"));
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), (2 - 15) * 12.0 / 31, 0.02);
     expectDone(run("in.wav out.wav --preset 'Full bass' --preamp 0"));
@@ -203,11 +203,11 @@ TEST_F(Rendering, FindsThePresetsThatWereSaved)
     writeSine("in.wav", 1000, 0.1f);
     const PropertyList::Array saved { -40, 0, 0, 0, 3.5, 0, 0, 0, 0, 40 };
     storePreferences({ { presetsKey, PropertyList::Dictionary { { "Mine", saved } } } });
-    // Gains beyond the sliders' ends count as the ends.
+    // Gains beyond the sliders' range are limited to it.
     expectDone(run("in.wav out.wav --preset Mine"));
     EXPECT_NEAR(gainOf(read(path("out.wav")), read(path("in.wav"))), 3.5 - 12, 0.02);
     fs::remove(path("out.wav"));
-    // Where presets were saved they are all there are.
+    // When presets were saved, the built-in ones are no longer available.
     expectRefused(run("in.wav out.wav --preset Rock"), 1, "there is no preset \"Rock\"");
 
     storePreferences({ { presetsKey, PropertyList::Dictionary {} } });
@@ -248,7 +248,7 @@ TEST_P(RenderingIntegers, ClipsWithoutWrappingAround)
     const auto in = read(path("in")).samples;
     const auto out = read(path("out")).samples;
     ASSERT_EQ(out.size(), in.size());
-    // Long after the start the output has the input's sign wherever that is clear.
+    // After the filters have settled, the output has the sign of the input wherever the input is large.
     std::size_t wrapped = 0;
     for (std::size_t i = 24000; i < out.size(); ++i)
         wrapped += std::abs(in[i]) > 0.5f && out[i] * in[i] < 0;
@@ -333,7 +333,7 @@ TEST_F(Rendering, LeavesNothingWhenTheDiskIsFull)
 
 TEST_F(Rendering, LeavesNothingWhenItIsInterrupted)
 {
-    // Hours of silence, which take no room on the disk.
+    // Hours of silence, which take no disk space.
     write(path("in.wav"), { .rate = 48000, .channels = 2, .format = wav16, .samples = noise(200) });
     const auto header = readFile(path("in.wav")).substr(0, 44);
     auto bytes = header;

@@ -1,4 +1,4 @@
-// A pane whose preferences are of types that nobody expects.
+// A pane with preferences of unexpected types.
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
 #include "tests/settings/Pane.h"

@@ -21,7 +21,7 @@ class BandEdit : public testing::Test {
 protected:
     BandEdit() { _notificationsToSkip = 0; }
 
-    /// What a pane writes, with the rest of the file given.
+    /// Writes what a pane writes, together with the given values.
     void store(const PropertyList::Dictionary& preferences)
     {
         platform.writePreferencesFile(PropertyList(preferences));
@@ -36,7 +36,7 @@ using DraggingABand = BandEdit;
 using DraggingThePreamp = BandEdit;
 using LettingGoOfASlider = BandEdit;
 using SendingToTheMediaServer = BandEdit;
-/// As the preset panel does when the preset is chosen.
+/// Applies a preset as the preset panel does.
 void applyPreset(BrimsoundSettingsListController& controller, const PropertyList& gains)
 {
     const auto panel = make<PlaylistSaver>(controller);
@@ -397,7 +397,7 @@ TEST_F(ApplyingAPreset, ReplaysTenDragsAndReleases)
     EXPECT_EQ(pane.trace(), expected);
     EXPECT_THAT(
         pane.values(), ElementsAre(2, -4.5f, -3.5f, -2.5f, -1.5f, -0.5f, 0.5f, 1.5f, 2.5f, 3.5f, 4.5f));
-    // Band by band: each message has the bands so far.
+    // Each message contains the bands applied so far.
     for (std::size_t i = 0; i < 10; ++i) {
         const auto values = pane.sent()[i];
         EXPECT_EQ(values[0], 2);
@@ -412,7 +412,7 @@ TEST_F(ApplyingAPreset, ReplaysTenDragsAndReleases)
         ElementsAre("Pre", "60", "170", "310", "600", "1K", "3K", "6K", "12K", "14K", "16K"));
 }
 
-/// Notes the events that a preset's replay makes a slider send.
+/// Records the events that a slider sends while a preset is applied.
 class EventListener : public NSObject {
 public:
     std::span<const Method> methods() const override
@@ -458,7 +458,7 @@ TEST_F(ApplyingAPreset, RecomputesThePreampBandByBandWhenItIsAutomatic)
     std::vector<float> preamps;
     for (const auto& values : pane.sent())
         preamps.push_back(values[0]);
-    // The bands not yet reached still stand at 0.
+    // The bands that are not applied yet are still 0.
     EXPECT_THAT(preamps, ElementsAre(0, 0, 0, 0, 0, -0.5f, -1.5f, -2.5f, -3.5f, -4.5f));
 }
 
@@ -471,7 +471,7 @@ TEST_F(ApplyingAPreset, IsNotTakenForTenChangesFromElsewhere)
     platform.deliverNotifications();
     EXPECT_EQ(pane.trace(), std::vector<std::string>(10, deliversFinished));
 
-    // The preset's name is recorded by whoever called, who does not count its post.
+    // The caller saves the preset's name. The pane does not count that notification as its own.
     platform.postFromAnotherProcess(settingsFinishedNotification);
     platform.deliverNotifications();
     EXPECT_THAT(pane.trace(), ElementsAre(deliversFinished, logsReload));
@@ -502,7 +502,7 @@ TEST_F(ApplyingAPreset, ThatIsNullDoesNothing)
     EXPECT_THAT(pane.trace(), IsEmpty());
 }
 
-/// Calls the methods that take a slider, by their names.
+/// Calls all methods with a slider argument by name.
 void callWithSlider(BrimsoundSettingsListController& controller, UISlider& slider)
 {
     const Argument argument = static_cast<NSObject*>(&slider);

@@ -1,5 +1,5 @@
-// What a drag takes from the heap, from the finger's move to the media server's reply, the bus library's own
-// apart.
+// The heap allocations of a drag, from the finger's move to the media server's reply, except for those of the
+// bus library.
 #include "settings/GainColor.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
@@ -15,12 +15,12 @@ namespace brimsound::tests {
 
 namespace {
 
-/// The eleven values and the dictionary that they are in.
+/// The eleven values and their dictionary.
 constexpr std::size_t allocationsOfAMessage = 2;
 
 class DraggingABand : public testing::Test {
 protected:
-    /// Each step must take exactly as much.
+    /// Every step must allocate exactly this much.
     static void expectAllocationsOfAStep(std::size_t expected)
     {
         HeldSlider held({ 320, 568 });

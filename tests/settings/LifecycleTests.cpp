@@ -24,7 +24,7 @@ protected:
         _notificationsToSkip = 0;
     }
 
-    /// Another process changed the settings and says so.
+    /// Changes the settings and notifies the pane, as another process would.
     void changeElsewhere(const PropertyList::Dictionary& preferences)
     {
         platform.writePreferencesFile(PropertyList(preferences));
@@ -140,13 +140,13 @@ TEST_F(ClosingThePane, LetsGoOfEverythingItHeld)
         return std::vector<std::size_t> { slider->retainCount(), label->retainCount(), bar->retainCount(),
             center->retainCount() };
     };
-    // The content view and this test hold one each; the lists are still the cell's.
+    // The content view and this test hold one reference each; the cell still holds the lists.
     controller = nullptr;
     platform.endTurn();
     EXPECT_THAT(counts(), ElementsAre(3, 3, 2, 1));
 }
 
-/// A view that notes when it goes, and with it the view that it was put into.
+/// Runs a function when it is destroyed, to detect the destruction of its superview.
 class Witness : public UIView {
 public:
     explicit Witness(std::function<void()> onGone)
@@ -167,12 +167,12 @@ TEST_F(ClosingThePane, LetsGoInTheOrderOfItsMembers)
     RetainPtr<CPDistributedMessagingCenter> center;
     auto controller = openController();
     {
-        // The slider row is the test's, and the panel lies in the table, which is in no window.
+        // The test owns the slider row, and the panel is in the table, which is in no window.
         const auto cell = controller->tableViewCellForRowAtIndexPath(controller->table(), sliderRow);
         controller->showPresets();
         auto& panel = *controller->saver();
         panel.setDelegate(nullptr);
-        // Its list of sliders would keep those of the bands.
+        // Otherwise its list would keep the sliders of the bands.
         panel.setSliders({});
         center = retain(controller->center());
         const auto watch = [&](UIView& view, const std::string& name) {

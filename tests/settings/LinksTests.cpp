@@ -25,7 +25,7 @@ class Link : public testing::Test {
 protected:
     Link() { platform.takeTrace(); }
 
-    /// Taps the row whose action has that name.
+    /// Taps the row with that action.
     void press(const char* selector)
     {
         const auto row = make<PSSpecifier>("Row", *controller, PropertyList::Dictionary());
@@ -88,7 +88,7 @@ std::string textOf(const NSData& data)
 
 TEST_F(TheIssueReport, TakesAsManyBytesOfDeviceAndLanguageAsTheyHaveUtf16Units)
 {
-    // Of one, two, three and four bytes in UTF-8; the last has two UTF-16 units.
+    // Characters of one, two, three and four bytes in UTF-8; the last has two UTF-16 units.
     EXPECT_EQ(textOf(diagnosticText("a\xC3\xBC\xE2\x82\xAC\xF0\x9F\x8E\xB8"
                                     "bcdef",
                   { "x\xC3\xBC-yz" }, {})),
@@ -112,7 +112,8 @@ TEST_F(TheIssueReport, SlidesInAndOut)
 TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
 {
     platform.setPreferredLanguages({ "en" });
-    // Once with all well: checked builds need descriptors of their own for what they see for the first time.
+    // Run it once without a fault: sanitizer builds open descriptors when they see something for the first
+    // time.
     press("reportIssue:");
     platform.cancelMail();
     platform.takeTrace();
@@ -177,7 +178,8 @@ TEST_F(ACommand, DropsTheRestOfAReadAfterANul)
 
 TEST_F(ACommand, ThatCannotBeStartedGivesNothingAndALogLine)
 {
-    // Once with all well: checked builds need descriptors of their own for what they see for the first time.
+    // Run it once without a fault: sanitizer builds open descriptors when they see something for the first
+    // time.
     run_cmd("true");
     platform.takeTrace();
     platform.failToStartCommands();

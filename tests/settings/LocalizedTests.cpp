@@ -1,4 +1,4 @@
-// The pane in a language of the tests' own, whose texts are not the defaults.
+// The pane in the tests' own language, whose texts differ from the defaults.
 #include "tests/settings/PresetPane.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A pane under test and the gestures that a user makes on it.
+// A pane under test and the user's gestures on it.
 #pragma once
 
 #include "settings/BrimsoundSettings.h"
@@ -11,7 +11,7 @@
 
 namespace brimsound::tests {
 
-/// Trace lines of the pane's own effects.
+/// Lines of the trace for the pane's own effects.
 extern const std::string equalizerSend;
 extern const std::string writesFile;
 extern const std::string postsFinished;
@@ -31,7 +31,7 @@ public:
     UILabel& label(std::size_t index) const { return *(*_controller->labels())[index]; }
     /// The slider row's cell.
     UITableViewCell& cell() const { return *_cell; }
-    /// All eleven.
+    /// The values of all eleven sliders.
     std::vector<float> values() const;
     std::vector<std::string> captions() const;
     /// Red, green, blue, alpha of a slider's minimum track.
@@ -44,9 +44,9 @@ public:
     void liftOutside(std::size_t index) const;
     void cancel(std::size_t index) const;
 
-    /// What the pane did since the last call; what opening it did is not part of it.
+    /// The pane's effects since the last call, without those of opening it.
     std::vector<std::string> trace() const { return _platform.takeTrace(); }
-    /// "vals" of every message since the start.
+    /// The "vals" of every message since the start.
     std::vector<std::vector<float>> sent() const;
 
 private:
@@ -55,18 +55,18 @@ private:
     RetainPtr<UITableViewCell> _cell;
 };
 
-/// An open controller whose slider row was not asked for yet.
+/// An open controller whose slider row is not built yet.
 RetainPtr<BrimsoundSettingsListController> openController(CGFloat contentWidth = 320);
 
 /// Preferences with those band gains.
 PropertyList::Dictionary preferencesWith(std::vector<float> gains);
 
-/// The preferences file as it is read.
+/// The contents of the preferences file.
 PropertyList::Dictionary storedPreferences();
 /// The gains array under the key; empty when there is none.
 std::vector<float> floatsIn(const PropertyList::Dictionary&, const std::string& key);
 std::vector<std::string> keysOf(const PropertyList::Dictionary&);
-/// Matches those keys of a dictionary, in that order where dictionaries have one.
+/// Matches a dictionary's keys, in that order on platforms that keep it.
 testing::Matcher<std::vector<std::string>> areKeys(const std::vector<std::string>&);
 
 } // namespace brimsound::tests

@@ -35,7 +35,7 @@ PropertyList::Dictionary twoPresets()
     return { { "Mine", rising() }, { "Yours", level(3) } };
 }
 
-/// Preferences with those presets and ten zero gains; the preamp stays where it is.
+/// Preferences with those presets, ten zero gains and the current preamp.
 PropertyList::Dictionary preferencesWithPresets(const PropertyList& presets)
 {
     return { { peakingEqValuesKey, level(0) }, { autoPreampKey, false }, { presetsKey, presets } };
@@ -354,7 +354,7 @@ TEST_F(ARow, IsNotSelectedWhenItsCellWasBefore)
     pane.showPresets();
     platform.layOut();
     const auto used = retain(pane.list().cellForRowAtIndexPath({ 0, 0 }));
-    // All cells wait to be used again now.
+    // Now all cells are available for reuse.
     pane.list().reloadData();
     used->setSelected(true, Animated::No);
     std::vector<RetainPtr<UITableViewCell>> cells;
@@ -430,7 +430,7 @@ TEST_F(ARow, ForSavingShowsAWhitePlusOfTheSameShapeWhilePressed)
     const auto cell = pane.cell({ 0, 0 });
     const auto& plus = *cell->imageView().image();
     const auto& pressed = *cell->imageView().highlightedImage();
-    // The artwork has two pixels a point, the pressed one has one.
+    // The artwork has two pixels per point, the image for pressed rows has one.
     const auto scale = widthOf(plus) / widthOf(pressed);
     const auto alphas = [](const UIImage& image, std::size_t x, std::size_t y, std::size_t size) {
         int sum = 0;
@@ -444,7 +444,7 @@ TEST_F(ARow, ForSavingShowsAWhitePlusOfTheSameShapeWhilePressed)
         for (std::size_t x = 0; x < widthOf(pressed); ++x) {
             const auto pixel = pixelOf(pressed, x, y);
             EXPECT_THAT(pixel, Each(pixel[3])) << "white, at " << x << " " << y;
-            // Filled and then cut to the shape of what was drawn: the alpha of the shape, weighted once.
+            // Filled and then masked with the drawn shape: the shape's alpha, applied once.
             EXPECT_NEAR(pixel[3], alphas(plus, x, y, scale), 40) << x << " " << y;
             opaque += pixel[3] == 255;
             clear += pixel[3] == 0;
@@ -499,7 +499,7 @@ TEST_F(ARow, WithMoreThanTenGainsShowsTheFirstTen)
 
 class ChoosingAPreset : public ThePresetList {
 protected:
-    /// What the delegate does for ten bands, each a gesture of its own.
+    /// The delegate's effects for ten bands, each edited in its own gesture.
     static std::vector<std::string> tenEdits()
     {
         std::vector<std::string> edits;
@@ -631,7 +631,7 @@ TEST_F(ChoosingAPreset, WithMoreThanTenGainsPlaysTheFirstTen)
     EXPECT_THAT(storedGains("Long"), SizeIs(11));
 }
 
-/// Answers the panel's method, or none.
+/// Implements the panel's method, or does not.
 class Delegate : public NSObject {
 public:
     explicit Delegate(bool answers)
@@ -691,7 +691,7 @@ TEST_F(ChoosingAPreset, ClosesThePanelBeforeTheDelegateIsTold)
     EXPECT_FALSE(delegate->tookTouchesThen);
 }
 
-/// Shows the list again while it is told of a choice.
+/// Shows the list again when it is told of a choice.
 class Reloader : public NSObject {
 public:
     std::span<const Method> methods() const override

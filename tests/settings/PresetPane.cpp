@@ -22,7 +22,7 @@ PresetPane::PresetPane(TestPlatform& platform, CGSize window)
 
 PresetPane::~PresetPane()
 {
-    // Pane and panel hold one another.
+    // The pane and the panel retain each other.
     if (_controller->saver())
         _controller->saver()->setDelegate(nullptr);
 }

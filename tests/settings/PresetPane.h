@@ -1,4 +1,4 @@
-// A pane in a window of its own, and the preset panel over it.
+// A pane in its own window, and the preset panel over it.
 #pragma once
 
 #include "settings/BrimsoundSettings.h"
@@ -10,11 +10,11 @@
 
 namespace brimsound::tests {
 
-/// Where the preset is in the panel's list; behind all others where it is not.
+/// The row of the preset in the panel's list; one past the last when it is missing.
 std::size_t rowOf(const std::string& name, const PlaylistSaver&);
 
-/// Opens a pane in the platform's window, sliders and all. Gestures on the panel go through its data source
-/// and delegate methods, as a table calls them.
+/// Opens a pane in the platform's window with its sliders. Gestures on the panel call its data source and
+/// delegate methods, as a table does.
 class PresetPane {
 public:
     explicit PresetPane(TestPlatform&, CGSize window = { 320, 568 });
@@ -29,13 +29,13 @@ public:
     PlaylistSaver& panel() const { return *_controller->saver(); }
     UITableView& list() const { return *panel().tableView(); }
     UIView& root() const { return panel().view(); }
-    /// What the panel lies in.
+    /// The view that contains the panel.
     UIView& host() const { return *root().superview(); }
 
     /// The names in the list, in its order.
     std::vector<std::string> names() const;
     std::size_t rowOf(const std::string& name) const { return tests::rowOf(name, panel()); }
-    /// A row's cell, asked for anew.
+    /// A new cell for a row.
     RetainPtr<UITableViewCell> cell(const NSIndexPath&) const;
     RetainPtr<UITableViewCell> cellNamed(const std::string& name) const { return cell({ 1, rowOf(name) }); }
 
@@ -44,7 +44,7 @@ public:
     /// Opens name entry, types, and presses Return.
     void save(const std::string& name) const;
 
-    /// What the pane did since the last call; what opening it did is not part of it.
+    /// The pane's effects since the last call, without those of opening it.
     std::vector<std::string> trace() const { return _platform.takeTrace(); }
 
 private:

@@ -24,7 +24,7 @@ Components componentsOf(const RetainPtr<UIColor>& color)
 const Components white { 1, 1, 1, 1 };
 const Components black { 0, 0, 0, 1 };
 
-/// The panel's views, by their place in the tree.
+/// The panel's views, by their position in the tree.
 struct Views {
     explicit Views(const PresetPane& pane)
         : root(pane.root())
@@ -112,7 +112,7 @@ protected:
     TestPlatform platform;
 };
 
-/// What the panel's views have on a host of that size while it shows its list.
+/// Expects the frames of the panel's views for a host of that size while it shows its list.
 void expectLaidOut(const PresetPane& pane, const Layout& layout)
 {
     const auto& [host, main] = layout;
@@ -142,7 +142,7 @@ TEST_P(ThePanelOnAHost, HasThemAtASecondShowingToo)
     const PresetPane pane(platform, { 260, 400 });
     pane.showPresets();
     pane.panel().hideEverything();
-    // Out of the host, so that it does not follow by itself.
+    // Removed from the host, so that its size does not change automatically.
     pane.root().removeFromSuperview();
     platform.resizeWindow(GetParam().host);
     pane.showPresets();
@@ -181,7 +181,7 @@ TEST_P(ThePanelOnAHost, FollowsItDuringNameEntry)
     pane.showPresets();
     pane.panel().tableViewDidSelectRowAtIndexPath(pane.list(), { 0, 0 });
     pane.panel().nameField().setText("New");
-    // Once on the way to the collapsed form, once when it is there.
+    // Once during the collapse animation, once after it.
     platform.passTime(0.1);
     for (const CGSize host : { CGSize { 500, 400 }, GetParam().host }) {
         platform.resizeWindow(host);
@@ -254,7 +254,7 @@ TEST_P(APaneInALowWindow, ShowsThePresetsWithoutScrolling)
     EXPECT_EQ(pane.root().alpha(), 1);
     ASSERT_NE(pane.controller().sliders(), nullptr);
 
-    // The row that comes on view is the one that was built.
+    // When it scrolls into view, the row is the one that was built before.
     table.setContentOffset(table.rectForRowAtIndexPath(sliderRow).origin);
     platform.layOut();
     const auto* cell = table.cellForRowAtIndexPath(sliderRow);
@@ -555,7 +555,7 @@ TEST_F(ThePanel, LetsGoOfItsViewsWhenTheyAreUnloaded)
     EXPECT_TRUE(panel.presetDict().empty());
     EXPECT_NE(&panel.view(), root.get());
     EXPECT_EQ(root->superview(), nullptr);
-    // Whatever comes then has nothing to act on.
+    // Later calls have no views to act on.
     panel.showEverything();
     panel.hideEverything();
     panel.touchDownCancel();

@@ -32,7 +32,7 @@ Gains all(float gain)
     return gains;
 }
 
-/// 100 x 50 points unless said otherwise.
+/// The default size is 100 x 50 points.
 RetainPtr<SBEqualizerBackgroundView> curve(
     const float* gains = nullptr, const CGRect& frame = CGRectMake(0, 0, 100, 50))
 {
@@ -320,7 +320,7 @@ TEST(AFixedColor, IsHeldOnceHoweverOftenItIsSet)
     const auto view = curve();
     view->setColor(color);
     const auto held = color->retainCount();
-    // Would be noticed: it is the view's own copy that counts, not what the bars show.
+    // Shows that the view's own copy is compared, not the color of the bars.
     view->subviews()[0]->setBackgroundColor(UIColor::whiteColor());
     view->setColor(color);
     EXPECT_EQ(color->retainCount() + 1, held) << "the one bar let go of it, and nobody took it up";

@@ -13,8 +13,8 @@ using testing::ElementsAre;
 
 class SliderCell : public testing::Test {
 protected:
-    /// The x of the bar for a preamp, worked out apart from the pane: where a thumb of that width has its
-    /// center at the negated value.
+    /// The x coordinate of the bar for a preamp, computed independently of the pane: where a thumb of that
+    /// width has its center at the negated value.
     static double barX(const Pane& pane, double preamp)
     {
         const auto frame = pane.slider(0).frame();
@@ -171,7 +171,7 @@ TEST_F(TheSliderRow, IsBuiltOnceAndComesBackWhenTheTableReusesIt)
     EXPECT_EQ(pane.controller().sliders(), first);
     EXPECT_EQ(pane.controller().sliders()->size(), 11u);
     EXPECT_EQ(pane.cell().contentView().subviews().size(), views);
-    // The first cell is not the table's to hand out again: the new one stays empty.
+    // The table cannot reuse the first cell, so the new one stays empty.
     EXPECT_FALSE(again == &pane.cell());
     for (const auto& slider : *first)
         EXPECT_FALSE(slider->superview() == &again->contentView());
@@ -194,7 +194,7 @@ TEST_F(TheSliderRow, StretchesTheSlidersWithTheCellAndKeepsTheCaptions)
         EXPECT_EQ(pane.slider(i).frame(), CGRectMake(35, y, width - 40, 44)) << i;
         EXPECT_EQ(pane.label(i).frame(), CGRectMake(5, y, 25, 44)) << i;
     }
-    // The bar follows with the next change of the preamp.
+    // The bar is moved with the next change of the preamp.
     EXPECT_EQ(pane.controller().blackBar()->frame(), barBefore);
     pane.controller().updateBlackBar();
     EXPECT_DOUBLE_EQ(pane.controller().blackBar()->frame().origin.x, 35 + 440 / 2.0);

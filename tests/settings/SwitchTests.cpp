@@ -27,7 +27,7 @@ protected:
     }
     ~Switch() override { kCFCoreFoundationVersionNumber = _versionBefore; }
 
-    /// Calls the method by its name, as a switch row does.
+    /// Calls the method by name, as a switch row does.
     PropertyList call(const char* selector, const PropertyList& value = {})
     {
         const Argument argument = &value;
@@ -255,7 +255,7 @@ TEST_F(TheRespringButton, RestartsNothing)
     EXPECT_EQ(platform.preferencesFile(), "");
 }
 
-/// Notes when it would save a model of its own.
+/// Records when it would save its own settings.
 class WithModel : public BrimsoundSettingsListController {
 public:
     void writeSettings() override { called.emplace_back("writeSettings"); }

@@ -1,5 +1,5 @@
-// The world around a pane under test. One implementation for each platform is linked in, so that the
-// behavior tests are the same sources everywhere.
+// The environment of a pane under test. Each platform has its own implementation, so that the tests of the
+// product are the same sources on all platforms.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -12,7 +12,7 @@
 
 namespace brimsound::tests {
 
-/// A fresh device for one test: no preferences file, nobody listening, a media server that answers.
+/// A new device for one test: no preferences file, no observers, and a media server that answers.
 class TestPlatform {
 public:
     TestPlatform();
@@ -20,39 +20,39 @@ public:
     TestPlatform& operator=(const TestPlatform&) = delete;
     ~TestPlatform();
 
-    /// Whether dictionaries have the order of the file and of insertion; else they have one of their own.
+    /// Whether dictionaries keep the order of the file and of insertion. Otherwise the order is unspecified.
     static const bool dictionariesKeepTheirOrder;
 
-    /// What the pane did to the outside world since the last call, in order: "message NAME" ("message NAME
-    /// failed"), "post NAME", "deliver NAME", "write PATH", "log TEXT".
+    /// The pane's outside effects since the last call, in order: "message NAME" ("message NAME failed"),
+    /// "post NAME", "deliver NAME", "write PATH", "log TEXT".
     std::vector<std::string> takeTrace();
     /// The user info of every message sent since the start.
     std::vector<PropertyList::Dictionary> messages() const;
 
-    /// Runs the main loop until every notification that was posted has been delivered.
+    /// Runs the main loop until every posted notification has been delivered.
     void deliverNotifications();
     void postFromAnotherProcess(const std::string& name);
 
-    /// Ends a turn of the main loop, at which objects are let go of that were to last for the turn.
+    /// Ends a turn of the main loop, when autoreleased objects are released.
     void endTurn();
-    /// Lets time pass for whatever moves.
+    /// Advances the clock of animations.
     void passTime(double seconds);
 
-    /// Puts a view, which then fills it, into the window that the app has, with that size in points.
+    /// Puts a view into the app's window, which has that size in points. The view fills the window.
     void showInWindow(UIView&, CGSize);
     void resizeWindow(CGSize);
-    /// What fills the window: the view right below it.
+    /// The view that fills the window: its direct subview.
     UIView& topmostView() const;
-    /// Lays out all that is in the window, as happens before it is drawn.
+    /// Lays out everything in the window, as before drawing.
     void layOut();
 
-    /// The media server goes away, or comes back.
+    /// Stops and starts the media server.
     void stopMediaServer();
     void startMediaServer();
 
-    /// Presses a button of the alert that is shown; 0 is the cancel button. False when none is.
+    /// Presses a button of the current alert; 0 is the cancel button. Returns false when there is no alert.
     bool answerAlert(std::size_t button);
-    /// The title of the alert that is shown; empty when it has none or none is shown.
+    /// The title of the current alert; empty when there is none.
     std::string alertTitle() const;
 
     /// A mail in its sheet, as the user sees it.
@@ -66,28 +66,28 @@ public:
         };
         std::vector<Attachment> attachments;
     };
-    /// The mail that is being composed; nothing when none is.
+    /// The mail that is being composed; nothing when there is none.
     std::optional<Mail> composedMail() const;
-    /// Presses a button of the sheet.
+    /// Press the buttons of the sheet.
     void sendMail();
     void cancelMail();
-    /// Whether a sheet is on its way in or out, a moment after it was presented or dismissed.
+    /// Whether a sheet is being animated, shortly after it was presented or dismissed.
     bool isSheetMoving() const;
 
-    /// Commands are carried out from now on; before, they are only traced.
+    /// Commands are executed from now on. Before, they are only traced.
     void carryOutCommands();
-    /// No command can be started from now on, until they can again.
+    /// No command can be started until the second function is called.
     void failToStartCommands();
     void startCommandsAgain();
-    /// What programs there are for URLs of those schemes, in place of whatever the machine has. A URL that
-    /// the app opens is traced, "url URL", whether there is one or not.
+    /// Replaces the machine's programs by programs for URLs of those schemes. Every URL that the app opens is
+    /// traced as "url URL", whether a program opens it or not.
     void haveProgramsFor(const std::vector<std::string>& schemes);
     void setPreferredLanguages(const std::vector<std::string>& languages);
 
-    /// Puts bytes, or a property list in the XML format, into the preferences file's place.
+    /// Writes bytes, or a property list in the XML format, to the preferences file.
     void writePreferencesFile(const std::string& bytes);
     void writePreferencesFile(const PropertyList&);
-    /// Whatever is written to the file from now on fails.
+    /// All later writes to the file fail.
     void makePreferencesFileUnwritable();
     /// The file's bytes; empty when there is no file.
     std::string preferencesFile() const;
@@ -97,12 +97,12 @@ private:
     std::unique_ptr<Device> _device;
 };
 
-/// Where a view is seen, and in what color (red, green, blue, alpha): on its way there while it is animated.
+/// The displayed frame and color (red, green, blue, alpha) of a view, including during an animation.
 CGRect shownFrame(const UIView&);
 std::vector<CGFloat> shownBackground(const UIView&);
 CGFloat shownAlpha(const UIView&);
 
-/// Lets a controller present its sheets, as the app does that shows it.
+/// Lets a controller present its sheets, as in an app.
 void putIntoAnApp(PSListController&);
 
 } // namespace brimsound::tests

@@ -20,7 +20,7 @@ using testing::ElementsAre;
 const std::string hashOfNoBytes = "d41d8cd98f00b204e9800998ecf8427e";
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-// Hashes in these tests are those of another implementation over the first half of the bytes.
+// The hashes in these tests were computed by another implementation over the first half of the bytes.
 
 TEST(TheHashOfAnImage, IsThatOfTheUpperHalfOfItsPixels)
 {
@@ -60,7 +60,7 @@ TEST(TheHashOfAnImage, DependsOnEveryByteOfTheUpperHalfAndOnNoOther)
 
 TEST(TheHashOfAnImage, TakesOnePixelAPoint)
 {
-    // Every point a square of four equal pixels, which their mean does not change.
+    // Every point is a square of four equal pixels, so their mean is the same.
     const auto points = pattern(6, 4);
     const auto doubled = pixels(12, 8, [&](std::size_t x, std::size_t y) {
         const auto start = points.begin() + static_cast<std::ptrdiff_t>((y / 2 * 6 + x / 2) * 4);
@@ -188,8 +188,8 @@ TEST(TheNegativeOfAnImage, LeavesTheImageAsItIs)
     EXPECT_EQ(bytesOf(*negative(*result)), pattern(6, 4));
 }
 
-/// Colors and alphas of every kind beside one another: the alpha grows from left to right, red from the top
-/// down; green is what red is not, and blue half of the alpha.
+/// Colors and alphas of all kinds: the alpha increases from left to right and red from top to bottom; green
+/// is the complement of red, and blue half of the alpha.
 Bytes everyPixel()
 {
     return pixels(256, 256, [](std::size_t alpha, std::size_t y) {
@@ -199,7 +199,7 @@ Bytes everyPixel()
     });
 }
 
-/// A color of so many 255ths, of which premultiplication makes whole ones again.
+/// A color in 255ths whose premultiplied components are whole numbers again.
 struct Ink {
     int red;
     int green;
@@ -226,8 +226,8 @@ constexpr std::array<Ink, 9> inks { {
     { 200, 254, 3, 254 },
 } };
 
-/// Compares every byte of `tinted` with what the formula makes of that of every pixel: it is given the
-/// premultiplied ink, its alpha, and the premultiplied pixel, its alpha, all from 0 to 1.
+/// Compares every byte of `tinted` with the formula's result for every pixel. The formula's arguments are the
+/// premultiplied ink, its alpha, the premultiplied pixel and its alpha, all from 0 to 1.
 template <typename Formula> void expectTinted(const UIImage& tinted, const Ink& ink, const Formula& formula)
 {
     const auto before = everyPixel();

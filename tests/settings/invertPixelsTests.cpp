@@ -9,7 +9,7 @@ namespace brimsound::tests {
 
 namespace {
 
-/// The formula as it is written.
+/// The formula, written directly.
 std::uint32_t inverted(std::uint32_t color, std::uint32_t alpha)
 {
     if (alpha == 0)
@@ -43,7 +43,7 @@ TEST(InvertingPixels, FollowsTheFormulaForEveryColorAndAlpha)
     }
 }
 
-/// Many of them at once, of which every `strange`th has a color above its alpha; none for 0.
+/// Checks many pixels at once. In every `strange`th a color exceeds its alpha; in none for 0.
 void expectFormulaForMany(std::size_t count, std::size_t strange)
 {
     std::vector<std::uint32_t> pixels;

@@ -1,4 +1,4 @@
-# The behavior of the product, tested over whatever platform there is.
+# Tests of the product that run on every platform.
 set(settings_test_sources
   BadPreferencesTests.cpp
   BandEditTests.cpp
@@ -22,9 +22,9 @@ set(settings_test_sources
   ../support/Images.cpp
 )
 list(TRANSFORM settings_test_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
-# A language of the tests' own, which lies beside the pane's in the bundle that they run with.
+# The tests' own language, stored next to the pane's in the test bundle.
 set(settings_test_resources ${CMAKE_CURRENT_LIST_DIR}/resources)
-# Where the files are that each platform writes.
+# The folder with the files that each platform writes.
 set_source_files_properties(${CMAKE_CURRENT_LIST_DIR}/store/ExchangeTests.cpp PROPERTIES
   COMPILE_DEFINITIONS WRITTEN_FILES="${CMAKE_CURRENT_LIST_DIR}/store"
 )

@@ -14,7 +14,7 @@ std::string bigEndian(std::uint64_t value, int size)
     return bytes;
 }
 
-/// What an object begins with: its kind, and a count that follows as an integer of four bytes.
+/// The start of an object: its kind, and a count as a four-byte integer.
 std::string head(unsigned kind, std::size_t count)
 {
     return std::string(1, static_cast<char>(kind << 4 | 0xf)) + "\x12" + bigEndian(count, 4);

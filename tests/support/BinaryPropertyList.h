@@ -1,4 +1,4 @@
-// Binary property lists put together by hand, for what no writer writes.
+// Binary property lists built by hand, including some that no writer produces.
 #pragma once
 
 #include <cstddef>
@@ -9,28 +9,28 @@
 
 namespace brimsound::tests {
 
-/// A file whose objects, the root first, are given as bytes; references are two bytes long.
+/// A file of those objects, the root first. The objects are given as bytes; references take two bytes.
 std::string binaryFile(const std::vector<std::string>& objects);
 
-/// A file that has an object start at each of these bytes.
+/// A file in which an object starts at each of these bytes.
 std::string overlappingFile(const std::string& objects);
 
-/// An array of the objects at those places.
+/// An array of references to the objects with those numbers.
 std::string arrayOf(std::initializer_list<int> references);
-/// An array that refers to one object many times.
+/// An array with many references to one object.
 std::string arrayOfCopies(std::size_t count, int reference);
-/// A dictionary from the string at one place to the object at another.
+/// A dictionary with one key and one value, given by their object numbers.
 std::string dictionaryOf(int key, int value);
-/// A dictionary from the strings at some places to the objects at as many others.
+/// A dictionary with several keys and as many values, given by their object numbers.
 std::string dictionaryOf(const std::vector<int>& keys, const std::vector<int>& values);
-/// A string marked as ASCII, whatever its bytes are.
+/// A string marked as ASCII, whatever bytes it contains.
 std::string stringOf(std::string_view bytes);
 
-/// The text that many times.
+/// The text repeated that many times.
 std::string repeat(std::string_view text, std::size_t times);
 
-/// 65,536 keys of one hash for a hash that multiplies by 33, as many do: two characters after one another
-/// stand for two others.
+/// 65,536 keys with the same hash in hash functions that multiply by 33, as many do: each consists of pairs
+/// of characters that can be exchanged for another pair.
 std::vector<std::string> collidingKeys();
 
 } // namespace brimsound::tests

@@ -1,4 +1,3 @@
-// An environment variable for the length of a test.
 #pragma once
 
 #include <cstdlib>
@@ -7,7 +6,7 @@
 
 namespace brimsound::tests {
 
-/// Sets a variable, or removes it when the value is null; puts back what was there when it goes.
+/// Sets an environment variable, or removes it when the value is null. The destructor restores the old value.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const char* value)

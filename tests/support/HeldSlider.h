@@ -1,4 +1,3 @@
-// A finger on a slider.
 #pragma once
 
 #include "desktop/brimsound/PaneHost.h"
@@ -8,7 +7,7 @@
 
 namespace brimsound::tests {
 
-/// A pane scrolled to its sliders, the second band of which is held.
+/// A pane scrolled to its sliders, with a finger on the slider of the second band.
 class HeldSlider {
 public:
     explicit HeldSlider(CGSize windowSize)

@@ -1,4 +1,4 @@
-// Images whose pixels a test knows.
+// Images with known pixels.
 #pragma once
 
 #include "platform/UIKit/UIImage.h"
@@ -10,26 +10,26 @@
 
 namespace brimsound::tests {
 
-/// Four bytes a pixel, red, green, blue, alpha, premultiplied, the top row first.
+/// Four bytes per pixel: red, green, blue, alpha, premultiplied, the top row first.
 using Bytes = std::vector<std::uint8_t>;
 
-/// An image of so many pixels, at scale 1.
+/// An image with that many pixels, at scale 1.
 RetainPtr<UIImage> imageOf(std::size_t width, std::size_t height, Bytes);
-/// The same pixels, so many a point.
+/// The same with that many pixels per point.
 RetainPtr<UIImage> imageAtScale(CGFloat scale, std::size_t width, std::size_t height, const Bytes&);
 
-/// How many pixels an image has.
+/// The size of an image in pixels.
 std::size_t widthOf(const UIImage&);
 std::size_t heightOf(const UIImage&);
-/// The pixels, all of them.
+/// All pixels.
 Bytes bytesOf(const UIImage&);
-/// One of them, from the top left corner.
+/// One pixel, counted from the top left corner.
 Bytes pixelOf(const UIImage&, std::size_t x, std::size_t y);
 
-/// So many pixels, each made from where it is.
+/// That many pixels, each computed from its position.
 Bytes pixels(
     std::size_t width, std::size_t height, const std::function<Bytes(std::size_t x, std::size_t y)>&);
-/// Opaque pixels, no two of them near each other alike.
+/// Opaque pixels; neighboring pixels all differ.
 Bytes pattern(std::size_t width, std::size_t height);
 
 } // namespace brimsound::tests

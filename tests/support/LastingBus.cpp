@@ -24,7 +24,7 @@ LastingBus::LastingBus()
     : _folder(newFolder())
     , _address("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + socket().string()).c_str())
 {
-    // Lets the connection notice that the bus of an earlier test has gone.
+    // Lets the connection notice that the bus of an earlier test has ended.
     desktop::SessionBus::shared().process();
     start();
 }
@@ -50,7 +50,7 @@ void LastingBus::kill()
     if (_daemon)
         _daemon->signal(SIGKILL);
     _daemon.reset();
-    // What a crash leaves behind would keep the next one from starting.
+    // A socket left by a crash would prevent the next start.
     std::filesystem::remove(socket());
 }
 

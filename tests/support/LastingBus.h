@@ -1,4 +1,3 @@
-// A session bus that goes away and comes back.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -9,8 +8,8 @@
 
 namespace brimsound::tests {
 
-/// A session bus at an address that stays the same, as the one of a user's session does. This process and its
-/// children find it there whenever it runs.
+/// A session bus that can be stopped and started again at the same address, like that of a user's session.
+/// This process and its children find it there whenever it runs.
 class LastingBus {
 public:
     /// Starts the bus.
@@ -19,9 +18,9 @@ public:
     LastingBus& operator=(const LastingBus&) = delete;
     ~LastingBus();
 
-    /// Comes back when the bus can be reached; throws std::runtime_error when it cannot be started.
+    /// Returns when the bus can be reached. Throws std::runtime_error when it cannot be started.
     void start();
-    /// Ends the bus as a crash would.
+    /// Kills the bus, as in a crash.
     void kill();
 
     desktop::ChildProcess& process() { return *_daemon; }

@@ -1,4 +1,3 @@
-// A running media server.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -8,11 +7,11 @@
 
 namespace brimsound::tests {
 
-/// A real mediaserverd on the session bus and the device root of the moment, with --print and --silent:
-/// the sound of whoever runs the tests is left alone. It ends with this object.
+/// Runs a real mediaserverd on the current session bus and device root, with --print and --silent, so that
+/// the sound of the machine is not changed. It ends with this object.
 class MediaServer {
 public:
-    /// Comes back when the server can be sent to; throws std::runtime_error when it ended before that.
+    /// Returns when the server can receive messages. Throws std::runtime_error when it ends before that.
     MediaServer();
 
     /// The next line that it prints, {"vals":[…]}; nothing when none comes within five seconds.

@@ -1,11 +1,10 @@
-// A process that has run out of descriptors.
 #pragma once
 
 #include <sys/resource.h>
 
 namespace brimsound::tests {
 
-/// The process cannot open a file or pipe while it lives.
+/// While this object exists, the process cannot open a file or a pipe.
 class NoDescriptors {
 public:
     NoDescriptors()

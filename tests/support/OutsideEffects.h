@@ -1,11 +1,10 @@
-// The effects of a test that may reach outside, or may not.
 #pragma once
 
 #include "tests/support/RecordingEffects.h"
 
 namespace brimsound::tests {
 
-/// Sets how far the effects reach until it goes.
+/// Records effects, and chooses whether they reach other programs, until it is destroyed.
 class OutsideEffects : public RecordingEffects {
 public:
     explicit OutsideEffects(desktop::Reach reach)

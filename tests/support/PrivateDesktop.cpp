@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The home of this process, removed with it.
+/// The home folder of this process, removed with the object.
 class Home {
 public:
     Home()
@@ -32,7 +32,7 @@ public:
         set("XDG_CACHE_HOME", path / ".cache");
         set("XDG_DATA_DIRS", path / "none");
         set("XDG_CONFIG_DIRS", path / "none");
-        // A desktop of no particular make, which asks no other process about anything.
+        // An unknown desktop, so that no other process is asked.
         set("XDG_CURRENT_DESKTOP", "X-Generic");
         set("DISPLAY", ":nowhere");
         set("DBUS_SESSION_BUS_ADDRESS", "disabled:");
@@ -81,7 +81,7 @@ fs::path recordOf(const std::string& mimeType)
     return homePath() / (programName(mimeType) + ".opened");
 }
 
-/// Until the condition holds, or long after anybody should still wait. Whether it holds.
+/// Waits until the condition is true, with a very long timeout. Returns whether it is.
 bool eventually(const std::function<bool()>& condition)
 {
     using namespace std::chrono_literals;
@@ -94,7 +94,7 @@ bool eventually(const std::function<bool()>& condition)
     return true;
 }
 
-/// GLib learns of new programs from a thread that watches the folders.
+/// A thread of GLib watches the folders for new programs.
 void waitUntilKnown(const std::string& mimeType, bool known)
 {
     const auto isKnown = [&] {
@@ -123,7 +123,7 @@ PrivateDesktop::PrivateDesktop()
 
 PrivateDesktop::~PrivateDesktop()
 {
-    // The folders that GLib watches stay.
+    // The folders themselves stay, because GLib watches them.
     std::error_code ignored;
     std::vector<fs::path> files;
     for (const auto& entry : fs::recursive_directory_iterator(home())) {

@@ -1,4 +1,4 @@
-// A desktop of a test's own: which programs open what.
+// The test's own desktop, with its own programs for URLs and files.
 #pragma once
 
 #include <filesystem>
@@ -6,8 +6,9 @@
 
 namespace brimsound::tests {
 
-/// A home folder with no programs in it but those that a test puts there, and none outside it. GLib remembers
-/// the first home that it sees, so a process has one for all its tests; each starts with an empty one.
+/// A home folder that contains only the programs that a test installs; the machine's programs are hidden.
+/// GLib caches the first home folder, so a process has one for all its tests; each test starts with an empty
+/// one.
 class PrivateDesktop {
 public:
     PrivateDesktop();
@@ -21,19 +22,18 @@ public:
     /// Makes the command (with %u for the URL or file) the default program for that type, for example
     /// "x-scheme-handler/http".
     void addProgram(const std::string& mimeType, const std::string& command);
-    /// Makes a program the default that writes its argument into a file; see openedBy.
+    /// Makes a program that writes its argument to a file the default; see openedBy.
     void addRecordingProgram(const std::string& mimeType);
     void removeProgram(const std::string& mimeType);
 
-    /// The argument that the recording program for that type was started with; waits for it. Empty when it
-    /// was not.
+    /// Waits for the recording program for that type and returns its argument. Empty when it was not started.
     std::string openedBy(const std::string& mimeType) const;
 
 private:
     void writeDefaults() const;
 };
 
-/// Waits for a file that another program writes. Whether it came.
+/// Waits for a file that another program writes. Returns whether it exists.
 bool appears(const std::filesystem::path&);
 /// All bytes of a file; empty when there is none.
 std::string contentsOf(const std::filesystem::path&);

@@ -1,4 +1,4 @@
-// What a process takes of the machine.
+// The resources that a process uses.
 #pragma once
 
 #include <sys/types.h>
@@ -7,14 +7,14 @@
 
 namespace brimsound::tests {
 
-/// Bytes of memory that the process really holds.
+/// The resident memory of the process in bytes.
 std::size_t residentBytes(pid_t);
 
-/// How many descriptors the process has open; 0 once it has ended.
+/// The number of open descriptors of the process; 0 once it has ended.
 std::size_t openDescriptors(pid_t);
 
-/// Whether this program and those it starts are built with AddressSanitizer, which takes memory and time of
-/// its own.
+/// Whether this program and those it starts are built with AddressSanitizer, which needs more memory and
+/// time.
 bool isSanitized();
 
 } // namespace brimsound::tests

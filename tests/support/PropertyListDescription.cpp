@@ -150,7 +150,7 @@ std::string describeEntries(plist_t node)
         if (!value)
             break;
         const auto key = hexadecimal(text ? text : "");
-        // It keeps keys that are repeated.
+        // libplist keeps repeated keys.
         const auto before = std::find_if(
             entries.begin(), entries.end(), [&](const auto& entry) { return entry.first == key; });
         if (before != entries.end())

@@ -1,4 +1,4 @@
-// Property lists as one line of text, the same line whoever has read them.
+// Property lists as one line of text, for comparing different readers.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -7,12 +7,12 @@
 
 namespace brimsound::tests {
 
-/// The value with everything in it, dictionaries in their order; numbers by their value, whatever they take
-/// in a file. plist_description.py describes likewise what Python has read.
+/// The value with everything in it. Dictionaries keep their order; numbers are printed by value, whatever
+/// their size in the file. plist_description.py produces the same text from what Python reads.
 std::string descriptionOf(const PropertyList&);
-/// As libplist has it, which keeps of an integer the lower 64 bits.
+/// The same as libplist returns it, which keeps only the lower 64 bits of an integer.
 std::string descriptionForLibplist(const PropertyList&);
-/// What libplist makes of a file, "unreadable" when nothing; of a key that is repeated, the last.
+/// libplist's result for a file, "unreadable" when it fails. The last of repeated keys counts.
 std::string descriptionByLibplist(const std::string& file);
 
 } // namespace brimsound::tests

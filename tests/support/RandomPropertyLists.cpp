@@ -11,7 +11,7 @@ namespace brimsound::tests {
 namespace {
 
 constexpr int deepest = 6;
-/// How many values an object of a file may come to, with everything that it refers to.
+/// The maximum number of values in an object of a file, including everything that it refers to.
 constexpr std::size_t mostValues = 2000;
 
 std::string bigEndian(std::uint64_t number, std::size_t size)
@@ -39,7 +39,7 @@ const std::array<std::string, 12> texts {
 
 } // namespace
 
-/// An object, and how many values it comes to.
+/// An object, and the number of its values.
 struct RandomPropertyLists::FileObject {
     std::string bytes;
     std::size_t values = 1;
@@ -53,7 +53,7 @@ RandomPropertyLists::RandomPropertyLists(std::uint32_t seed)
 
 std::size_t RandomPropertyLists::upTo(std::size_t most)
 {
-    // The library's distributions differ from one implementation to the next.
+    // The standard library's distributions differ between implementations.
     return _random() % (most + 1);
 }
 
@@ -70,7 +70,7 @@ PropertyList RandomPropertyLists::value()
 
 PropertyList RandomPropertyLists::container(int depth)
 {
-    // Counts around those at which they take more room in a file.
+    // Includes counts at which the size in the file changes.
     const std::size_t count = oneIn(20) ? 13 + upTo(5) : oneIn(200) ? 250 + upTo(10) : upTo(6);
     const auto element = [&] { return depth < deepest && oneIn(4) ? container(depth + 1) : scalar(); };
     if (oneIn(2)) {
@@ -199,7 +199,7 @@ std::string RandomPropertyLists::fileScalar()
 RandomPropertyLists::FileObject RandomPropertyLists::fileObject(
     std::size_t place, const std::vector<FileObject>& later)
 {
-    // `later` holds the objects behind this one, the last one first.
+    // `later` holds the objects after this one, the last one first.
     const auto referenceTo
         = [&](std::size_t i) { return bigEndian(place + later.size() - i, _referenceSize); };
     const bool isDictionary = oneIn(2);
@@ -216,7 +216,7 @@ RandomPropertyLists::FileObject RandomPropertyLists::fileObject(
     for (auto tries = upTo(20); tries > 0; --tries) {
         const auto element = upTo(later.size() - 1);
         const auto name = upTo(later.size() - 1);
-        // A value whose key comes again would be read by some and passed over by others.
+        // Programs disagree about the value of a repeated key.
         if (total + later[element].values > mostValues
             || (isDictionary && (!later[name].isText || !names.insert(later[name].bytes).second)))
             continue;

@@ -1,4 +1,4 @@
-// Property lists made at random, the same ones for the same seed.
+// Random property lists. The same seed gives the same lists.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -13,10 +13,10 @@ class RandomPropertyLists {
 public:
     explicit RandomPropertyLists(std::uint32_t seed);
 
-    /// A value of any type, with up to a few hundred others in it.
+    /// A value of any type, with up to a few hundred values in it.
     PropertyList value();
-    /// A binary file such as no tidy writer makes: with objects that several containers share, and numbers,
-    /// counts, references and offsets that are longer than need be.
+    /// A binary file that a careful writer would not produce, with objects that several containers share, and
+    /// with numbers, counts, references and offsets longer than necessary.
     std::string file();
 
 private:

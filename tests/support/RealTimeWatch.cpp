@@ -33,7 +33,7 @@ void countAllocation()
 extern "C" {
 
 #ifdef WITH_ADDRESS_SANITIZER
-// The sanitizer has an allocator of its own, and calls these.
+// The sanitizer has its own allocator, which calls these functions.
 void __sanitizer_malloc_hook(const volatile void*, std::size_t)
 {
     countAllocation();
@@ -44,7 +44,7 @@ void __sanitizer_free_hook(const volatile void*)
     countAllocation();
 }
 #else
-// These take the place of the C library's; operator new calls them too.
+// These replace the C library's functions; operator new calls them too.
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);
 void* __libc_realloc(void*, std::size_t);

@@ -1,12 +1,12 @@
-// Watching what the audio thread must not do.
+// Detecting what the audio thread must not do.
 #pragma once
 
 #include <cstddef>
 
 namespace brimsound::tests {
 
-/// Counts what this thread takes of the heap and how often it locks a mutex while this object lives. Only for
-/// test programs that link RealTimeWatch.cpp; one object at a time on a thread.
+/// Counts the heap operations and mutex locks of this thread while this object exists. Only for test programs
+/// that link RealTimeWatch.cpp; one object at a time on a thread.
 class RealTimeWatch {
 public:
     RealTimeWatch();
@@ -14,7 +14,7 @@ public:
     RealTimeWatch& operator=(const RealTimeWatch&) = delete;
     ~RealTimeWatch();
 
-    /// Memory taken or given back.
+    /// The number of allocations and deallocations.
     std::size_t allocations() const;
     std::size_t locks() const;
 };

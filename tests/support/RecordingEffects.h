@@ -1,4 +1,3 @@
-// The effects of a test, in order.
 #pragma once
 
 #include "platform/desktop/effects/Effects.h"
@@ -9,10 +8,10 @@
 
 namespace brimsound::tests {
 
-/// Is the effect observer until it goes; then the one before is again.
+/// Records all effects. It is the effect observer until it is destroyed; then the previous one is restored.
 class RecordingEffects : public desktop::EffectObserver {
 public:
-    /// A message as it was sent.
+    /// A sent message.
     struct Message {
         std::string name;
         PropertyList::Dictionary userInfo;
@@ -28,12 +27,12 @@ public:
     /// NAME", "deliver NAME", "write DEVICEPATH", "log TEXT", "shell COMMAND", "alert MESSAGE (BUTTON,
     /// BUTTON)", "mail SUBJECT", "url URL".
     const std::vector<std::string>& trace() const { return _trace; }
-    /// The trace so far, which then starts anew.
+    /// Returns the trace and clears it.
     std::vector<std::string> takeTrace();
 
-    /// Every mail since the start.
+    /// All mails since the start.
     const std::vector<desktop::Mail>& mails() const { return _mails; }
-    /// Every message since the start.
+    /// All messages since the start.
     const std::vector<Message>& messages() const { return _messages; }
 
     void messageSent(const std::string&, const PropertyList::Dictionary&, const NSError*) override;
@@ -47,7 +46,7 @@ public:
     void lineLogged(std::string_view) override;
 
 protected:
-    /// For observers that know of further effects.
+    /// For derived observers with further effects.
     void record(std::string line) { _trace.push_back(std::move(line)); }
 
 private:

@@ -1,4 +1,3 @@
-// A screen for windows.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -10,8 +9,7 @@
 
 namespace brimsound::tests {
 
-/// An X server with a screen that nobody sees. Programs that are started while it lives open their windows
-/// there.
+/// An X server with an invisible screen. Programs that are started while it exists open their windows there.
 class Screen {
 public:
     Screen()

@@ -1,4 +1,3 @@
-// What the shell has to say.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -7,7 +6,7 @@
 
 namespace brimsound::tests {
 
-/// The first line that the shell command prints; empty when it prints none.
+/// The first line of the shell command's output; empty when there is none.
 inline std::string firstLineOf(const std::string& command)
 {
     desktop::ChildProcess shell({ "sh", "-c", command }, desktop::ChildProcess::Output::Piped);

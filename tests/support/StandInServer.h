@@ -1,4 +1,3 @@
-// A server of a messaging center that answers as a test wants.
 #pragma once
 
 #include "platform/desktop/bus/BusPointers.h"
@@ -9,16 +8,16 @@
 
 namespace brimsound::tests {
 
-/// Owns a center's name on the session bus, over a connection of its own, and answers its messages on a
-/// thread of its own until it goes.
+/// A server of a messaging center with the test's own answers. It owns the center's name on the session bus
+/// through its own connection, and answers messages on its own thread until it is destroyed.
 class StandInServer {
 public:
-    /// Handles one message, as an sd-bus handler does: a reply was sent, or a negative errno.
+    /// Handles one message like an sd-bus handler: sends a reply, or returns a negative errno.
     using Answer = std::function<int(sd_bus_message*)>;
-    /// What happens when another process owns the name: this one fails, or waits until it is free.
+    /// What to do when another process owns the name: fail, or wait until it is free.
     enum class WhenOwned { Fail, Wait };
 
-    /// Throws std::runtime_error when the name cannot be had.
+    /// Throws std::runtime_error when it cannot own the name.
     StandInServer(const std::string& centerName, Answer, WhenOwned = WhenOwned::Fail);
 
 private:

@@ -1,4 +1,3 @@
-// A folder of a test's own.
 #pragma once
 
 #include <filesystem>
@@ -7,7 +6,7 @@
 
 namespace brimsound::tests {
 
-/// A new, empty folder, which is removed with all that is in it when this object goes.
+/// A new empty folder. The destructor removes it with its contents.
 class TemporaryFolder {
 public:
     TemporaryFolder();
@@ -21,7 +20,7 @@ private:
     std::filesystem::path _path;
 };
 
-/// Writes a file with that text, and makes the folders that it lies in.
+/// Writes a file with that text, and creates its parent folders.
 void writeFile(const std::filesystem::path&, std::string_view text);
 /// The bytes of a file; empty when there is none.
 std::string readFile(const std::filesystem::path&);

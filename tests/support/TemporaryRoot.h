@@ -1,4 +1,3 @@
-// A device root of a test's own.
 #pragma once
 
 #include "tests/support/TemporaryFolder.h"
@@ -8,8 +7,8 @@
 
 namespace brimsound::tests {
 
-/// A new folder that is the device root, with the folders of the preferences file in it, until this object
-/// goes; then the folder is removed and the device root is what it was. All paths are device paths.
+/// A new folder that is the device root and contains the folder of the preferences file. The destructor
+/// removes it and restores the previous device root. All paths are device paths.
 class TemporaryRoot {
 public:
     TemporaryRoot();
@@ -20,7 +19,7 @@ public:
     /// The folder on this machine.
     const std::filesystem::path& path() const { return _folder.path(); }
 
-    /// Makes a file with that text, and the folders that it lies in.
+    /// Writes a file with that text, and creates its parent folders.
     void write(std::string_view devicePath, std::string_view text) const;
     /// The bytes of a file; empty when there is none.
     std::string read(std::string_view devicePath) const;

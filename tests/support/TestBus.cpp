@@ -10,7 +10,7 @@ namespace brimsound::tests {
 TestBus::TestBus()
 {
     _bus.emplace();
-    // Lets the connection notice that the bus of an earlier test has gone, and opens it to this one.
+    // Lets the connection notice that the bus of an earlier test has ended, and opens it to this one.
     desktop::SessionBus::shared().process();
     desktop::SessionBus::shared().connection();
 }

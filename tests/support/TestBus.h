@@ -1,4 +1,3 @@
-// A session bus of a test's own.
 #pragma once
 
 #include "platform/desktop/bus/BusPointers.h"
@@ -9,8 +8,8 @@
 
 namespace brimsound::tests {
 
-/// A session bus that nobody else is on, which this process and its children find until it is stopped. A
-/// connection that the process had to another bus is opened anew, to this one.
+/// A session bus of the test's own, which this process and its children use until it is stopped. A connection
+/// of the process to another bus is replaced by one to this bus.
 class TestBus {
 public:
     TestBus();
@@ -18,14 +17,13 @@ public:
     TestBus& operator=(const TestBus&) = delete;
     ~TestBus();
 
-    /// Ends the bus as a crash would: this process's connection finds out when it is used next.
+    /// Ends the bus as in a crash: this process's connection notices it at its next use.
     void stop();
 
-    /// A connection beside this process's own one, as another process would have it. It is served by the test
-    /// alone.
+    /// Another connection, as another process would have. Only the test handles its messages.
     desktop::BusConnection connectAnother();
 
-    /// Posts a Darwin notification as another process would; it is on its way to all when this returns.
+    /// Posts a Darwin notification as another process would. The bus has passed it on when this returns.
     void postFromAnotherProcess(const std::string& name);
 
 private:

@@ -26,11 +26,11 @@ BandGains all(double gain)
     return sliders;
 }
 
-/// The worst of many sets of sliders.
+/// The largest deviations over many sets of sliders.
 struct Worst {
-    /// How far the response is from a slider.
+    /// The largest difference between the response and a slider.
     double error = 0;
-    /// How far it is above the highest slider, or above 0 dB.
+    /// The largest excess over the highest slider, or over 0 dB.
     double overshoot = 0;
     double filterGain = 0;
 
@@ -40,7 +40,7 @@ struct Worst {
         double highest = 0;
         for (std::size_t band = 0; band < targets.bands; ++band) {
             const double miss = std::abs(responseAt(targets, centers[band]) - sliders[band]);
-            // Written so that NaN counts.
+            // The condition is negated so that NaN counts.
             if (!(miss <= error))
                 error = miss;
             highest = std::max(highest, sliders[band]);
@@ -73,7 +73,7 @@ Worst worstOfRandomSets(double rate)
     return worst;
 }
 
-// Every set of sliders at either end.
+// All sets of sliders at their upper or lower ends.
 Worst worstOfCorners(double rate)
 {
     Worst worst;
@@ -131,7 +131,7 @@ TEST_P(ADesign, GoesThroughSlidersAtEitherEnd)
 }
 
 INSTANTIATE_TEST_SUITE_P(CommonRates, ADesign, testing::ValuesIn(commonRates), rateName);
-// Some bands lie above half of these rates, or just below it.
+// Some bands are above half of these rates, or just below it.
 INSTANTIATE_TEST_SUITE_P(OtherRates, ADesign,
     testing::Values(
         8000, 11025, 12000, 12001, 12500, 16000, 22050, 24010, 28001, 32000, 32001, 33000, 352800, 384000),

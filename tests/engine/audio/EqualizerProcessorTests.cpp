@@ -45,7 +45,7 @@ bool sameBits(const Samples& one, const Samples& other)
         [](float sample) { return std::bit_cast<std::uint32_t>(sample); });
 }
 
-// Full range and beyond, both zeros, and numbers too small for full precision.
+// Values up to and beyond full scale, both zeros, and subnormal numbers.
 Samples oddSamples()
 {
     auto samples = noise(1, 4, 4800);
@@ -110,7 +110,7 @@ TEST(AProcessor, ChangesNoBitAgainOnceItIsBackAtFlat)
     auto processor = processorWith(smile, -9);
     processed(processor, noise(2, 1, 4800));
     processor.set(design.solve(all(0), 0));
-    // The last ten-thousandth of a dB takes longest.
+    // The last ten-thousandth of a dB takes the longest.
     processed(processor, noise(3, 1, 9600));
     EXPECT_TRUE(processor.isSettled());
     EXPECT_TRUE(sameBits(processed(processor, oddSamples()), oddSamples()));
@@ -130,7 +130,7 @@ TEST(AProcessor, DoesNotDependOnTheSizeOfBlocks)
     const auto outputInBlocksOf = [&](std::size_t block) {
         auto processor = processorWith(all(0));
         auto output = processed(processor, Samples(input.begin(), input.begin() + 5000), block);
-        // Targets change twice, the second time while the gains still move.
+        // The targets change twice, the second time while the gains are still moving.
         for (const std::size_t start : { 5000U, 5700U }) {
             processor.set(design.solve(start == 5000 ? smile : all(-6), -3));
             const auto end = start == 5000 ? input.begin() + 5700 : input.end();
@@ -194,7 +194,7 @@ TEST(AProcessor, TakesNoInputForSilence)
     EXPECT_THAT(right, Each(0));
     EXPECT_NE(left[999], 0);
 
-    // The filters ring on.
+    // The filters' output decays after the input ends.
     in[0] = nullptr;
     processor.process(in, out, 2, 1000);
     EXPECT_NE(left[10], 0);
@@ -224,7 +224,7 @@ TEST(AProcessor, GlidesToLaterTargets)
     const auto output = processed(processor, Samples(48000, 1.0f));
     EXPECT_GT(output[0], 0.999f);
     EXPECT_TRUE(std::is_sorted(output.rbegin(), output.rend()));
-    // Two poles of 10 ms: half way, in dB, after 16.8 ms, and 99 % after 66 ms.
+    // Two poles of 10 ms: halfway, in dB, after 16.8 ms, and 99 % after 66 ms.
     EXPECT_NEAR(decibels(output[806]), -6, 0.3);
     EXPECT_NEAR(decibels(output[3186]), -12 * 0.99, 0.01);
     EXPECT_NEAR(decibels(output.back()), -12, 1e-5);
@@ -265,7 +265,7 @@ TEST_P(APoisonedProcessor, StaysFiniteAndRecovers)
     const auto output = processed(processor, poisoned);
     EXPECT_TRUE(std::ranges::all_of(output, [](float sample) { return std::isfinite(sample); }));
 
-    // As if the bad samples had been silence.
+    // The same as if the bad samples had been silence.
     auto clean = processorWith(all(12), 12);
     std::fill(poisoned.begin() + 1000, poisoned.begin() + 2000, 0.0f);
     EXPECT_TRUE(sameBits(output, processed(clean, poisoned)));
@@ -278,7 +278,7 @@ TEST(AProcessor, ComesBackFromFiltersThatGrowWithoutBound)
 {
     const auto good = EqualizerDesign(rate).solve(smile, 0);
     auto growing = good;
-    // Damped by less than nothing.
+    // Negative damping.
     growing.inverseQ[3] = -0.5;
     auto processor = processorWith(smile);
     processor.set(growing);
@@ -305,11 +305,11 @@ TEST(AProcessor, StaysStableWhileTargetsJumpAllTheTime)
 
 TEST(AProcessor, FlushesNumbersTooSmallForFullPrecision)
 {
-    // With the preamp at 12 dB such a sample would be four times as large.
+    // With the preamp at 12 dB such a sample would become four times as large.
     auto processor = processorWith(all(0), 12);
     const float small = 1e-40f;
     EXPECT_EQ(bitsOf(processed(processor, { small })[0]), bitsOf(small));
-    // Outside, arithmetic is as it was.
+    // Outside the processor the arithmetic is unchanged.
     const float volatile half = small;
     EXPECT_NE(bitsOf(half * 0.5f), 0U);
 }

@@ -11,7 +11,7 @@ namespace brimsound::audio::tests {
 
 namespace {
 
-/// The cookbook's peaking filter as it is printed there, with Q instead of a bandwidth.
+/// The cookbook's peaking filter as published, with Q instead of a bandwidth.
 double cookbookDecibels(double center, double gain, double q, double frequency, double rate)
 {
     const double amplitude = std::pow(10, gain / 40);
@@ -75,7 +75,7 @@ TEST(TheResponse, IsFlatAtTheEndsOfTheSpectrum)
 
 TEST(TheMaximum, IsFoundBetweenTheSliders)
 {
-    // Equal sliders add up to a little more between them.
+    // The response of equal sliders is slightly higher between them.
     const auto targets = EqualizerDesign(48000).solve({ 0, 0, 0, 0, 6, 6, 0, 0, 0, 0 }, -3);
     double highest = 0;
     for (int point = 0; point < 7000; ++point)

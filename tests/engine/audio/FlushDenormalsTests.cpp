@@ -12,18 +12,18 @@ namespace brimsound::audio::tests {
 
 namespace {
 
-// Read at run time, so that the compiler cannot compute with it.
+// Volatile, so that the compiler cannot compute with the value.
 double volatile smallest = std::numeric_limits<double>::min();
 double volatile one = 1;
 
-// From the bits: comparisons take it for zero while numbers are flushed.
+// Examines the bits, because comparisons treat such a number as zero in flush mode.
 bool isSubnormal(double number)
 {
     const auto bits = std::bit_cast<std::uint64_t>(number) << 1;
     return bits != 0 && bits >> 53 == 0;
 }
 
-/// How often the memory of a bell is subnormal while it rings out.
+/// How often the state of a bell is subnormal while it decays.
 int subnormalsWhileRingingOut()
 {
     const auto bell = bellCoefficients(6, 0.1, 1);

@@ -70,7 +70,7 @@ TEST(ALimiter, HoldsASineBelowFullScaleFromItsFirstSampleOn)
 
 TEST(ALimiter, LetsGoWithATimeConstantOfAFifthOfASecond)
 {
-    // Down by 20 dB at once; then a quiet sound, which shows the gain.
+    // A loud sound causes 20 dB of reduction at once. The quiet sound that follows shows the gain.
     Samples samples(192000, 0.01f);
     samples[0] = 9.8855309f;
     Limiter limiter(rate);
@@ -78,7 +78,7 @@ TEST(ALimiter, LetsGoWithATimeConstantOfAFifthOfASecond)
     EXPECT_NEAR(samples[1] / 0.01f, 0.1, 0.001);
     EXPECT_NEAR(samples[9600] / 0.01f, 1 - 0.9 * std::exp(-1), 0.001);
     EXPECT_NEAR(samples[48000] / 0.01f, 1 - 0.9 * std::exp(-5), 0.001);
-    // Untouched in the end, not only nearly.
+    // In the end exactly unchanged, not only nearly.
     EXPECT_EQ(samples.back(), 0.01f);
 }
 

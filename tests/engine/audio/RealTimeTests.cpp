@@ -1,4 +1,4 @@
-// What runs on the audio thread takes neither memory nor locks.
+// Code on the audio thread neither allocates nor locks.
 #include "desktop/engine/audio/EqualizerDesign.h"
 #include "desktop/engine/audio/EqualizerProcessor.h"
 #include "desktop/engine/audio/Limiter.h"

@@ -1,4 +1,4 @@
-// Moving a slider must not be heard but by its gain: what the movement adds elsewhere in the spectrum.
+// A moving slider must only change its gain. These tests measure what it adds elsewhere in the spectrum.
 #include "desktop/engine/audio/EqualizerDesign.h"
 #include "tests/engine/audio/Signals.h"
 
@@ -12,13 +12,13 @@ namespace {
 
 constexpr double rate = 48000;
 constexpr std::size_t frames = 1U << 16;
-// Messages arrive a hundred times a second.
+// A hundred messages per second.
 constexpr std::size_t update = 480;
 
 /// The 1 kHz slider, in dB, at each update.
 using Movement = std::function<double(std::size_t)>;
 
-// Up in fifty steps, and down again.
+// Up in fifty steps and down again.
 double drag(std::size_t count)
 {
     const auto step = count % 100;
@@ -36,8 +36,8 @@ FilterTargets targetsFor(double slider)
     return design.solve({ 0, 0, 0, 0, slider, 0, 0, 0, 0, 0 }, 0);
 }
 
-/// The sound while the slider moves; with `settled`, jumping from one position to the next as if there were
-/// no smoothing.
+/// The sound while the slider moves. With `settled`, gains jump from one position to the next, as if there
+/// were no smoothing.
 Samples soundOf(const Samples& input, const Movement& slider, bool settled = false)
 {
     EqualizerProcessor processor;
@@ -47,7 +47,7 @@ Samples soundOf(const Samples& input, const Movement& slider, bool settled = fal
         if (settled) {
             EqualizerProcessor stepped;
             stepped.set(targets);
-            // Its filters have been running for a while.
+            // The filters must have run for a while before.
             const auto before = start < 4800 ? 0 : start - 4800;
             processed(stepped,
                 Samples(input.begin() + static_cast<long>(before), input.begin() + static_cast<long>(start)));
@@ -68,7 +68,7 @@ Residue besideTheSine(const Movement& slider, bool settled = false)
     return residue(soundOf(sine(1000, rate, 0.25, frames), slider, settled), rate, 750, 1250);
 }
 
-// What is above 7 kHz, when nothing above 3 kHz goes in.
+// The level above 7 kHz for an input without anything above 3 kHz.
 Residue aboveTheNoise(const Movement& slider)
 {
     auto noise = pinkNoise(1, rate, 20, 3000, frames);

@@ -89,7 +89,7 @@ Samples processed(EqualizerProcessor& processor, const Samples& input, std::size
 double magnitudeAt(const Samples& samples, double frequency, double rate)
 {
     const auto turn = std::polar(1.0, -2 * std::numbers::pi * frequency / rate);
-    // Horner's scheme, from the last sample to the first.
+    // Horner's method, from the last sample to the first.
     double real = 0;
     double imaginary = 0;
     std::for_each(samples.rbegin(), samples.rend(), [&](float sample) {
@@ -106,7 +106,7 @@ Residue residue(const Samples& samples, double rate, double bandFrom, double ban
     Spectrum spectrum(size);
     double taperEnergy = 0;
     for (std::size_t i = 0; i < size; ++i) {
-        // Side lobes of a Hann window to the fourth power fall by 54 dB an octave.
+        // The side lobes of a Hann window to the fourth power decrease by 54 dB per octave.
         const double hann = std::sin(std::numbers::pi * static_cast<double>(i) / static_cast<double>(size));
         const double taper = std::pow(hann, 8);
         taperEnergy += taper * taper;
@@ -141,7 +141,7 @@ Samples pinkNoise(std::uint32_t seed, double rate, double from, double to, std::
             continue;
         const double magnitude = 1 / std::sqrt(frequency);
         spectrum[bin] = std::polar(magnitude, angle(generator));
-        // The real part of a turning number has half its energy.
+        // The real part of a complex oscillation has half its energy.
         energy += magnitude * magnitude / 2;
     }
     transform(spectrum, 1);

@@ -1,4 +1,4 @@
-// Sounds to test with, and what is in them.
+// Test signals and their analysis.
 #pragma once
 
 #include "desktop/engine/audio/EqualizerProcessor.h"
@@ -15,16 +15,16 @@ using Samples = std::vector<float>;
 
 Samples sine(double frequency, double rate, double amplitude, std::size_t frames);
 
-/// Evenly distributed between -amplitude and amplitude; the same for the same seed.
+/// Evenly distributed between -amplitude and amplitude. The same seed gives the same samples.
 Samples noise(std::uint32_t seed, float amplitude, std::size_t frames);
 
-/// One channel through the processor, in blocks of that many frames.
+/// One channel processed in blocks of that many frames.
 Samples processed(EqualizerProcessor&, const Samples&, std::size_t block = 1024);
 
 /// The magnitude of the signal's Fourier transform at a frequency.
 double magnitudeAt(const Samples&, double frequency, double rate);
 
-/// A sound's residue: what remains of it, tapered at both ends, when a band of frequencies is taken out.
+/// The residue of a sound: what remains after tapering both ends and removing a band of frequencies.
 struct Residue {
     /// In dB relative to full scale (an amplitude of 1).
     double rms;
@@ -34,8 +34,8 @@ struct Residue {
 /// The number of samples is a power of two. Frequencies in Hz; the band is inclusive.
 Residue residue(const Samples&, double rate, double bandFrom, double bandTo);
 
-/// A pink sound, 3 dB less an octave, between two frequencies, with an rms of 1. The number of frames is a
-/// power of two.
+/// Pink noise, decreasing by 3 dB per octave, between two frequencies, with an rms of 1. The number of frames
+/// is a power of two.
 Samples pinkNoise(std::uint32_t seed, double rate, double from, double to, std::size_t frames);
 
 double decibels(double ratio);

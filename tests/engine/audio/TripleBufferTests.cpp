@@ -10,7 +10,7 @@ namespace brimsound::audio::tests {
 
 namespace {
 
-// All its numbers are the same, so that a torn one shows.
+// All numbers are the same, so that a mixture of two values is detected.
 FilterTargets numbered(double number)
 {
     FilterTargets targets { .rate = number, .preamp = number };

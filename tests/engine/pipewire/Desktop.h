@@ -1,4 +1,4 @@
-// A desktop with programs that play.
+// A desktop with programs that play sound.
 #pragma once
 
 #include "tests/support/TemporaryRoot.h"
@@ -15,7 +15,7 @@
 
 namespace brimsound::tests {
 
-/// A program that plays until this object goes; what it says is dropped.
+/// A program that plays sound until this object is destroyed. Its output is discarded.
 class Player : public desktop::ChildProcess {
 public:
     explicit Player(const std::vector<std::string>& command)
@@ -32,14 +32,13 @@ private:
     }
 };
 
-/// A preamp of -6 dB tells the equalized sound from the sound as it is.
+/// A preamp of -6 dB distinguishes the equalized sound from the original.
 inline constexpr double preampDecibels = -6;
 inline constexpr double equalizedLevel = sineLevel * 0.5011872;
-/// 1 dB above that; sound as it is would be far beyond.
+/// 1 dB above the equalized level; the original would be far above.
 inline constexpr double equalizedLimit = equalizedLevel * 1.1220185;
 
-/// A test's own sound system, its preferences with a preamp of -6 dB, and a minute of a sine of 1 kHz to
-/// play.
+/// The test's own sound system, preferences with a preamp of -6 dB, and a minute of a 1 kHz sine to play.
 class ADesktop : public testing::Test {
 protected:
     explicit ADesktop(SoundSystem::Devices devices = SoundSystem::Devices::All)
@@ -62,7 +61,7 @@ protected:
         return level > wanted * 0.97 - 1e-4 && level < wanted * 1.03 + 1e-4;
     }
 
-    /// Whether the device comes to play at that level for a while.
+    /// Waits for the device to play at that level for a while. Returns whether it does.
     static testing::AssertionResult comesTo(const Recorder& device, double wanted)
     {
         double found = 0;

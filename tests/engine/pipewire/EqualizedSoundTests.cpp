@@ -1,4 +1,4 @@
-// What the settings do to the sound, by what arrives at the device.
+// The effect of the settings on the sound at the device.
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
 #include "tests/engine/pipewire/Desktop.h"
@@ -21,7 +21,7 @@ Gains with(double preampGain, std::size_t slider, double gain)
     return gains;
 }
 
-/// The largest difference to a sine of 1 kHz that changes slowly: what a step in it would leave.
+/// The largest difference from a 1 kHz sine of slowly changing amplitude. A step in the gain shows in it.
 double largestStep(const Samples& samples)
 {
     const double twice = 2 * std::cos(2 * std::numbers::pi / 48);
@@ -101,7 +101,7 @@ TEST_F(EqualizedSound, IsSwitchedOffAndOnWithoutAClick)
         postSettingsChanged();
         return comesTo(hw1, disabled ? sineLevel : equalizedLevel);
     };
-    // A recorder that lost a block on a busy machine hears a step as well, but not each time.
+    // On a busy machine a recorder can lose a block, which looks like a step, but not every time.
     double smallest = 1;
     for (int attempt = 0; attempt < 5 && smallest > 1e-4; ++attempt) {
         const auto begin = hw1.position();
@@ -109,7 +109,7 @@ TEST_F(EqualizedSound, IsSwitchedOffAndOnWithoutAClick)
         ASSERT_TRUE(switchTo(false));
         smallest = std::min(smallest, largestStep(hw1.samples(begin)));
     }
-    // At once it would be a step of 0.1.
+    // A change without smoothing would be a step of 0.1.
     EXPECT_LT(smallest, 1e-4);
 }
 
@@ -165,7 +165,7 @@ TEST_F(EqualizedSound, ComesWithAWindowAndNotWithAScript)
     const auto isServed = [] { return desktop::SessionBus::shared().hasOwner(messagingCenterName); };
     player.emplace(playTone);
     {
-        // A pipe that never ends.
+        // A pipe that stays open.
         const auto script = system.folder() / "script";
         ASSERT_EQ(mkfifo(script.c_str(), 0600), 0);
         const Player headless({ "sh", "-c", R"(exec "$1" --headless --root "$2" --script - 0<>"$3")", "sh",
@@ -177,7 +177,7 @@ TEST_F(EqualizedSound, ComesWithAWindowAndNotWithAScript)
     }
     ASSERT_TRUE(eventually([&] { return !isServed(); }));
     {
-        // Its window is shown nowhere.
+        // The window is not shown anywhere.
         const EnvironmentVariable noScreen("QT_QPA_PLATFORM", "minimal");
         const Player window({ BRIMSOUND, "--root", root.path() });
         EXPECT_TRUE(comesTo(hw1, equalizedLevel));
@@ -275,7 +275,7 @@ TEST_F(EqualizedSound, ChangesItsChannelsWithTheDeviceAndIsNeverLouder)
     EXPECT_TRUE(
         eventually([&] { return system.targetsOf("brimsound.output") == std::set<std::string> { "hw1" }; }));
 
-    // Of a new pair, only what is different is told.
+    // Only the part of a new pair that differs is reported.
     system.setMetadata("settings", 0, "clock.force-rate", "44100", "");
     EXPECT_EQ(engine->next("rate"), 44100);
     ASSERT_TRUE(send(preamp(-3)));

@@ -1,4 +1,4 @@
-// What goes wrong around the engine, and what is heard then.
+// Faults in the engine's surroundings and their effect on the sound.
 #include "platform/desktop/bus/PrivateBus.h"
 #include "settings/tweak.h"
 #include "tests/engine/pipewire/Desktop.h"
@@ -58,14 +58,14 @@ protected:
         ASSERT_TRUE(comesTo(*hw1, equalizedLevel));
     }
 
-    /// A factor for each of two channels, and half of it for both.
+    /// Sets the volume of each of two channels, and a common factor of one half.
     static void setVolume(std::uint32_t node, const std::string& volume)
     {
         outputOf({ "pw-cli", "set-param", std::to_string(node), "Props",
             "{ volume: 0.5 channelVolumes: [ " + volume + " " + volume + " ] }" });
     }
 
-    /// Whether the session manager has written that text for its next start.
+    /// Whether the session manager has saved that text for its next start.
     bool isStored(const std::string& text)
     {
         std::error_code missing;
@@ -131,8 +131,8 @@ TEST_F(AFaultyDesktop, HasItsStreamsMovedAgainAfterTheSessionManagerWasKilled)
     }
     EXPECT_LT(loudest(hw1->samples()), equalizedLimit);
 
-    // Some session managers take the links with them, and link devices like these again only after PipeWire
-    // was started again too.
+    // Some session managers remove the links, and link devices like these again only after PipeWire was
+    // restarted too.
     hw1.reset();
     player.reset();
     system.killPipeWire();
@@ -149,11 +149,11 @@ TEST_F(AFaultyDesktop, IsHeardAgainWhenTheSessionManagerBringsItsDevicesBackLate
     hw1.reset();
     player.reset();
     system.killSessionManager();
-    // Hardware is the session manager's, and goes and comes with it.
+    // Hardware devices belong to the session manager and disappear with it.
     for (const auto* name : { "surround", "hw2", "hw1" })
         system.unplug(name);
     system.startSessionManager();
-    // Longer than the engine first waits for the output to be linked.
+    // Longer than the engine's first wait for the output to be linked.
     std::this_thread::sleep_for(std::chrono::seconds(3));
     system.plugIn("hw1");
     ASSERT_TRUE(system.waitForDefault("hw1"));
@@ -168,7 +168,7 @@ TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndSaysSoOnce)
 {
     hw1.reset();
     system.killPipeWire();
-    // Each attempt leaves a line in the log of PipeWire's library.
+    // Each attempt to connect writes a line to the log of PipeWire's library.
     const auto log = system.folder() / "library.log";
     const auto errors = system.folder() / "errors";
     {
@@ -215,7 +215,7 @@ TEST_F(AFaultyDesktop, StaysEqualizedWhenRateAndQuantumChange)
 TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
 {
     start();
-    // What happens to a volume right after the start is not taken for a user's doing.
+    // A volume change right after the start is not attributed to the user.
     EXPECT_TRUE(eventually([&] {
         outputOf({ "pactl", "set-sink-volume", "brimsound", "50%" });
         return isNear(level(hw1->next(24000)), equalizedLevel / 8);
@@ -223,7 +223,7 @@ TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
     outputOf({ "pactl", "set-sink-volume", "brimsound", "100%" });
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
 
-    // The output's volume and target are the user's as well, but not for good.
+    // The user can also change the output's volume and target, but they are not kept for the next run.
     const Recorder hw2("hw2");
     const auto output = nodeOf("brimsound.output");
     setVolume(output, "0.125");
@@ -231,7 +231,7 @@ TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
     system.moveStream(output, "hw2");
     EXPECT_TRUE(comesTo(hw2, equalizedLevel / 16));
     outputOf({ "pactl", "set-sink-volume", "brimsound", "50%" });
-    // The session manager keeps such values in its own time, and all at once: what was set last as well.
+    // The session manager saves such values after a delay, all at once, including the last one set.
     setVolume(nodeOf("pw-play"), "0.21875");
     ASSERT_TRUE(eventually([&] { return isStored("0.21875"); }));
     engine->stop();
@@ -243,7 +243,7 @@ TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
 
 TEST_F(AFaultyDesktop, LetsNoneOfTwentyStreamsThroughAsItIs)
 {
-    // Ten together are softer than one alone that is not equalized, for each frequency.
+    // Ten together are softer than a single one that is not equalized, at each frequency.
     constexpr double amplitude = 0.05;
     Gains softest {};
     softest.fill(-12);
@@ -271,7 +271,7 @@ TEST_F(AFaultyDesktop, LetsNoneOfTwentyStreamsThroughAsItIs)
             int linked = 0;
             for (const auto& object : found)
                 linked += object.value("type", "") == "PipeWire:Interface:Link" ? 1 : 0;
-            // Two channels each, those of the output, and the recorder's.
+            // Two links for each stream, two of the output, and the recorder's two.
             return linked >= 2 * 20 + 4;
         }));
         hw1->next(48000);
@@ -288,7 +288,7 @@ TEST_F(AFaultyDesktop, HasOneOfTwoEnginesAtATime)
     start();
     const auto begin = hw1->position();
     const auto errors = system.folder() / "errors";
-    // Of another session, with a bus of its own, but the same PipeWire.
+    // In another session, with its own bus but the same PipeWire.
     const desktop::PrivateBus anotherBus;
     const Player second(
         { "sh", "-c", "exec \"$1\" --root \"$2\" 2>\"$3\"", "sh", MEDIASERVERD, root.path(), errors });
@@ -296,7 +296,7 @@ TEST_F(AFaultyDesktop, HasOneOfTwoEnginesAtATime)
         eventually([&] { return contentsOf(errors).find("another equalizer") != std::string::npos; }));
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));
     EXPECT_LT(loudest(hw1->samples(begin)), equalizedLimit);
-    // It says so once, whatever comes and goes.
+    // It reports this only once, whatever devices appear and disappear.
     system.plugIn("hw3");
     system.unplug("hw3");
     EXPECT_TRUE(comesTo(*hw1, equalizedLevel));

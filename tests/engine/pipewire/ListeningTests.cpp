@@ -1,4 +1,4 @@
-// Somebody speaks while a slider is dragged.
+// Speech while a slider is dragged.
 #include "tests/engine/pipewire/Desktop.h"
 
 #include <cmath>
@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t window = 4096;
 constexpr double pi = std::numbers::pi;
 
-/// The energy between two frequencies in Hz in the window that begins there.
+/// The energy between two frequencies in Hz in a window that starts at `begin`.
 double bandEnergy(const Samples& samples, std::size_t begin, double from, double to)
 {
     const double step = 48000. / window;
@@ -28,7 +28,7 @@ double bandEnergy(const Samples& samples, std::size_t begin, double from, double
     return energy;
 }
 
-/// How many samples later the same sound is in `later`, up to 4,800 either way.
+/// By how many samples the same sound is delayed in `later`, up to 4,800 in either direction.
 std::ptrdiff_t delay(const Samples& earlier, const Samples& later)
 {
     constexpr std::ptrdiff_t most = 4800;
@@ -71,7 +71,7 @@ TEST_F(ListeningToSpeech, HearsASliderThatIsDragged)
     const Recorder after("hw1");
     ASSERT_TRUE(eventually([&] { return level(before.next(4800)) > 0.01; })) << "nobody speaks";
 
-    // Flat gains leave it as it is, so that both can be laid over each other.
+    // Flat gains do not change the sound, so that both recordings can be aligned.
     const auto spokenFrom = before.position();
     const auto heardFrom = after.position();
     before.next(48000);
@@ -93,14 +93,14 @@ TEST_F(ListeningToSpeech, HearsASliderThatIsDragged)
 
     std::vector<double> errors;
     for (const auto& [sample, slider] : positions) {
-        // A message takes a moment to be heard whole; the window lies around it.
+        // A message takes a moment to take full effect; the window is centered on it.
         const auto begin = static_cast<std::ptrdiff_t>(sample) - 512;
         if (begin < 0 || begin - shift < 0 || begin + 4096 > std::ssize(heard)
             || begin - shift + 4096 > std::ssize(spoken))
             continue;
         const auto in = bandEnergy(spoken, static_cast<std::size_t>(begin - shift), 900, 1100);
         const auto out = bandEnergy(heard, static_cast<std::size_t>(begin), 900, 1100);
-        // Between words there is nothing to compare.
+        // There is nothing to compare between words.
         if (in > 1)
             errors.push_back(std::abs(10 * std::log10(out / in) - (slider - 6)));
     }

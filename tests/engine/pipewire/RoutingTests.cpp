@@ -1,4 +1,4 @@
-// Where streams play, by what arrives at the devices.
+// Where streams play, measured by the sound at the devices.
 #include "tests/engine/pipewire/Desktop.h"
 #include "tests/support/sound/EncodedStream.h"
 
@@ -11,7 +11,7 @@ using Targets = std::set<std::string>;
 
 class APlayingDesktop : public ADesktop {
 protected:
-    /// A stream plays through the equalizer to hw1.
+    /// Starts a stream that plays through the equalizer to hw1.
     void playEqualized()
     {
         engine.emplace();
@@ -67,7 +67,7 @@ TEST_F(APlayingDesktop, PlaysToTheOutputThatTheUserPicks)
 
 TEST_F(APlayingDesktop, PlaysToTheNextOutputWhenOneIsUnpluggedAndBack)
 {
-    // Not pw-play: a device that returns makes some versions of it believe that its file has ended.
+    // Not pw-play: some versions of it assume that the file has ended when a device returns.
     engine.emplace();
     player.emplace(std::vector<std::string> { "paplay", tone });
     ASSERT_TRUE(comesTo(hw1, equalizedLevel));
@@ -155,13 +155,13 @@ TEST_F(APlayingDesktop, LeavesAStreamAloneThatAMixerMoved)
     player.emplace(std::vector<std::string> { "paplay", tone });
     ASSERT_TRUE(comesTo(hw1, equalizedLevel));
     std::string input;
-    // paplay's own is the only one that is not a filter's.
+    // paplay's stream is the only one that is not a filter's.
     for (const auto& object : system.graph()) {
         if (object.value("type", "") == "PipeWire:Interface:Node"
             && object.at("info").at("props").value("node.name", "") == "paplay")
             input = object.at("info").at("props").at("object.serial").dump();
     }
-    // The server ignores a move when it has not noticed the one before.
+    // The server ignores a move if it has not noticed the previous one.
     const auto move = [&](const std::string& sink) {
         return eventually([&] {
             outputOf({ "pactl", "move-sink-input", input, sink });
@@ -211,7 +211,7 @@ TEST_F(APlayingDesktop, LeavesEncodedStreamsAlone)
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
     const EncodedStream encoded(EncodedStream::Offers::EncodedAlone);
     const auto stream = nodeOf("encoded");
-    // What starts after it has been decided on later.
+    // A stream that is started after it is also handled after it.
     player.emplace(playTone);
     ASSERT_TRUE(comesTo(hw1, equalizedLevel));
     EXPECT_EQ(system.metadata(stream, "target.object"), std::nullopt);
@@ -234,7 +234,7 @@ TEST_F(APlayingDesktop, PlaysToTheLastDeviceWhenTheUserChoosesTheEqualizer)
     const auto start = hw2.position();
     system.chooseDefault("brimsound");
     ASSERT_TRUE(system.waitForDefault("brimsound"));
-    // It would go to hw1, which has the higher priority.
+    // Otherwise it would play to hw1, which has the higher priority.
     EXPECT_TRUE(
         eventually([&] { return system.metadata(nodeOf("brimsound.output"), "target.object") == "hw2"; }));
     EXPECT_TRUE(system.waitForTargets("brimsound.output", { "hw2" }));
@@ -321,7 +321,7 @@ TEST_F(APlayingDesktop, PlaysOnWhileThereIsNoDevice)
         system.unplug(name);
     ASSERT_TRUE(system.waitForDefault("brimsound"));
     EXPECT_EQ(system.targetsOf("brimsound.output"), Targets {});
-    // Programs neither stop nor run away.
+    // Programs keep playing at the normal speed.
     const auto start = std::chrono::steady_clock::now();
     Player playing({ "pw-play", threeSeconds });
     EXPECT_EQ(playing.exitStatus(std::chrono::seconds(20)), 0);

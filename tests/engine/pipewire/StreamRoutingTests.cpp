@@ -7,7 +7,7 @@ namespace brimsound::engine {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What a failure shows.
+// Prints a write in failure messages.
 void PrintTo(const MetadataWrite& write, std::ostream* out)
 {
     *out << write.subject << " " << write.key << " = " << write.value.value_or("(deleted)") << " ("
@@ -56,7 +56,7 @@ protected:
     {
         routing.metadataChanged(stream, key, value);
     }
-    /// A stream that plays through the equalizer.
+    /// Adds a stream that plays through the equalizer.
     void isRouted()
     {
         appears(plain());
@@ -142,7 +142,7 @@ TEST_F(Routing, LeavesAStreamAloneThatTheUserMovedUntilItIsMovedBack)
     appears(plain());
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 
-    // A mixer moves by serial number, which would not outlive this sink.
+    // A mixer uses the serial number, which becomes invalid when the sink is replaced.
     targets("target.node", "40");
     targets("target.object", "1040");
     EXPECT_THAT(routing.takeWrites(), ElementsAre(deletion(stream, "target.node"), move(stream)));
@@ -308,7 +308,7 @@ TEST_F(Routing, LeavesTheOutputWhereTheUserMovedItWhileTheEqualizerWasTheDefault
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
     routing.defaultSinkChanged("hw2");
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
-    // Where it had once been sent.
+    // The target of an earlier move.
     routing.metadataChanged(output, "target.object", "hw1");
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 constexpr CGBitmapInfo premultipliedRGBA
     = CGBitmapInfo { kCGImageAlphaPremultipliedLast } | kCGBitmapByteOrder32Big;
 
-/// Two pixels wide and high.
+/// A context two pixels wide and high.
 class AContext : public testing::Test {
 protected:
     AContext() { CGContextSetRGBFillColor(context, 1, 0, 0, 1); }

@@ -8,7 +8,7 @@ namespace {
 
 TEST(AFormattedNumber, HasADecimalPointInEveryLanguage)
 {
-    // The library minds the language only from its second number on.
+    // The library applies the locale only from its second number on.
     [NSString stringWithFormat:@"%.1f", 0.5];
     ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8"));
     NSString* text = [NSString stringWithFormat:@"%.1f %@", -3.5, @"dB"];

@@ -1,4 +1,4 @@
-// Values of every type, there and back between the platform's objects and the product's own.
+// Conversion of values of every type to the platform's objects and back.
 #include "platform/ios/Foundation/PropertyListConversion.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace brimsound::ios {
 namespace {
 
-/// The value after it has been a native one.
+/// Converts the value to a native one and back.
 std::optional<PropertyList> thereAndBack(const PropertyList& value)
 {
     return valueOf(nativeValue(value));
@@ -32,7 +32,7 @@ TEST(AConvertedReal, KeepsItsPrecision)
     EXPECT_FALSE(thereAndBack(1.5)->isSingleReal());
 }
 
-// Halves of surrogate pairs are left out: GNUstep's strings do not take them.
+// Without unpaired surrogates, which GNUstep's strings do not support.
 TEST(AConvertedText, KeepsNulsAndSurrogatePairs)
 {
     for (const auto& text : { std::string("a\0b", 3), std::string("\U0001F3A7 B\u00e4sse") }) {

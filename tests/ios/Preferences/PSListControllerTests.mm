@@ -5,7 +5,7 @@
 
 #include <limits>
 
-/// A pane of the resources' specifiers that answers some of their selectors.
+/// A pane with the resources' specifiers that implements some of their selectors.
 @interface ListUnderTest : PSListController {
 @public
     BOOL isFilterDisabled;

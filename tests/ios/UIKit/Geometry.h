@@ -1,4 +1,4 @@
-// Rectangles in expectations.
+// Printing rectangles in failure messages.
 #pragma once
 
 #import <CoreGraphics/CoreGraphics.h>

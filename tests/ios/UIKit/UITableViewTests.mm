@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// Fills a table with two sections.
+/// Provides a table with two sections.
 @interface RowSource : NSObject <UITableViewDataSource, UITableViewDelegate> {
 @public
     NSInteger counts[2];
@@ -96,7 +96,7 @@ NSIndexPath* path(NSInteger section, NSInteger row)
     return [NSIndexPath indexPathForRow:row inSection:section];
 }
 
-/// A table 250 points high over a row of 100 points and a hundred of 50.
+/// A table 250 points high, with a row of 100 points and a hundred rows of 50.
 class ATable : public testing::Test {
 protected:
     ATable()

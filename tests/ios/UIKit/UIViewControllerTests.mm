@@ -24,7 +24,7 @@
 
 @end
 
-/// Records what it is told of alerts.
+/// Records the delegate calls of alerts.
 @interface AlertRecorder : NSObject <UIAlertViewDelegate> {
 @public
     std::vector<std::string>* clicks;

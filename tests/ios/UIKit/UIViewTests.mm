@@ -7,7 +7,7 @@
 
 #include <limits>
 
-/// Counts what is asked of it.
+/// Counts calls of its methods.
 @interface CountingView : UIView {
 @public
     int layouts;
@@ -192,7 +192,7 @@ TEST_F(AnAnimation, ShowsTheWayToWhatTheViewIsAtOnce)
     EXPECT_EQ(shownAlpha(inner), 1);
     EXPECT_EQ(shownBackground(inner), (Components { 0, 0, 0, 1 }));
 
-    // The curve is slow at first.
+    // The animation curve starts slowly.
     advanceClock(0.05);
     EXPECT_GT(shownFrame(inner).origin.x, 0);
     EXPECT_LT(shownFrame(inner).origin.x, 5);

@@ -37,7 +37,7 @@ void post(const std::string& name)
         CFNotificationCenterGetDarwinNotifyCenter(), name, nullptr, nullptr, true);
 }
 
-// Observers stay for the life of the process: every test observes a name of its own.
+// Observers cannot be removed, so every test uses its own name.
 void observe(void* observer, const std::string& name, CFNotificationCallback callback = recordCall)
 {
     CFNotificationCenterAddObserver(

@@ -81,7 +81,7 @@ double normal(double, double s)
     return s;
 }
 
-/// What becomes of a premultiplied color of the destination and one of the source, with their alphas.
+/// The result for a premultiplied color of the source and of the destination, with their alphas.
 using Formula = std::function<double(double s, double sa, double d, double da)>;
 
 Formula blending(double (*blend)(double d, double s))
@@ -130,7 +130,7 @@ const std::vector<Mode> modes {
     { CGBlendMode::PlusLighter, 27, [](double s, double, double d, double) { return std::min(1.0, s + d); } },
 };
 
-/// Pixels of every kind.
+/// Pixels of all kinds: opaque, translucent and transparent.
 std::vector<Bytes> kindsOfPixels()
 {
     std::vector<Bytes> kinds;
@@ -146,14 +146,14 @@ std::vector<Bytes> kindsOfPixels()
 
 const std::vector<Bytes> kinds = kindsOfPixels();
 
-/// Every kind of pixel in a column of its own.
+/// Each kind of pixel in its own column.
 RetainPtr<UIImage> columns()
 {
     return imageOf(kinds.size(), kinds.size(),
         pixels(kinds.size(), kinds.size(), [](std::size_t x, auto) { return kinds[x]; }));
 }
 
-/// Every kind of pixel in a row of its own, in an image context.
+/// Each kind of pixel in its own row, in an image context.
 class Rows {
 public:
     Rows()
@@ -172,18 +172,18 @@ public:
     Bytes bytes() const { return bytesOf(*UIGraphicsGetImageFromCurrentImageContext()); }
 };
 
-/// The byte from 0 to 1 after source and destination of those kinds have met.
+/// The expected byte, from 0 to 1, for source and destination pixels of those kinds.
 double expected(const Mode& mode, const Bytes& source, const Bytes& destination, std::size_t channel)
 {
     const double sa = source[3] / 255.0;
     const double da = destination[3] / 255.0;
-    // Whatever becomes of the colors, those modes unite the alphas.
+    // These modes combine the alphas in the same way, whatever the colors are.
     if (channel == 3 && mode.mode < CGBlendMode::Clear)
         return sa + da - sa * da;
     return mode.formula(source[channel] / 255.0, sa, destination[channel] / 255.0, da);
 }
 
-/// How far a byte may be from its formula.
+/// The maximum difference of a byte from its formula.
 double tolerance(const Mode& mode)
 {
     return mode.mode == CGBlendMode::Multiply ? 2 : 1 + 1e-9;
@@ -242,7 +242,7 @@ TEST_P(ABlendMode, FollowsItsFormulaForFills)
 INSTANTIATE_TEST_SUITE_P(OfThePlatform, ABlendMode, testing::ValuesIn(modes),
     [](const auto& mode) { return "Number" + std::to_string(mode.param.number); });
 
-/// An opaque pixel after the color was laid over it.
+/// An opaque pixel after filling with the color.
 Bytes filled(const Bytes& pixel, CGBlendMode mode, const RetainPtr<UIColor>& color)
 {
     UIGraphicsBeginImageContext({ 1, 1 });
@@ -256,7 +256,7 @@ Bytes filled(const Bytes& pixel, CGBlendMode mode, const RetainPtr<UIColor>& col
     return bytes;
 }
 
-/// An opaque gray, within one level.
+/// An opaque gray, with a tolerance of one level.
 MATCHER_P(IsGray, level, "")
 {
     const auto isLevel = [&](std::uint8_t byte) { return std::abs(byte - level) <= 1; };
@@ -273,7 +273,7 @@ TEST(ABlendModeOfHueSaturationAndLuminosity, TellsTheColorsApart)
     EXPECT_THAT(filled(gray, CGBlendMode::Luminosity, color(1, 0, 0)), IsGray(77));
     EXPECT_THAT(filled(gray, CGBlendMode::Luminosity, color(0, 1, 0)), IsGray(150));
     EXPECT_THAT(filled(gray, CGBlendMode::Luminosity, color(0, 0, 1)), IsGray(28));
-    // Without any saturation nothing but the luminosity is left, and gray takes no hue.
+    // Without saturation only the luminosity remains, and gray has no hue.
     EXPECT_THAT(filled(red, CGBlendMode::Saturation, color(0.5, 0.5, 0.5)), IsGray(77));
     EXPECT_THAT(filled(red, CGBlendMode::Color, color(0.2, 0.2, 0.2)), IsGray(77));
     EXPECT_THAT(filled(gray, CGBlendMode::Hue, color(1, 0, 0)), IsGray(100));

@@ -22,7 +22,7 @@ const Bytes green { 0, 255, 0, 255 };
 const Bytes blue { 0, 0, 255, 255 };
 const Bytes white { 255, 255, 255, 255 };
 
-/// Red and green above, blue and white below.
+/// Red and green at the top, blue and white at the bottom.
 RetainPtr<UIImage> fourColors()
 {
     return imageOf(2, 2, pixels(2, 2, [](std::size_t x, std::size_t y) {
@@ -32,7 +32,7 @@ RetainPtr<UIImage> fourColors()
     }));
 }
 
-/// A bitmap context on bytes of the test's own.
+/// A bitmap context on the test's own bytes.
 class ABitmapContext : public testing::Test {
 protected:
     static constexpr std::size_t width = 4;
@@ -43,7 +43,7 @@ protected:
         const auto start = bytes.begin() + static_cast<std::ptrdiff_t>((y * width + x) * 4);
         return { start, start + 4 };
     }
-    /// The pixels in the corners: above left and right, below left and right.
+    /// The pixels in the corners: top left and right, bottom left and right.
     std::vector<Bytes> corners() const
     {
         return { pixel(0, 0), pixel(width - 1, 0), pixel(0, height - 1), pixel(width - 1, height - 1) };

@@ -10,7 +10,7 @@ namespace brimsound::tests {
 
 namespace {
 
-/// The image drawn over so many pixels.
+/// The image drawn over that many pixels.
 Bytes drawnAt(std::size_t width, std::size_t height, const UIImage& image)
 {
     Bytes bytes(width * height * 4);
@@ -20,8 +20,8 @@ Bytes drawnAt(std::size_t width, std::size_t height, const UIImage& image)
     return bytes;
 }
 
-/// The mean of the area that a pixel covers, in another way: of points spread over it, as many as give every
-/// old pixel a whole number of them.
+/// The mean of the area that a pixel covers, computed in another way: from evenly spaced points, with a whole
+/// number of them in every source pixel.
 double meanOver(const Bytes& from, std::size_t width, std::size_t height, std::size_t newWidth,
     std::size_t newHeight, std::size_t newIndex)
 {
@@ -79,7 +79,7 @@ TEST(DrawingAnImageLarger, KeepsItsCornersAndChangesEvenlyBetweenThem)
     const auto larger = drawnAt(8, 3, *image);
     for (std::size_t y = 0; y < 3; ++y) {
         for (std::size_t x = 0; x < 8; ++x) {
-            // From the middle of the one pixel, at 2, to that of the other, at 6.
+            // From the center of one pixel, at 2, to that of the other, at 6.
             const double way = std::clamp((static_cast<double>(x) + 0.5 - 2) / 4, 0.0, 1.0);
             const auto* pixel = larger.data() + (y * 8 + x) * 4;
             EXPECT_NEAR(pixel[0], 200 * way, 2) << x;

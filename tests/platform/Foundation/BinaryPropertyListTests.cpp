@@ -1,4 +1,4 @@
-// The binary format byte by byte: what is read of objects put together by hand, and what bytes come out.
+// The binary format byte by byte: reading objects that were built by hand, and the bytes that are written.
 #include "platform/desktop/Foundation/BinaryPropertyListReader.h"
 #include "platform/desktop/Foundation/BinaryPropertyListWriter.h"
 #include "tests/support/Alike.h"
@@ -40,7 +40,7 @@ std::string writing(const PropertyList& value)
     return data ? std::string(reinterpret_cast<const char*>(data->data()), data->size()) : "";
 }
 
-/// What stands between the magic and the table of a file of one object.
+/// The bytes between the magic number and the table of a file with one object.
 std::string objectOf(const PropertyList& value)
 {
     const auto file = writing(value);
@@ -120,7 +120,7 @@ TEST(ABinaryFile, HoldsEachEqualValueOnce)
     const auto file = writing(same);
     EXPECT_EQ(file.at(file.size() - 32 + 15), '\6') << "not the array and five others";
 
-    // Alike, but of different types or bits.
+    // Equal in value, but with different types or bits.
     const PropertyList::Array different { 1, true, 1.0, 1.0f, PropertyList::Uid { 1 },
         PropertyList::Date { 1 }, "1", PropertyList::Data { std::byte { '1' } }, 0.0, -0.0 };
     const auto other = writing(different);
@@ -171,7 +171,7 @@ TEST(ABinaryObject, ThatEndsBehindTheObjectsIsNone)
 
 TEST(ABinaryContainer, HasNoReferencesBehindTheObjects)
 {
-    // The table that follows starts with zeros, which would refer to the first object.
+    // The table that follows starts with zeros, which would be references to the first object.
     for (const auto& container : { bytes({ 0xa1 }), bytes({ 0xc1 }), bytes({ 0xd1, 0, 0 }) }) {
         auto file = binaryFile({ stringOf("a"), container });
         file[file.size() - 32 + 23] = 1;
@@ -199,7 +199,7 @@ TEST(ABinaryFile, WithAWrongTrailerIsNone)
         file[trailer + offset] = value;
         EXPECT_EQ(reading(file), std::nullopt) << offset;
     }
-    // The magic would be a text.
+    // The magic number would be read as a text.
     auto early = good;
     early[trailer - 1] = 0;
     EXPECT_EQ(reading(early), std::nullopt) << "an object in the magic";

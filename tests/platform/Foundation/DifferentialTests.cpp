@@ -1,5 +1,5 @@
-// What this system reads and writes of property lists, beside what two other programs make of the same files:
-// Python's plistlib and libplist.
+// Compares how this code reads and writes property lists with two other programs: Python's plistlib and
+// libplist.
 #include "platform/desktop/Foundation/BinaryPropertyListWriter.h"
 #include "platform/desktop/Foundation/PropertyListParsing.h"
 #include "platform/desktop/process/ChildProcess.h"
@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where another program is known to differ on values that hold such a one.
+/// A known difference of another program, and the values that it applies to.
 struct Difference {
     std::string name;
     std::function<bool(const PropertyList&)> concerns;
@@ -46,7 +46,7 @@ bool holdsNul(std::string_view text)
     return text.find('\0') != std::string_view::npos;
 }
 
-/// Half a surrogate pair: three bytes of which the first is ED and the second A0 or more.
+/// Whether the text contains an unpaired surrogate: three bytes, the first ED and the second A0 or more.
 bool holdsHalfAPair(std::string_view text)
 {
     for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -116,14 +116,14 @@ const std::vector<Difference> readingByLibplist {
         } },
 };
 
-/// The XML that plistlib writes.
+/// Differences in the XML that plistlib writes.
 const std::vector<Difference> readingXmlOfPlistlib {
     { "plistlib's XML has whole seconds", readingByPlistlib[2].concerns },
     { "a carriage return is a line feed to a reader of XML",
         [](const PropertyList& value) { return isKeyOrText(value, holdsControl); } },
 };
 
-/// What both texts are where they first differ; empty when they are equal.
+/// The parts where both texts first differ; empty when they are equal.
 std::string differenceOf(std::string_view theirs, std::string_view ours)
 {
     constexpr std::size_t around = 30;
@@ -136,7 +136,7 @@ std::string differenceOf(std::string_view theirs, std::string_view ours)
         + std::string(ours.substr(from, 2 * around)) + "…";
 }
 
-/// Whether one of the differences is to be expected.
+/// Whether one of the differences applies to the value.
 bool isExcused(const std::vector<Difference>& differences, const PropertyList& value)
 {
     return std::ranges::any_of(
@@ -157,11 +157,11 @@ void describeByPython(const fs::path& folder)
 {
     desktop::ChildProcess python(
         { "python3", PLIST_DESCRIPTION, folder }, desktop::ChildProcess::Output::Piped);
-    // It prints nothing; this waits for its end.
+    // The interpreter prints nothing; this waits until it ends.
     python.readLine(std::chrono::seconds(100));
 }
 
-/// Compares what each program makes of one file.
+/// Compares the results of each program for one file.
 class Comparison {
 public:
     explicit Comparison(const fs::path& file)
@@ -197,7 +197,7 @@ public:
             expectToRead(_xml, " in XML");
     }
 
-    /// Whether plistlib wrote the file anew, which it must then have done byte by byte the same.
+    /// Whether plistlib could write the file. Its bytes must then be the same.
     bool expectTheBytesOfPlistlib() const
     {
         if (_binary.empty() || isExcused(readingByPlistlib, *_value) || isExcused(writingByPlistlib, *_value))
@@ -284,7 +284,7 @@ TEST(AFileWrittenHere, IsReadAlikeByOthersAndHasTheBytesOfPlistlib)
     EXPECT_GT(compared, mostFiles / 10);
 }
 
-/// What the other programs make of the corpus's files where they do not read what is read here.
+/// The results of other programs for files of the corpus that they read differently.
 const std::map<std::string, std::string> knownOfTheCorpus {
     { "doubling-references.plist", "its values have no end where objects that are shared stay shared" },
     { "nested-500.plist", "it is too deep for the interpreter" },

@@ -148,7 +148,7 @@ TEST(ALongDictionary, FindsItsKeysAfterEveryChange)
 
 TEST(ALongDictionary, IsNotSearchedThroughForEveryKey)
 {
-    // Searching through it would compare five billion keys.
+    // A linear search would compare five billion keys.
     constexpr int size = 100'000;
     const auto dictionary = longDictionary(size);
     for (int i = 0; i < size; ++i)

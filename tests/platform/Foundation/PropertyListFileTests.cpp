@@ -65,7 +65,7 @@ PropertyList::Data data(std::string_view bytes)
     return { first, first + bytes.size() };
 }
 
-// What Python's independent reader makes of the file.
+// The contents of the file, as read by Python.
 std::string readByPython(const fs::path& file)
 {
     desktop::ChildProcess python({ "python3", "-c",
@@ -240,7 +240,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
     objects.push_back("\x09");
     EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
 
-    // The entries count by themselves: their key takes no room.
+    // The entries alone exceed the limit, because their key is empty.
     std::vector<std::string> dictionaries { dictionaryOf(1, 2), stringOf("") };
     for (int i = 2; i < 100; ++i)
         dictionaries.push_back(dictionaryOf({ 1, 1 }, { i + 1, i + 1 }));
@@ -267,7 +267,7 @@ TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
 
 TEST_F(ReadingAPropertyListFile, GivesNothingForTextThatGetsTooLongToBeSaved)
 {
-    // Each byte that is none becomes three.
+    // Each invalid byte becomes three.
     const auto value = reading(binaryFile({ stringOf(std::string(4'000'000, '\xff')) }));
     ASSERT_TRUE(value);
     EXPECT_TRUE(dataWithPropertyList(*value, binary, 0));
@@ -312,7 +312,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatIsTooLong)
 TEST_F(ReadingAPropertyListFile, TakesNoMemoryForAFileThatIsTooLong)
 {
     root.write(path, "bplist00");
-    // It holds next to nothing, and claims more than any machine has.
+    // A sparse file: it takes almost no disk space, but is larger than any machine's memory.
     fs::resize_file(root.path() / "values.plist", std::uintmax_t { 1 } << 42);
     EXPECT_EQ(readPropertyListFile(path), std::nullopt);
 }

@@ -25,7 +25,7 @@ TEST(ANumber, ConvertsAsFoundationsDo)
     EXPECT_FALSE(PropertyList(0).boolValue());
     EXPECT_TRUE(PropertyList(std::nan("")).boolValue());
     EXPECT_EQ(PropertyList(largestInteger).integerValue(), largestInteger);
-    // Rounded once: by way of a double this would come out one step lower.
+    // Rounded once: converting by way of a double would give the next lower value.
     EXPECT_EQ(PropertyList((std::int64_t { 1 } << 60) + (std::int64_t { 1 } << 36) + 1).floatValue(),
         0x1p60f + 0x1p37f);
 }
@@ -48,7 +48,7 @@ TEST(ANumber, Beyond64BitsConvertsAsNearAsItCan)
     EXPECT_EQ(largest.integerValue(), -1);
     EXPECT_TRUE(largest.boolValue());
     EXPECT_EQ(PropertyList(PropertyList::WideInteger { -2, 0 }).doubleValue(), -0x1p65);
-    // Rounded once: by way of a double this would come out one step lower.
+    // Rounded once: converting by way of a double would give the next lower value.
     EXPECT_EQ(PropertyList((std::uint64_t { 1 } << 63) + (std::uint64_t { 1 } << 39) + 1).floatValue(),
         0x1p63f + 0x1p40f);
 }

@@ -41,7 +41,7 @@ class HandingOverAMail : public testing::Test {
 protected:
     HandingOverAMail() { fs::create_directories(taken); }
 
-    /// A mail client that writes down what it is given; it says then in `kind` how it was given that.
+    /// Installs a mail client that stores the mail it receives, and in `kind` how it received it.
     void addMailClientFor(const std::string& mimeType)
     {
         desktop.addProgram(mimeType, MAIL_CLIENT " " + taken.string() + " %u");
@@ -58,7 +58,7 @@ protected:
         EXPECT_EQ(part("2-prefs.plist"), binary);
     }
 
-    /// Everything that was written to disk for mails.
+    /// All files that were written for mails.
     std::vector<fs::path> files() const
     {
         std::vector<fs::path> found;
@@ -210,7 +210,7 @@ TEST_F(HandingOverAMail, RemovesTheFilesOfEarlierDays)
 
 TEST_F(HandingOverAMail, DoesNotWaitForTheMailClientsEnd)
 {
-    // On a desktop of no particular make, the client runs in the foreground of what starts it.
+    // On an unknown desktop, the mail client runs in the foreground of the script that starts it.
     const auto script = desktop.home() / "client.sh";
     std::ofstream(script) << "echo $$ > " << (taken / "process").string() << "; exec sleep 30\n";
     desktop.addProgram(mailto, "/bin/sh " + script.string() + " %u");

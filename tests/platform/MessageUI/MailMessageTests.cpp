@@ -23,7 +23,7 @@ NSData bytes(std::string_view text)
     return data;
 }
 
-/// The message as another mail reader has it.
+/// A message, parsed by another mail library.
 class AMessage : public testing::Test {
 protected:
     void read(const std::string& message)

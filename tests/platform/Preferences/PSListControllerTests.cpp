@@ -21,7 +21,7 @@ using testing::SizeIs;
 
 using Properties = PropertyList::Dictionary;
 
-/// A pane of whatever specifiers a test wants, which writes down what it is asked and told.
+/// A pane with the test's specifiers that records its calls.
 class TestPane : public PSListController {
 public:
     TestPane()

@@ -24,7 +24,7 @@ std::string readAll(std::FILE* stream)
     return text;
 }
 
-/// No file can be opened until this goes.
+/// No file can be opened while this object exists.
 class NoMoreFiles {
 public:
     NoMoreFiles()

@@ -23,7 +23,7 @@ protected:
         message.reset(created);
     }
 
-    // The message as its receiver gets it.
+    // The message as the receiver gets it.
     sd_bus_message* received()
     {
         sd_bus_message_seal(message.get(), 1, 0);
@@ -38,7 +38,7 @@ protected:
         return dictionary;
     }
 
-    // The signature of the only value.
+    // The D-Bus signature of the value.
     std::string signatureOf(const PropertyList& value)
     {
         EXPECT_GE(appendDictionary(message.get(), { { "value", value } }), 0);

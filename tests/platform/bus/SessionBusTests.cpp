@@ -21,7 +21,7 @@ namespace {
 
 class ASessionBus : public testing::Test {
 protected:
-    // Handlers stay for the life of the process: every test has its own notifications, by name.
+    // Handlers cannot be removed, so every test uses its own notification names.
     std::vector<std::string>& listen()
     {
         auto heard = std::make_shared<std::vector<std::string>>();

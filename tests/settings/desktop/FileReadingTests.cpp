@@ -1,4 +1,4 @@
-// How often the pane opens the preferences file, seen from outside.
+// How often the pane opens the preferences file, observed from outside.
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "settings/tweak.h"
 #include "tests/settings/Pane.h"
@@ -18,13 +18,13 @@ namespace {
 
 using testing::ElementsAreArray;
 
-/// Notes each time that a file is closed, by whichever process.
+/// Records each time that a process closes the file.
 class FileWatch {
 public:
     explicit FileWatch(const std::filesystem::path& file)
         : _queue(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
     {
-        // Opening is watched too, as equal events after one another are told as one.
+        // Opening is watched too, because equal consecutive events are merged.
         inotify_add_watch(_queue, file.c_str(), IN_OPEN | IN_CLOSE);
     }
     FileWatch(const FileWatch&) = delete;
@@ -52,7 +52,7 @@ private:
     int _queue;
 };
 
-/// Nobody but the pane uses the file.
+/// Only the pane uses the file.
 class ThePreferencesFile : public testing::Test {
 protected:
     ThePreferencesFile() { platform.stopMediaServer(); }
@@ -76,7 +76,7 @@ TEST_F(ThePreferencesFile, IsNotOpenedWhileASliderIsDragged)
     pane.drag(3, 4.5f);
     EXPECT_THAT(watch.takeUses(), testing::IsEmpty());
     pane.lift(3);
-    // The pane ignores what it posted itself.
+    // The pane ignores the notification that it posted itself.
     platform.deliverNotifications();
     EXPECT_THAT(watch.takeUses(), ElementsAreArray({ "read", "write" }));
 }

@@ -26,7 +26,7 @@ namespace brimsound::tests {
 
 namespace {
 
-/// The controller at the root of the app that a pane under test is in.
+/// The root controller of the app that shows the pane under test.
 UIViewController& appController()
 {
     static const auto controller = make<UIViewController>();

@@ -1,4 +1,4 @@
-// Rows measure their texts, which takes a running Qt; a display it does not take.
+// Rows measure their texts, which needs a running Qt but no display.
 #include <QGuiApplication>
 
 #include <gmock/gmock.h>

@@ -30,7 +30,7 @@ using ios::nativeView;
 
 namespace {
 
-/// The controller at the root of the app that a pane under test is in.
+/// The root controller of the app that shows the pane under test.
 UIViewController& appController()
 {
     static const auto controller = make<UIViewController>();
@@ -55,7 +55,7 @@ std::string textOf(NSString* text)
     return [text UTF8String];
 }
 
-/// As the main loop does, which lets go at the end of each turn of what was autoreleased in it.
+/// A turn of the main loop. At its end, autoreleased objects are released.
 class Turn {
 public:
     Turn() = default;

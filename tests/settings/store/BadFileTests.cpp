@@ -1,4 +1,4 @@
-// A preferences file that somebody else, or an accident, has written.
+// Preferences files that are damaged or written by another program.
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "settings/store/preferences.h"
 #include "settings/store/presets.h"
@@ -26,7 +26,7 @@ protected:
 
     bool isFresh() const { return areAlike(get_preferences(), fresh); }
 
-    /// Reads the file, changes a value and writes; whether that is read again.
+    /// Reads the file, changes a value and writes it. Returns whether the file can be read again.
     bool canBeSaved() const
     {
         auto preferences = get_preferences();
@@ -39,7 +39,7 @@ protected:
     const PropertyList::Dictionary fresh = get_preferences();
 };
 
-/// What the pane itself writes after some use.
+/// The file that the pane itself writes after some use.
 PropertyList::Dictionary usedPreferences()
 {
     const auto builtin = builtin_presets();
@@ -118,7 +118,7 @@ TEST_F(ABadFile, WithANulInAKeyKeepsIt)
 
 TEST_F(ABadFile, OfPartsInEveryOddTypeKeepsThemWhenASwitchIsFlipped)
 {
-    // An integer beyond 64 bits and one beyond a sign, a UID, a null object, a set, half a surrogate pair.
+    // Integers that exceed 64 bits and 64 signed bits, a UID, a null object, a set, an unpaired surrogate.
     const std::vector<std::string> odd { std::string(1, '\x14') + std::string(16, '\x5a'),
         std::string("\x14") + std::string(8, '\0') + std::string(8, '\xff'), std::string("\x81\x12\x34"),
         std::string(1, '\0'), std::string("\xc2\0\3\0\4", 5), std::string("\x61\xd8\x3d") };

@@ -1,4 +1,4 @@
-// One file, two platforms: what either writes the other reads.
+// Each platform reads the files that the other one writes.
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "settings/tweak.h"
 #include "tests/settings/TestPlatform.h"
@@ -13,7 +13,7 @@ namespace brimsound::tests {
 
 namespace {
 
-/// A value of each type that a property list may hold, and those at which formats differ.
+/// A value of each type in property lists, and values that formats handle differently.
 PropertyList::Dictionary everyType()
 {
     return {
@@ -64,7 +64,7 @@ TEST_P(AFileWritten, IsReadHere)
 
 INSTANTIATE_TEST_SUITE_P(OnEach, AFileWritten, testing::Values("desktop", "device"));
 
-// So that what is read on the other platform is what this one writes.
+// Ensures that the file that the other platform reads is the one that this platform writes.
 TEST(AFileWrittenHere, IsTheOneThatIsReadElsewhere)
 {
     const TestPlatform platform;

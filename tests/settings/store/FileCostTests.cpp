@@ -1,5 +1,5 @@
-// What the worst of files cost: of memory at most 64 MiB, or 16 MiB and twenty times the file when that is
-// less, and no time that grows out of all proportion. How long they take is measured by the benchmarks.
+// The cost of reading the worst files: at most 64 MiB of memory, or 16 MiB plus twenty times the file if that
+// is less, and a time in proportion to the file. Benchmarks measure the time.
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
 #include "tests/support/BinaryPropertyList.h"
@@ -18,7 +18,7 @@
 namespace brimsound::tests {
 namespace {
 
-/// What the process holds of addresses, in bytes.
+/// The size of the process's address space in bytes.
 std::size_t addressSpace()
 {
     std::size_t pages = 0;
@@ -26,11 +26,11 @@ std::size_t addressSpace()
     return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
-/// Many times what any file takes.
+/// Far more than any file takes.
 constexpr rlim_t mostSeconds = 4;
 
-/// Reads the preferences with no more memory than that, in bytes; without it, or after some seconds of
-/// processor time, the process ends by a signal.
+/// Reads the preferences with that limit of memory in bytes. When the memory is too small, or after several
+/// seconds of processor time, a signal ends the process.
 [[noreturn]] void readWithin(std::size_t memory) noexcept
 {
     alarm(60);
@@ -43,7 +43,7 @@ constexpr rlim_t mostSeconds = 4;
     _exit(0);
 }
 
-/// Reads them so in a new process. False when that was ended.
+/// Reads them in this way in a new process. Returns false when a signal ended it.
 bool canBeReadWithin(std::size_t memory)
 {
     const pid_t process = fork();
@@ -61,7 +61,7 @@ protected:
             GTEST_SKIP() << "AddressSanitizer takes memory of its own";
     }
 
-    /// Tries files that grow, so that one is the largest to be taken.
+    /// Tries files of increasing size, up to the largest that is accepted.
     template <typename Make>
     void expectWithinBounds(std::initializer_list<std::size_t> counts, const Make& make)
     {
@@ -86,7 +86,7 @@ protected:
 constexpr std::initializer_list<std::size_t> manyTimes { 30'000, 50'000, 60'000, 80'000, 100'000, 130'000,
     150'000, 250'000, 1'000'000 };
 
-/// A dictionary with an array of so many copies of the objects that follow.
+/// A dictionary with an array of that many copies of the objects that follow.
 auto copiesOf(const std::vector<std::string>& objects)
 {
     return [objects](std::size_t count) {
@@ -156,7 +156,7 @@ TEST_F(AFileThatCosts, StaysWithinBoundsWithLongTexts)
         expectWithinBounds(manyTimes, markupWithText(text));
 }
 
-/// A dictionary of the keys, each for the object behind the last of them.
+/// A dictionary with those keys; each value is the object after the last key.
 std::vector<std::string> dictionaryOfKeys(const std::vector<std::string>& keys)
 {
     std::vector<int> places;
@@ -236,7 +236,7 @@ TEST_F(AFileThatCosts, StaysWithinBoundsWithCountsBeyondTheFile)
 
 TEST_F(AFileThatCosts, StaysWithinBoundsWithObjectsThatOverlap)
 {
-    // Each byte of a long row of markers starts an object: arrays, dictionaries or texts of fourteen or more.
+    // Each byte of a long run of markers starts an object: an array, dictionary or text of fourteen or more.
     for (const char marker : { '\xae', '\xde', '\x5e', '\x6e', '\xaf', '\x5f' }) {
         for (const std::size_t length : { 1'000u, 50'000u })
             expectCost(overlappingFile(std::string(length, marker)));

@@ -1,4 +1,4 @@
-// Files on a real disk that takes no more, and files of somebody else's, each in a process of the test's own.
+// Files on a real full disk, and files of another user, each in its own process.
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "settings/store/preferences.h"
 #include "settings/tweak.h"
@@ -35,8 +35,8 @@ constexpr int impossible = 77;
     _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
-/// Runs the action in a new process, whose failed expectations count here; skips the test when it ends with
-/// `impossible`.
+/// Runs the action in a new process whose failed expectations count here. Skips the test when the process
+/// ends with `impossible`.
 void inAProcessOfItsOwn(const char* reasonToSkip, const std::function<void()>& action)
 {
     const pid_t process = fork();
@@ -51,7 +51,7 @@ void inAProcessOfItsOwn(const char* reasonToSkip, const std::function<void()>& a
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-/// Lays a disk of four pages over the folder, for this process alone.
+/// Mounts a disk of four pages over the folder, for this process only.
 bool mountSmallDisk(const fs::path& folder)
 {
     if (unshare(geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWUSER | CLONE_NEWNS) != 0)
@@ -73,7 +73,7 @@ PropertyList::Dictionary preferencesWithLongName()
     return { { selectedPresetKey, std::string(10'000, 'n') } };
 }
 
-/// Has the system refuse with that error, from now on, to reserve room for a file.
+/// Makes the system fail with that error whenever space is reserved for a file.
 bool refuseToReserve(int error)
 {
     sock_filter instructions[] = {
@@ -91,7 +91,7 @@ class AFailedWrite : public testing::Test {
 protected:
     AFailedWrite() { write_preferences(preferences); }
 
-    /// In a process of its own, whose preferences lie on a disk of four pages.
+    /// Runs the action in its own process, with the preferences on a disk of four pages.
     static void onASmallDisk(const std::function<void()>& action)
     {
         const auto folder = desktop::resolveDevicePath(preferencesPath).parent_path();
@@ -105,7 +105,7 @@ protected:
 
     static fs::path filler() { return desktop::resolveDevicePath(preferencesPath).parent_path() / "filler"; }
 
-    /// Writes what does not fit, and expects the old file.
+    /// Writes more than fits, and expects the old file.
     void expectToKeepTheFile() const
     {
         const auto before = root.read(preferencesPath);
@@ -133,7 +133,7 @@ TEST_F(AFailedWrite, ToAFullDiskThatReservesNothingKeepsTheFile)
 {
     onASmallDisk([this] {
         ASSERT_TRUE(fill(filler()));
-        // Room for a part of what is to be written.
+        // Leaves space for a part of the new file.
         fs::resize_file(filler(), fs::file_size(filler()) - 4096);
         ASSERT_TRUE(refuseToReserve(EOPNOTSUPP));
         expectToKeepTheFile();
@@ -196,7 +196,7 @@ TEST_F(AFailedWrite, ToAReadOnlyDiskKeepsTheFile)
     });
 }
 
-/// Gives everything in the root to a user who is not root, and becomes that.
+/// Gives the files in the root to an ordinary user, and switches to that user.
 bool becomeAnOrdinaryUser(const fs::path& root)
 {
     constexpr uid_t nobody = 65534;

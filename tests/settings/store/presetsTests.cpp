@@ -19,7 +19,7 @@ std::vector<float> gainsOf(const std::string& name)
     return gains;
 }
 
-/// A gain of so many steps, 31 of which make 12 dB.
+/// A gain of that many steps; 31 steps make 12 dB.
 float steps(int count)
 {
     return static_cast<float>(count * (12.0 / 31.0));
@@ -79,7 +79,7 @@ TEST(TheBuiltinPresets, HaveTheGainsThatTheyAreKnownBy)
     EXPECT_NEAR(gainsOf("Full treble").back(), 10.4516, 5e-5);
 }
 
-// The table in dB to four places, as a check of the whole by other figures than the steps that it is made of.
+// The same table in dB to four places, which are independent of the steps.
 TEST(TheBuiltinPresets, MatchTheTableInDecibels)
 {
     const std::vector<std::pair<std::string, std::vector<double>>> table {

@@ -1,4 +1,3 @@
-// A program that plays encoded sound.
 #pragma once
 
 #include <pipewire/pipewire.h>
@@ -7,8 +6,8 @@
 
 namespace brimsound::tests {
 
-/// A stream for AC-3 as it goes over an S/PDIF cable, which only a device could decode, with the node name
-/// "encoded". It may offer to decode it itself. It plays nothing.
+/// A program's stream of encoded sound: AC-3 as on an S/PDIF cable, which only a device can decode, with the
+/// node name "encoded". It may offer to decode the sound itself. It plays nothing.
 class EncodedStream {
 public:
     enum class Offers { EncodedAlone, RawToo };

@@ -1,4 +1,3 @@
-// A media server that equalizes.
 #pragma once
 
 #include "platform/Foundation/PropertyList.h"
@@ -16,38 +15,38 @@ namespace brimsound::tests {
 /// In dB, the preamp first.
 using Gains = std::array<double, 11>;
 
-/// All gains flat but for the preamp.
+/// Flat gains with that preamp.
 Gains preamp(double decibels);
-/// The preferences file with these gains, and other keys.
+/// Writes these gains and other keys to the preferences file.
 void storePreferences(const Gains&, PropertyList::Dictionary more = {});
 
-/// A real mediaserverd on the session bus, the device root and the PipeWire of the moment. It ends with this
-/// object.
+/// Runs a real mediaserverd that equalizes, on the current session bus, device root and PipeWire. It ends
+/// with this object.
 class Engine {
 public:
-    /// Comes back when the server can be sent to. `errors` is the file for its standard error. Throws
-    /// std::runtime_error when the server ended before that.
+    /// Returns when the server can receive messages. `errors` is the file for its standard error. Throws
+    /// std::runtime_error when the server ends before that.
     explicit Engine(const std::filesystem::path& errors = "/dev/null");
 
-    /// The value of the next line that it prints with that key, other lines left out; null when none comes
+    /// The value of the next printed line with that key; other lines are skipped. Null when none arrives
     /// within half a minute.
     nlohmann::json next(const std::string& key);
 
     desktop::ChildProcess& process() { return *_process; }
-    /// SIGTERM, and the exit status.
+    /// Sends SIGTERM and returns the exit status.
     std::optional<int> stop();
-    /// SIGKILL.
+    /// Sends SIGKILL.
     void kill();
 
 private:
     std::optional<desktop::ChildProcess> _process;
 };
 
-/// Sends gains as the pane does. Whether the server took them.
+/// Sends gains as the pane does. Returns whether the server accepted them.
 bool send(const Gains&);
-/// Tells the server that flags in the file changed.
+/// Notifies the server that flags in the file changed.
 void postSettingsChanged();
-/// Tells the server that gains in the file changed.
+/// Notifies the server that gains in the file changed.
 void postSettingsFinished();
 
 } // namespace brimsound::tests

@@ -56,7 +56,7 @@ double longestGap(const Samples& samples, double level)
 
 double amplitudeAt(const Samples& samples, double frequency)
 {
-    // A Hann window, so that other frequencies stay out.
+    // A Hann window suppresses other frequencies.
     std::complex<double> sum;
     const auto count = static_cast<double>(samples.size());
     for (std::size_t i = 0; i < samples.size(); ++i) {

@@ -1,4 +1,4 @@
-// How loud captured sound is.
+// Levels of recorded sound.
 #pragma once
 
 #include "tests/support/sound/Recorder.h"
@@ -8,15 +8,15 @@
 
 namespace brimsound::tests {
 
-/// The root mean square of each full 10 ms.
+/// The root mean square of each complete 10 ms.
 std::vector<double> levels(const Samples&);
-/// The median of those: it is not moved by single blocks that a busy machine lost.
+/// The median of these levels. Single blocks that a busy machine lost do not change it.
 double level(const Samples&);
-/// The loudest 10 ms.
+/// The level of the loudest 10 ms.
 double loudest(const Samples&);
-/// The longest time in seconds during which less than a tenth of `level` was heard.
+/// The longest time in seconds with a level below a tenth of `level`.
 double longestGap(const Samples&, double level);
-/// The amplitude of one frequency in Hz in the whole.
+/// The amplitude of a frequency in Hz in the whole sound.
 double amplitudeAt(const Samples&, double frequency);
 /// A linear factor in dB.
 double decibels(double factor);

@@ -32,7 +32,7 @@ Recorder::Recorder(const std::string& device, const std::vector<std::string>& ch
     , _channels(channels.size())
     , _samples(longest * channels.size())
 {
-    // A session manager that has just learned of a device may give the recorder to another one.
+    // A session manager may connect the recorder to another device if this one is new.
     for (int attempt = 0; attempt < 5; ++attempt) {
         open(device, channels, frames);
         if (eventually([this] { return position() > 0; }) && isLinkedTo(device))
@@ -51,15 +51,15 @@ void Recorder::open(const std::string& device, const std::vector<std::string>& c
         wanted.process = process;
         return wanted;
     }();
-    // The thread that records has real-time priority, as those that play have: later versions give it by
-    // themselves.
+    // The recording thread needs real-time priority, as playing threads have. Later versions set it
+    // automatically.
 #if !PW_CHECK_VERSION(1, 4, 0)
     const EnvironmentVariable configuration("PIPEWIRE_CONFIG_NAME", "client-rt.conf");
 #endif
     pw_init(nullptr, nullptr);
     _loop = pw_thread_loop_new("recorder", nullptr);
     const auto latency = std::to_string(frames) + "/" + std::to_string(rate);
-    // The device keeps being recorded when it is not the default any more.
+    // The recorder stays with the device when the default changes.
     _stream = pw_stream_new_simple(pw_thread_loop_get_loop(_loop), "recorder",
         pw_properties_new(PW_KEY_TARGET_OBJECT, device.c_str(), PW_KEY_STREAM_CAPTURE_SINK, "true",
             PW_KEY_NODE_DONT_RECONNECT, "true", PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture",
@@ -97,7 +97,7 @@ Recorder::~Recorder()
 
 bool Recorder::isLinkedTo(const std::string& device) const
 {
-    // Each port has a line, and below it are those that it is linked to.
+    // Each port has a line, followed by the ports that it is linked to.
     std::istringstream lines(outputOf({ "pw-link", "-l" }));
     bool isOfDevice = false;
     for (std::string line; std::getline(lines, line);) {

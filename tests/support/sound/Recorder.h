@@ -1,4 +1,4 @@
-// What a device plays.
+// Recording the sound of a device.
 #pragma once
 
 #include <pipewire/pipewire.h>
@@ -10,25 +10,25 @@
 
 namespace brimsound::tests {
 
-/// Captured samples of one channel, 48,000 a second.
+/// Recorded samples of one channel, 48,000 per second.
 using Samples = std::vector<float>;
 
-/// Records what arrives at a device from the moment on that the constructor returns. At most a minute of it.
+/// Records what a device plays, from the end of the constructor on, for at most a minute.
 class Recorder {
 public:
-    /// `channels` as the device has them. `frames` is the length of a cycle that is asked for. Throws
-    /// std::runtime_error when nothing comes.
+    /// `channels` are those of the device. `frames` is the requested length of a cycle. Throws
+    /// std::runtime_error when no sound arrives.
     explicit Recorder(const std::string& device, const std::vector<std::string>& channels = { "FL", "FR" },
         unsigned frames = 512);
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
     ~Recorder();
 
-    /// How many samples of each channel there are by now.
+    /// The number of samples recorded so far for each channel.
     std::size_t position() const { return _filled.load(std::memory_order_acquire) / _channels; }
     /// The samples of a channel from a position on.
     Samples samples(std::size_t from = 0, std::size_t channel = 0) const;
-    /// Waits until so many more samples have come, and returns them. Fewer when the device stopped.
+    /// Waits for that many more samples and returns them. Returns fewer when the device stopped.
     Samples next(std::size_t count, std::size_t channel = 0) const;
 
 private:

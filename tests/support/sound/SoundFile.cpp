@@ -44,7 +44,7 @@ void writeInterleaved(
     put<std::uint32_t>(file, 36 + bytes);
     file << "WAVEfmt ";
     put<std::uint32_t>(file, 16);
-    // Floating-point numbers.
+    // The format code for floating-point numbers.
     put<std::uint16_t>(file, 3);
     put(file, static_cast<std::uint16_t>(channels));
     put<std::uint32_t>(file, rate);

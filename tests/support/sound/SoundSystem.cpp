@@ -16,11 +16,11 @@ using Json = nlohmann::json;
 constexpr auto stereoChannels = "[ FL FR ]";
 constexpr auto surroundChannels = "[ FL FR FC LFE RL RR ]";
 
-/// The arguments of an adapter that takes sound in real time and drops it.
+/// The arguments of a null device that accepts sound in real time.
 std::string device(const std::string& name)
 {
     const int priority = name == "hw1" ? 1000 : name == "hw2" ? 900 : 800;
-    // Some session managers fail when a device goes that they are about to suspend.
+    // Some session managers crash when a device is removed that they are about to suspend.
     return "{ factory.name = support.null-audio-sink node.name = " + name
         + " media.class = Audio/Sink audio.position = "
         + (name == "surround" ? surroundChannels : stereoChannels)
@@ -88,7 +88,7 @@ void SoundSystem::writeConfiguration(Devices devices)
         "context.objects = [\n"
             + objects + "]\n");
 
-    // No hardware and no portals. The session manager is configured by programs up to 0.4, by data from 0.5
+    // No hardware and no portals. The session manager is configured by scripts up to 0.4 and by data from 0.5
     // on.
     if (outputOf({ "wireplumber", "--version" }).find("libwireplumber 0.4") != std::string::npos) {
         writeFile(configuration / "wireplumber/main.lua.d/51-test.lua",
@@ -106,7 +106,7 @@ void SoundSystem::writeConfiguration(Devices devices)
 
 void SoundSystem::start(std::optional<desktop::ChildProcess>& daemon, const std::string& program)
 {
-    // What they say would hide what the tests say.
+    // The daemons' output would hide that of the tests.
     const auto log = (folder() / (program + ".log")).string();
     daemon.emplace(std::vector<std::string> { "sh", "-c", "exec " + program + " >>\"$1\" 2>&1", "sh", log });
 }
@@ -130,7 +130,7 @@ void SoundSystem::startPipeWire()
 void SoundSystem::startSessionManager()
 {
     start(_sessionManager, "wireplumber");
-    // It is ready when it has decided on a default; without devices it has only its metadata.
+    // It is ready when it has chosen a default; without devices, when its metadata exists.
     const auto ready = [&] {
         return _hasDevices ? !defaultSink().empty()
                            : outputOf({ "pw-metadata", "0" }).find("Found") != std::string::npos;

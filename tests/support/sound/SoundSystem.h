@@ -1,4 +1,3 @@
-// A desktop's sound of a test's own.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -16,10 +15,10 @@
 
 namespace brimsound::tests {
 
-/// A session bus, PipeWire, its session manager and its PulseAudio server, all in a folder of their own,
-/// which this process and its children find. There are the stereo devices "hw1", which is the default, and
-/// "hw2", and the device "surround" with six channels. They take sound in real time, and what they took can
-/// be recorded. Only one at a time.
+/// The test's own sound system: a session bus, PipeWire, its session manager and its PulseAudio server, all
+/// in their own folder, which this process and its children use. It has the stereo devices "hw1", the
+/// default, and "hw2", and the device "surround" with six channels. The devices accept sound in real time,
+/// which can be recorded. Only one at a time.
 class SoundSystem {
 public:
     enum class Devices { All, None };
@@ -32,35 +31,35 @@ public:
     const std::filesystem::path& folder() const { return _folder.path(); }
     TestBus& bus() { return _bus; }
 
-    /// Ends everything but the bus, as a crash of PipeWire would, and starts it.
+    /// Kills everything except the bus, as in a crash of PipeWire, and the second function starts it again.
     void killPipeWire();
     void startPipeWire();
-    /// Ends the session manager alone, by a crash.
+    /// Kills only the session manager.
     void killSessionManager();
     void startSessionManager();
 
-    /// Takes the device away, as when it is unplugged.
+    /// Removes the device, as when it is unplugged.
     void unplug(const std::string& device);
-    /// Brings it (back).
+    /// Adds the device, also again after it was removed.
     void plugIn(const std::string& name);
-    /// What a user does in a panel: this sink is to be the default.
+    /// Makes this sink the default, as a user does in a sound panel.
     void chooseDefault(const std::string& sink);
-    /// The name of the sink that is the default now.
+    /// The name of the current default sink.
     std::string defaultSink();
     bool waitForDefault(const std::string& sink);
 
-    /// What a mixer does when the user moves a program's stream: to a sink, or to the default.
+    /// Moves a program's stream to a sink or to the default, as a mixer does.
     void moveStream(std::uint32_t stream, const std::string& sink);
     void moveStreamToDefault(std::uint32_t stream);
 
-    /// For a test that failed: which daemons run, what they said, and who plays to whom.
+    /// A report for failed tests: which daemons run, what they printed, and which nodes are linked.
     std::string report();
 
-    /// The whole graph, as pw-dump tells it.
+    /// The whole graph, as printed by pw-dump.
     nlohmann::json graph();
-    /// A node by its name; nothing when there is none. Of several, the newest.
+    /// The node with that name; nothing when there is none, the newest when there are several.
     std::optional<std::uint32_t> node(const std::string& name);
-    /// The names of the nodes that a node plays to.
+    /// The names of the nodes that a node is linked to.
     std::set<std::string> targetsOf(const std::string& nodeName);
     bool waitForTargets(const std::string& nodeName, const std::set<std::string>& targets);
     /// The value of a metadata key; nothing when there is none.
@@ -82,7 +81,7 @@ private:
     std::optional<desktop::ChildProcess> _pulse;
 };
 
-/// Everything that a command prints on standard output. The command's standard error is dropped.
+/// The standard output of a command. Its standard error is discarded.
 std::string outputOf(const std::vector<std::string>& command);
 
 } // namespace brimsound::tests

@@ -1,4 +1,4 @@
-// Waiting for what other programs do.
+// Waiting for other programs.
 #pragma once
 
 #include <chrono>
@@ -7,7 +7,7 @@
 
 namespace brimsound::tests {
 
-/// Asks again and again until the answer is yes, for half a minute at most. Whether it was.
+/// Evaluates the condition repeatedly until it is true, for half a minute at most. Returns whether it is.
 inline bool eventually(const std::function<bool()>& condition)
 {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
