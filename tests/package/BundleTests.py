@@ -1,4 +1,4 @@
-"""Looks into the executable of the device's bundle.
+"""Checks the executable of the device's bundle.
 
     BundleTests.py BUILD
 """
@@ -72,7 +72,8 @@ class TheExecutable(unittest.TestCase):
 
     def test_shows_no_symbol_to_other_code(self):
         self.assertEqual(binary.exports(), [])
-        # Newer linkers look for the global operators new and delete in every library, as C++ lets programs replace them.
+        # Newer linkers look up the global operators new and delete in all libraries, because C++ programs may
+        # replace them.
         operators = {"__Znwm", "__Znam", "__ZdlPv", "__ZdaPv"}
         self.assertLessEqual(binary.weak_binds(), operators)
         shown = [

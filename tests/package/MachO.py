@@ -1,4 +1,4 @@
-"""Reads a Mach-O file, with nothing taken over from what made it."""
+"""Reads a Mach-O file, independently of the tools that made it."""
 
 import struct
 
@@ -13,7 +13,7 @@ CODE_DIRECTORY = 0xFADE0C02
 
 
 class Bytes:
-    """A place in the file, read from on."""
+    """A position in the file from which data is read."""
 
     def __init__(self, data, offset):
         self.data = data
@@ -24,7 +24,7 @@ class Bytes:
         return self.data[self.offset - 1]
 
     def leb(self):
-        """An unsigned number, seven bits a byte, the low ones first."""
+        """An unsigned number with seven bits per byte, the lowest bits first."""
         value = shift = 0
         while True:
             byte = self.byte()
@@ -40,7 +40,7 @@ class Bytes:
 
 
 class Class:
-    """An Objective-C class as the file describes it."""
+    """An Objective-C class in the file."""
 
     def __init__(self, name, superclass, methods, class_methods):
         self.name = name
@@ -59,7 +59,7 @@ class CodeDirectory:
         self.identifier = Bytes(data, offset + identifier).text()
         hashes += offset
         self.hashes = [data[hashes + i * size :][:size] for i in range(count)]
-        # Counted from 1, backwards from the pages'.
+        # Their slots are numbered from 1, in the opposite direction to the pages.
         self.special_hashes = {i: data[hashes - i * size :][:size] for i in range(1, special_count + 1)}
 
 
@@ -104,7 +104,7 @@ class MachO:
         return Bytes(self.data, offset + name).text()
 
     def minimum_os(self):
-        """Major and minor version, from the one load command that says so."""
+        """Major and minor version, from the only load command that contains them."""
         (offset,) = self._offsets(LC_VERSION_MIN_IPHONEOS)
         (version,) = struct.unpack_from("<I", self.data, offset + 8)
         return version >> 16, version >> 8 & 0xFF
@@ -116,7 +116,7 @@ class MachO:
         return {name: numbers[2 * i : 2 * i + 2] for i, name in enumerate(names)}
 
     def _binds(self):
-        """What the loader fills in: an address, the symbol that goes there, and the library to find it in."""
+        """The loader's bindings: an address, its symbol, and the library that contains the symbol."""
         info = self._dyld_info()
         return [bind for table in ("bind", "lazy_bind") for bind in self._bind_table(*info[table])]
 
@@ -157,11 +157,11 @@ class MachO:
                 assert operation == 0, f"unknown operation {byte:#x}"
 
     def weak_binds(self):
-        """The symbols that any library may take the place of."""
+        """The symbols that any library may replace."""
         return {symbol for _, symbol, _ in self._bind_table(*self._dyld_info()["weak_bind"])}
 
     def exports(self):
-        """The symbols that other code can find."""
+        """The exported symbols."""
         offset, size = self._dyld_info()["export"]
 
         def below(node, prefix):
@@ -202,7 +202,7 @@ class MachO:
         return self.data[offset : offset + size].decode().split("\0")
 
     def classes(self):
-        """By name. A superclass is a name, or a symbol when it lies in another library."""
+        """The classes by name. A superclass is a name, or a symbol when it is in another library."""
         bound = {address: symbol for address, symbol, _ in self.binds}
         start, size, _ = self.sections["__objc_classlist"]
 
@@ -228,7 +228,7 @@ class MachO:
         return result
 
     def signature(self):
-        """Where the signature is, how long, and its blobs by slot, each with what it begins with."""
+        """The signature's offset and size, and its blobs by slot, each with its magic number."""
         (command,) = self._offsets(LC_CODE_SIGNATURE)
         offset, size = struct.unpack_from("<II", self.data, command + 8)
         magic, _, count = struct.unpack_from(">III", self.data, offset)

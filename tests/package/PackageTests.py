@@ -1,4 +1,4 @@
-"""Looks into the device's package.
+"""Checks the device's package.
 
     PackageTests.py BUILD
 """
@@ -18,7 +18,7 @@ ENTRY = "./Library/PreferenceLoader/Preferences/BrimsoundSettings.plist"
 
 
 def members(deb):
-    """The members of the archive that a package is, in their order."""
+    """The members of a package's archive, in their order."""
     data = deb.read_bytes()
     assert data.startswith(b"!<arch>\n")
     result, offset = {}, 8

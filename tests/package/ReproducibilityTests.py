@@ -1,4 +1,4 @@
-"""Builds the device's package anew, from a copy of the sources elsewhere.
+"""Builds the device's package again, from a copy of the sources in another folder.
 
     ReproducibilityTests.py BUILD
 """
@@ -29,7 +29,7 @@ class AnotherBuild(unittest.TestCase):
     def test_gives_the_same_bytes(self):
         environment = dict(os.environ, SOURCE_DATE_EPOCH="1700000000", CCACHE_DISABLE="1")
         first = pathlib.Path(output(SOURCE / "scripts/deb", build, env=environment).strip()).read_bytes()
-        # Neither the place nor who may read there shows in the result.
+        # Neither the path nor the permissions of the sources affect the result.
         self.addCleanup(os.umask, os.umask(0o077))
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)

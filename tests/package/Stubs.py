@@ -1,11 +1,11 @@
-"""What the stubs of the device's libraries say: which symbols are found where."""
+"""Reads the stubs of the device's libraries: which symbols each library contains."""
 
 import pathlib
 import re
 
 
 def stubs(folder):
-    """The symbols by the library's path on the device."""
+    """The symbols of each library, by its path on the device."""
     return dict(_stub(path.read_text()) for path in pathlib.Path(folder).rglob("*.tbd"))
 
 

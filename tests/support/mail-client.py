@@ -1,7 +1,7 @@
-"""A mail client that shows nothing: writes down what it was given. Run as mail-client.py FOLDER (MAILTO-URL | FILE).
+"""A mail client without a window: stores the mail that it receives. Run as mail-client.py FOLDER (MAILTO-URL | FILE).
 
-In FOLDER lie then the subject ("subject"), the recipients, one a line ("to"), each attachment ("1-NAME", "2-NAME" ...)
-and, last of all, what kind of argument it was ("kind": "url" or "message").
+FOLDER then contains the subject ("subject"), the recipients, one per line ("to"), each attachment ("1-NAME", "2-NAME" ...)
+and, written last, the kind of the argument ("kind": "url" or "message").
 """
 import email
 import email.policy
@@ -23,7 +23,7 @@ def write_mail(kind, subject, to, attachments):
     write("to", "".join(address + "\n" for address in to).encode())
     for number, (name, contents) in enumerate(attachments, 1):
         write(f"{number}-{name}", contents)
-    # Whoever waits for the file finds it whole.
+    # Renamed when complete, so that a waiting test reads the whole file.
     write("kind.new", kind.encode())
     (folder / "kind.new").rename(folder / "kind")
 

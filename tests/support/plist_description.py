@@ -1,9 +1,9 @@
-"""Describes property-list files as PropertyListDescription does, and writes them anew.
+"""Describes property-list files as PropertyListDescription does, and writes them again.
 
     plist_description.py FOLDER
 
-Reads each file of the folder with Python's plistlib. Its description, or "unreadable", goes into FILE.description;
-what plistlib writes of the same value into FILE.binary and FILE.xml, where it can."""
+Reads each file of the folder with Python's plistlib. Writes its description, or "unreadable", to FILE.description,
+and the same value, if plistlib can write it, to FILE.binary and FILE.xml."""
 import datetime
 import math
 import pathlib

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Signs a Mach-O file ad hoc, in place of the signature that the linker left there.
+"""Signs a Mach-O file ad hoc. Replaces the signature of the linker.
 
     sign.py FILE IDENTIFIER
 
-The linker hashes the pages with SHA-256 alone; iOS 9 and 10 ask for SHA-1, so this one writes a code directory of each.
+The linker only hashes the pages with SHA-256. iOS 9 and 10 need SHA-1, so this writes a code directory for each hash.
 """
 
 import hashlib
@@ -37,8 +37,8 @@ NO_REQUIREMENTS = blob(REQUIREMENTS, struct.pack(">I", 0))
 
 
 def code_directory(code, identifier, text_size, algorithm):
-    """Version 2.4: the hashes of every page, and before them, counted backwards, of the Info.plist (none: it is a
-    file of its own) and of the requirements."""
+    """Version 2.4: the hashes of every page, preceded in reverse order by those of the Info.plist (none: it is a
+    separate file) and of the requirements."""
 
     def digest(data):
         return hashlib.new(algorithm, data).digest()

@@ -1,4 +1,4 @@
-"""What the tests stand on. Importing this makes the desktop that they share."""
+"""The base class of the tests. Importing this module creates the desktop that they share."""
 import atexit
 import unittest
 
@@ -12,7 +12,8 @@ import pyatspi  # noqa: E402
 from reader import Reader, has_state  # noqa: E402
 
 READER = Reader()
-# The pane's log, and what Qt says when it is asked about a row that has just gone: the first is of Qt 6.4, the others of 6.8.
+# The pane's log, and Qt's warnings for queries about a row that was just removed: the first is from Qt 6.4,
+# the others from 6.8.
 EXPECTED = (
     "Brimsound: ",
     "qt.accessibility.atspi: WARNING Qt AtSpiAdaptor: Accessible invalid: ",
@@ -22,7 +23,7 @@ EXPECTED = (
 
 
 class PaneTest(unittest.TestCase):
-    """Each test has a pane of its own, and ends with nothing unexpected on the pane's standard error."""
+    """Starts a pane for each test. At the end, standard error must contain only expected lines."""
 
     preferences = {}
 

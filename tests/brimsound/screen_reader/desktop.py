@@ -1,6 +1,6 @@
-"""A desktop of a test's own: a session bus, a screen that nobody sees, and the pane in its window on it.
+"""The tests' own desktop: a session bus, an invisible screen, and the pane in its window on it.
 
-It has to be there before the accessibility library looks around, so make it before importing reader.
+The accessibility library looks for a desktop when it is loaded, so create it before importing reader.
 """
 import json
 import os
@@ -16,12 +16,12 @@ import time
 from gi.repository import Gio, GLib
 
 PATIENCE = 20
-# What a test starts ends with it, however it ends.
+# Programs that a test starts end with it, also when it crashes.
 DEPENDENT = ("setpriv", "--pdeathsig", "TERM", "--")
 
 
 class Lines:
-    """What a program prints, line by line as JSON."""
+    """The output of a program, parsed line by line as JSON."""
 
     def __init__(self, stream):
         self._lines = queue.Queue()
@@ -33,14 +33,14 @@ class Lines:
             self._lines.put(json.loads(line))
 
     def next(self, wanted=lambda line: True):
-        """The next line that is wanted; those before it are dropped."""
+        """The next line for which `wanted` is true; earlier lines are dropped."""
         while True:
             line = self._lines.get(timeout=PATIENCE)
             if wanted(line):
                 return line
 
     def take(self):
-        """All that came so far."""
+        """All lines received so far."""
         lines = []
         while not self._lines.empty():
             lines.append(self._lines.get())
@@ -48,7 +48,7 @@ class Lines:
 
 
 class Program:
-    """A program that runs as long as this is entered, with what it prints."""
+    """Runs a program while the context is active, and provides its output."""
 
     def __init__(self, *command, **options):
         self._process = subprocess.Popen((*DEPENDENT, *command), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
@@ -60,7 +60,7 @@ class Program:
         self._process.stdin.flush()
 
     def end(self):
-        """Ends the program when its standard input does not. Its exit status."""
+        """Closes standard input, kills the program if it does not end, and returns its exit status."""
         self._process.stdin.close()
         try:
             status = self._process.wait(PATIENCE)
@@ -76,7 +76,7 @@ class Program:
 
 
 class Desktop:
-    """Everything that lasts from test to test."""
+    """The desktop that all tests share."""
 
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="brimsound-reader-"))
@@ -95,14 +95,14 @@ class Desktop:
         self._listen()
 
     def _listen(self):
-        """Tells all programs that a screen reader is there, as one does that starts."""
+        """Announces a screen reader to all programs, as a starting screen reader does."""
         self._bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
                             GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled",
                                                    GLib.Variant("b", True))),
                             None, Gio.DBusCallFlags.NONE, -1, None)
 
     def wait_for(self, name):
-        """Waits until somebody owns the name on the session bus."""
+        """Waits until the name has an owner on the session bus."""
         deadline = time.monotonic() + PATIENCE
         while not self._bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                                       "NameHasOwner", GLib.Variant("(s)", (name,)), None,
@@ -112,13 +112,13 @@ class Desktop:
             time.sleep(0.01)
 
     def post(self, name):
-        """Posts a notification as another process does."""
+        """Posts a notification as another process would."""
         self._bus.emit_signal(None, "/com/quorvix/brimsound", "com.quorvix.brimsound.DarwinNotify", "Posted",
                               GLib.Variant("(s)", (name,)))
         self._bus.flush_sync()
 
     def _start(self, *command):
-        """Starts a program that prints one line when it is ready. That line."""
+        """Starts a program that prints one line when it is ready. Returns the line."""
         program = subprocess.Popen((*DEPENDENT, *command), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         self._programs.append(program)
         return program.stdout.readline().strip()
@@ -132,7 +132,7 @@ class Desktop:
 
 
 class Pane:
-    """The pane in its window with its media server, both on a device of their own."""
+    """The pane in its window with its media server, with their own device root."""
 
     def __init__(self, desktop, preferences=None):
         self.desktop = desktop
@@ -143,7 +143,7 @@ class Pane:
         self.server = Program(os.environ["MEDIASERVERD"], "--print", "--silent", "--root", self.root)
         desktop.wait_for("com.quorvix.brimsound")
         self.errors = open(self.root / "errors", "w+", encoding="utf-8")
-        # The script stays silent, and lets the trace be read.
+        # The script sends nothing, so that the program keeps running and prints its trace.
         self.program = Program(os.environ["BRIMSOUND"], "--root", self.root, "--script", "-",
                                stderr=self.errors)
 
@@ -156,27 +156,27 @@ class Pane:
 
     @staticmethod
     def activate():
-        """Gives the keyboard to the window, which a desktop's window manager does."""
+        """Gives the keyboard focus to the window, as a window manager does."""
         subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Brimsound",
                         "windowfocus", "--sync"], check=True, timeout=PATIENCE)
 
     @staticmethod
     def deactivate():
-        """Takes the keyboard from the window: it goes to where the pointer is, which is beside it."""
+        """Takes the keyboard focus from the window: it follows the pointer, which is outside the window."""
         pointer_root = "1"
         subprocess.run(["xdotool", "windowfocus", pointer_root], check=True, timeout=PATIENCE)
 
     @staticmethod
     def press_keys(*keys):
-        """Presses keys on the keyboard, one after the other."""
+        """Presses keys one after the other."""
         subprocess.run(["xdotool", "key", *keys], check=True, timeout=PATIENCE)
 
     def effects(self):
-        """What came out of the pane so far, without the lines of its log."""
+        """The pane's trace so far, without the lines of its log."""
         return [line for line in self.program.lines.take() if line["effect"] != "log"]
 
     def end(self):
-        """What the pane wrote to standard error."""
+        """The pane's output on standard error."""
         self.program.end()
         self.server.terminate()
         self.errors.seek(0)

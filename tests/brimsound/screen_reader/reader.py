@@ -1,6 +1,6 @@
-"""A screen reader, as far as the pane can tell: it listens to every event, looks around, and acts for its user.
+"""A simulated screen reader: it receives all events, queries the pane, and acts for its user.
 
-To be imported when there is a desktop.
+Import this when the desktop exists.
 """
 import time
 
@@ -11,7 +11,7 @@ from desktop import PATIENCE
 
 
 class Heard:
-    """An event, with what its source said about itself when it came."""
+    """An event, with the properties that its source had at that time."""
 
     def __init__(self, event):
         self.type = event.type
@@ -21,7 +21,7 @@ class Heard:
             self.role = event.source.getRole()
             self.name = event.source.name
         except (GLib.Error, LookupError):
-            # It is gone already.
+            # The source no longer exists.
             self.role = self.name = None
 
     def __repr__(self):
@@ -38,12 +38,12 @@ class Reader:
 
     @staticmethod
     def pump():
-        """Lets events come in. Whether there were any."""
+        """Receives events. Returns whether there were any."""
         return GLib.MainContext.default().iteration(False)
 
     @classmethod
     def wait_until(cls, condition):
-        """What the condition returns once that is true; raises TimeoutError when it stays false."""
+        """Waits until the condition is true and returns its value. Raises TimeoutError when it stays false."""
         deadline = time.monotonic() + PATIENCE
         while not (result := condition()):
             if time.monotonic() > deadline:
@@ -53,15 +53,15 @@ class Reader:
         return result
 
     def forget(self):
-        """Drops what was heard until now."""
+        """Drops the events received so far."""
         while self.pump():
             pass
         self._events.clear()
 
     def hears(self, kind, name, detail=None):
-        """Waits for an event of that type, like "object:state-changed:checked", from the one with that name.
+        """Waits for an event of that type, like "object:state-changed:checked", from the object with that name.
 
-        It is heard once: it and those before it are dropped. Raises AssertionError when it does not come.
+        The event and those before it are dropped. Raises AssertionError when it does not arrive.
         """
         def was_heard():
             for index, event in enumerate(self._events):
@@ -72,7 +72,7 @@ class Reader:
         self._wait_to_hear(was_heard, f"{kind} {detail} of {name!r}")
 
     def hears_all(self, kind, names):
-        """Waits for events of that type from all with those names, in any order, and drops nothing."""
+        """Waits for events of that type from all objects with those names, in any order. Drops nothing."""
         def were_heard():
             return set(names) <= {event.name for event in self._events if event.type == kind}
         self._wait_to_hear(were_heard, f"{kind} of {names}")
@@ -84,7 +84,7 @@ class Reader:
             raise AssertionError(f"{what} was not heard, but {self._events}") from None
 
     def window(self):
-        """The pane's window; waits for it."""
+        """Waits for the pane's window and returns it."""
         def found():
             for application in pyatspi.Registry.getDesktop(0):
                 if application and application.name == "brimsound" and application.childCount:
@@ -93,11 +93,11 @@ class Reader:
         return self.wait_until(found)
 
     def all(self, role):
-        """All of that role in reading order."""
+        """All objects of that role in reading order."""
         return pyatspi.findAllDescendants(self.window(), lambda one: one.getRole() == role)
 
     def find(self, role, name):
-        """The one of that role with that name; waits for it."""
+        """Waits for the object of that role with that name and returns it."""
         def found():
             return next((one for one in self.all(role) if one.name == name), None)
         try:
@@ -107,13 +107,13 @@ class Reader:
             raise AssertionError(f"there is no {name!r}, but {names}") from None
 
     def focused(self):
-        """The innermost that has the keyboard; None when nothing has."""
+        """The innermost object with the keyboard focus; None when there is none."""
         found = pyatspi.findAllDescendants(self.window(), lambda one: has_state(one, pyatspi.STATE_FOCUSED))
         return found[-1] if found else None
 
 
 def has_state(one, state):
-    # What changed may have been kept from before.
+    # The library may have cached an old state.
     one.clearCache()
     return one.getState().contains(state)
 
@@ -124,7 +124,7 @@ def actions(one):
 
 
 def do(one, name):
-    """Has the action of that name done."""
+    """Performs the action of that name."""
     one.queryAction().doAction(actions(one).index(name))
 
 

@@ -1,4 +1,4 @@
-"""What a screen reader finds in the pane, and what it is told."""
+"""The objects that a screen reader finds in the pane, and the events that it receives."""
 import unittest
 
 import pyatspi
@@ -70,7 +70,7 @@ class ThePane(PaneTest):
         self.pane.deactivate()
         self.reader.wait_until(lambda: not has_state(self.reader.window(), pyatspi.STATE_ACTIVE))
         self.pane.activate()
-        # First the window, which is Qt's doing, and then what in it has the keyboard.
+        # First the window, which Qt reports, and then the object in it that has the focus.
         self.reader.hears("object:state-changed:focused", "Brimsound", 1)
         self.reader.hears("object:state-changed:focused", "170", 1)
         self.assertEqual(self.reader.focused().name, "170")
@@ -127,5 +127,5 @@ class ThePane(PaneTest):
 
 
 if __name__ == "__main__":
-    # pyatspi has not kept up with the library below it.
+    # pyatspi uses deprecated functions of the underlying library.
     unittest.main(verbosity=2, warnings="ignore")

@@ -1,4 +1,4 @@
-"""What somebody does with the pane who only hears it, and what comes of it in the file and in the media server."""
+"""The actions of a blind user, and their effects on the preferences file and the media server."""
 import unittest
 
 import pyatspi
@@ -18,7 +18,7 @@ class AUserWhoHears(PaneTest):
     preferences = MINE
 
     def wait_for_gains(self, gains):
-        """Waits until the media server plays these."""
+        """Waits until the media server plays these gains."""
         self.pane.server.lines.next(lambda line: line["vals"] == gains)
 
     def open_presets(self):
@@ -36,7 +36,7 @@ class AUserWhoHears(PaneTest):
         effects = [self.pane.program.lines.next(lambda line: line["effect"] != "log")]
         while effects[-1]["effect"] != "delivered":
             effects.append(self.pane.program.lines.next(lambda line: line["effect"] != "log"))
-        # As a touch does: down, one step, up.
+        # Like a touch: down, one step, up.
         self.assertEqual(kinds(effects), ["message", "message", "write", "notify", "delivered"])
         gains = [0, 1, 2, -4.5] + [0] * 7
         self.assertEqual([line["vals"] for line in effects[:2]], [[0, 1, 2] + [0] * 8, gains])
@@ -64,7 +64,7 @@ class AUserWhoHears(PaneTest):
 
     def test_finds_the_presets(self):
         self.open_presets()
-        # The keyboard is in the panel, and so is all that there is to find.
+        # The focus is in the panel, and only the panel can be found.
         self.reader.hears("object:state-changed:showing", "Save", 1)
         self.reader.hears("object:state-changed:focused", "Save", 1)
         window = self.reader.window()
@@ -96,7 +96,7 @@ class AUserWhoHears(PaneTest):
 
     def test_saves_a_preset_and_chooses_it_again(self):
         do(self.open_presets(), "Press")
-        # Only after it: a reader that hears of the caret first does not say what the field is.
+        # After the focus event: a reader that receives the caret event first does not announce the field.
         self.reader.hears("object:state-changed:focused", "Name", 1)
         self.reader.hears("object:text-caret-moved", "Name")
         field = self.reader.find(pyatspi.ROLE_TEXT, "Name")
@@ -109,7 +109,7 @@ class AUserWhoHears(PaneTest):
         self.reader.wait_until(lambda: "My" in self.pane.preferences().get("PRESETS", {}))
         self.assertEqual(self.pane.preferences()["PRESETS"]["My"], [1, 2] + [0] * 8)
 
-        # Something else, and back.
+        # Choose another preset, and then the first one again.
         self.choose("Flat")
         self.wait_for_gains([0] * 11)
         self.choose("My")
@@ -138,5 +138,5 @@ class AUserWhoHears(PaneTest):
 
 
 if __name__ == "__main__":
-    # pyatspi has not kept up with the library below it.
+    # pyatspi uses deprecated functions of the underlying library.
     unittest.main(verbosity=2, warnings="ignore")

@@ -1,4 +1,4 @@
-// UIKit in a test's hands: its clock, what it shows, and what a user does.
+// Control of the simulated UIKit: its clock, its display, and the user's actions.
 #pragma once
 
 #import <UIKit/UIKit.h>
@@ -7,41 +7,42 @@
 
 namespace brimsound::doubles {
 
-/// As when the app starts: no animation is being made, no alert is shown, nobody has the keyboard, and there
-/// is nothing to open URLs with.
+/// Restores the state of an app that has just started: no animations, alerts or first responder, and no
+/// programs for URLs.
 void resetUIKit();
 
-/// Lets time pass for what is animated. In seconds.
+/// Advances the clock of animations, in seconds.
 void advanceClock(double seconds);
 
 /// Red, green, blue, alpha.
 using Components = std::array<::CGFloat, 4>;
 
-// How a view is seen: on its way to what it is while it is animated.
+// The displayed state of a view, including during an animation.
 ::CGRect shownFrame(::UIView*);
 /// All zero without a background.
 Components shownBackground(::UIView*);
 ::CGFloat shownAlpha(::UIView*);
 
-/// The alert that is shown; nil when none is.
+/// The current alert; nil when there is none.
 ::UIAlertView* currentAlert();
-/// Presses a button of the alert that is shown. False when none is or it has no such button.
+/// Presses a button of the current alert. Returns false when there is no alert or no such button.
 bool pressAlertButton(NSInteger index);
 
-/// Whether a controller was presented or dismissed with an animation, which takes half a second.
+/// Whether a controller is being presented or dismissed with an animation, which takes half a second.
 bool isSheetMoving();
 
-/// What URLs can be opened: those with one of these schemes.
+/// Only URLs with these schemes can be opened.
 void setSchemesThatOpen(::NSArray* schemes);
 
-/// Presses a row and lets go of it: it is selected instead of any other one, and the delegate is told. False
-/// for a row that is not on view.
+/// Presses and releases a row. It becomes the only selected row, and the delegate is told. Returns false for
+/// a row out of view.
 bool tapRow(::UITableView*, ::NSIndexPath*);
-/// Swipes a row to the left and presses its button. False when the data source does not let it be deleted.
+/// Swipes a row to the left and presses its button. Returns false when the data source does not allow
+/// deletion.
 bool swipeToDelete(::UITableView*, ::NSIndexPath*);
 
 void flip(::UISwitch*);
-/// Puts more text behind what is in the field. It takes the keyboard for that.
+/// Appends text to that in the field, after giving it the keyboard.
 void type(::UITextField*, ::NSString* text);
 void pressReturn(::UITextField*);
 

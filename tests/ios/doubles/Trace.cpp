@@ -8,7 +8,7 @@ namespace {
 
 std::vector<std::string>& lines()
 {
-    // Never destroyed: files are still closed and objects deallocated while the program ends.
+    // Never destroyed, because files are closed and objects deallocated while the program ends.
     static auto& all = *new std::vector<std::string>;
     return all;
 }

@@ -1,4 +1,4 @@
-// What was done to the outside world.
+// The effects on the outside world.
 #pragma once
 
 #include <string>

@@ -55,7 +55,7 @@ void forgetMessages()
                                        userInfo:(NSDictionary*)userInfo
                                           error:(NSError**)error
 {
-    // The sandbox keeps messages in until the center was opened.
+    // The sandbox blocks messages until the center has been opened.
     const bool isAnswered = mediaServerRuns && _isOpen;
     brimsound::doubles::record(std::string("message ") + [name UTF8String] + (isAnswered ? "" : " failed"));
     [messages() addObject:userInfo ? [[userInfo copy] autorelease] : [NSDictionary dictionary]];

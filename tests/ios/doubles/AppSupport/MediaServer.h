@@ -1,4 +1,4 @@
-// The media server in a test's hands.
+// Control of the simulated media server.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -8,7 +8,7 @@ namespace brimsound::doubles {
 /// Whether messages are answered; without a server they fail.
 void setMediaServerRuns(bool);
 
-/// The user info of each message that was sent since the last call of forgetMessages.
+/// The user info of each message since the last call of forgetMessages.
 NSArray* sentMessages();
 void forgetMessages();
 

@@ -1,4 +1,4 @@
 #import <CoreFoundation/CoreFoundation.h>
 
-// iOS 9.0.
+// The version of iOS 9.0.
 double kCFCoreFoundationVersionNumber = 1240.1;

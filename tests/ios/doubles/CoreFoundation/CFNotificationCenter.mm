@@ -20,7 +20,7 @@ struct Observer {
 
 struct __CFNotificationCenter {
     std::vector<Observer> observers;
-    /// What was posted and not delivered yet.
+    /// Notifications that are posted but not delivered yet.
     std::deque<std::string> posted;
 };
 

@@ -1,17 +1,17 @@
-// The Darwin notify center in a test's hands.
+// Control of the simulated Darwin notify center.
 #pragma once
 
 #include <string>
 
 namespace brimsound::doubles {
 
-/// A post that is no effect of the pane's own.
+/// Posts a notification that is not recorded as an effect of the pane.
 void postFromAnotherProcess(const std::string& name);
 
-/// Runs the main loop until every notification that was posted has been delivered.
+/// Runs the main loop until every posted notification has been delivered.
 void deliverNotifications();
 
-/// Posts that were not delivered yet never will be.
+/// Drops the posted notifications that are not delivered yet.
 void forgetNotifications();
 
 } // namespace brimsound::doubles

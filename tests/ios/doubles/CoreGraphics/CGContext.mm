@@ -6,7 +6,7 @@ using brimsound::desktop::Bitmap;
 using brimsound::desktop::longestSide;
 using brimsound::desktop::Pixels;
 
-/// There is one, so that there is nothing in it.
+/// There is only one color space, so it needs no members.
 struct CGColorSpace { };
 
 namespace brimsound::doubles {

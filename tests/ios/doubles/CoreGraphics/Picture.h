@@ -1,4 +1,4 @@
-// What the references of Core Graphics point at.
+// The types behind the references of Core Graphics.
 #pragma once
 
 #include "platform/desktop/CoreGraphics/Compositing.h"
@@ -7,20 +7,20 @@
 
 #include <memory>
 
-/// An unchanging picture.
+/// An immutable picture.
 struct CGImage {
     std::size_t references = 1;
     std::shared_ptr<const brimsound::desktop::Bitmap> bitmap;
 };
 
 struct CGContext {
-    /// Where the context's coordinates are on its pixels, which count from the top left corner.
+    /// Converts the context's coordinates to pixels, which are counted from the top left corner.
     double column(double x) const { return originX + scaleX * x; }
     double row(double y) const { return originY + scaleY * y; }
 
     std::size_t references = 1;
     brimsound::desktop::Pixels pixels;
-    /// Null where the memory is the caller's.
+    /// Null when the caller owns the memory.
     std::shared_ptr<brimsound::desktop::Bitmap> bitmap;
     double scaleX = 1;
     double scaleY = 1;
@@ -32,14 +32,14 @@ struct CGContext {
 
 namespace brimsound::doubles {
 
-/// The picture of the bitmap, to be released. Null for null.
+/// The picture of the bitmap. The caller releases it. Null for null.
 ::CGImageRef makePicture(std::shared_ptr<const desktop::Bitmap>);
 
-/// A context on a transparent bitmap of its own with the origin in the top left corner, y downwards and so
-/// many pixels a point; to be released. Null when there is no such bitmap.
+/// A context on its own transparent bitmap with the origin in the top left corner, y pointing down, and
+/// `scale` pixels per point. The caller releases it. Null when the bitmap cannot be created.
 ::CGContextRef makeContext(std::size_t width, std::size_t height, double scale);
 
-/// Stretches the picture over the rectangle, its top edge at one of those two.
+/// Where the picture's top edge is drawn when it is stretched over a rectangle.
 enum class Top { AtLeastY, AtMostY };
 void drawPicture(::CGContextRef, const ::CGRect&, ::CGImageRef, Top);
 

@@ -29,7 +29,7 @@ std::string resolved(const char* path)
     return isOnDevice(path) ? deviceRoot() + path : path;
 }
 
-/// The C library's own.
+/// The function of the C library.
 template <typename Function> Function* original(const char* name)
 {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -68,7 +68,7 @@ void setDeviceRoot(const std::string& folder)
 
 } // namespace brimsound::doubles
 
-// What Foundation reads and writes files with. These take the C library's place.
+// Foundation reads and writes files with these functions. They replace the C library's.
 extern "C" {
 
 std::FILE* fopen(const char* path, const char* mode)

@@ -1,4 +1,4 @@
-// Formatted text as the device's Foundation makes it: with a decimal point in every language.
+// Formats text as the device's Foundation does: with a decimal point in every language.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The C library's own language, for this thread and as long as it lives.
+/// Selects the C locale for this thread while it exists.
 class NoLanguage {
 public:
     NoLanguage() = default;

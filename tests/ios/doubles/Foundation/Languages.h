@@ -1,4 +1,4 @@
-// The user's languages in a test's hands.
+// Control of the user's languages.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace brimsound::doubles {
 
-/// What NSLocale gives: language codes ("en", "fr-CA"), the most preferred first.
+/// Sets what NSLocale returns: language codes ("en", "fr-CA"), the most preferred first.
 void setPreferredLanguages(const std::vector<std::string>&);
 
 } // namespace brimsound::doubles

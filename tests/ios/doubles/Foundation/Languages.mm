@@ -11,7 +11,7 @@ NSMutableArray* languages()
     return all;
 }
 
-/// Foundation's own always has English in it.
+/// GNUstep's implementation always adds English.
 NSArray* preferredLanguages(id, SEL)
 {
     return languages();

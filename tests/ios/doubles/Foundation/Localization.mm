@@ -1,6 +1,5 @@
-// Strings tables as the device's Foundation reads them: property lists of any format, in the first of the
-// preferred languages that there is one for. GNUstep's knows the oldest format only, and has languages of its
-// own.
+// Reads strings tables as the device's Foundation does: property lists of any format, in the first preferred
+// language that has one. GNUstep supports only the oldest format, and has its own list of languages.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 

@@ -1,4 +1,4 @@
-// The system log, as far as the trace sees it.
+// Records the lines of the system log in the trace.
 #include "tests/ios/doubles/Trace.h"
 
 #import <Foundation/Foundation.h>
@@ -20,8 +20,8 @@ bool isOfThisProgram(const void* code)
 
 } // namespace
 
-/// Takes the library's place, whose lines bear the time and the process. What the library itself has to say
-/// goes where it always does.
+/// Replaces the library's function, which adds the time and the process. Messages of the library itself are
+/// not affected.
 void NSLog(NSString* format, ...)
 {
     va_list arguments;

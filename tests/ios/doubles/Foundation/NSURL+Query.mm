@@ -1,5 +1,5 @@
-// GNUstep refuses a URL whose query follows its host at once, "scheme://host?query", which the platform
-// takes.
+// GNUstep rejects URLs with a query directly after the host, "scheme://host?query", which the platform
+// accepts.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 
@@ -48,7 +48,7 @@
 
 + (NSURL*)URLWithAnyString:(NSString*)string
 {
-    // What it was before the exchange.
+    // Calls the original method: the implementations are exchanged.
     NSURL* const url = [self URLWithAnyString:string];
     return url ? url : [[[URLWithoutPath alloc] initWithString:string] autorelease];
 }

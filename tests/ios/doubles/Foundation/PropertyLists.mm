@@ -1,4 +1,4 @@
-// Property lists as the device's Foundation reads and writes them, where GNUstep's does otherwise.
+// Reads and writes property lists as the device's Foundation does, where GNUstep's behavior differs.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 
@@ -10,7 +10,7 @@ using Write = NSData* (*)(id, SEL, id, NSPropertyListFormat, NSPropertyListWrite
 Read originalRead = nullptr;
 Write originalWrite = nullptr;
 
-/// Nil for bytes that are none, where GNUstep's raises.
+/// Returns nil for invalid bytes. GNUstep's method raises an exception.
 id readList(id self, SEL selector, NSData* data, NSPropertyListReadOptions options,
     NSPropertyListFormat* format, NSError** error)
 {
@@ -21,7 +21,7 @@ id readList(id self, SEL selector, NSData* data, NSPropertyListReadOptions optio
     }
 }
 
-/// Text in XML is UTF-8; GNUstep's has "\UD83C\UDFB8" for what is not in the basic plane.
+/// Text in XML is UTF-8. GNUstep writes characters outside the basic plane as "\UD83C\UDFB8".
 NSString* unescaped(NSString* xml)
 {
     NSMutableString* text = [NSMutableString string];
@@ -52,7 +52,7 @@ NSData* writeList(id self, SEL selector, id list, NSPropertyListFormat format,
     return [unescaped(xml) dataUsingEncoding:NSUTF8StringEncoding];
 }
 
-/// GNUstep's lets an NSNull pass.
+/// GNUstep's method accepts an NSNull.
 BOOL isValid(id self, SEL selector, id list, NSPropertyListFormat format)
 {
     if ([list isKindOfClass:[NSArray class]]) {

@@ -1,4 +1,4 @@
-// The sheet in which a mail is composed, as the user sees and uses it.
+// The user's actions in the sheet of a mail.
 #pragma once
 
 #import <MessageUI/MessageUI.h>
@@ -7,10 +7,10 @@
 
 - (NSString*)subject;
 - (NSArray*)toRecipients;
-/// A dictionary for each, with @"data", @"mimeType" and @"fileName".
+/// A dictionary for each attachment, with @"data", @"mimeType" and @"fileName".
 - (NSArray*)attachments;
 
-/// The buttons. What is sent is traced: "mail SUBJECT".
+/// Press the buttons. Sending is traced as "mail SUBJECT".
 - (void)send;
 - (void)cancel;
 

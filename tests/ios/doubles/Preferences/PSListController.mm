@@ -81,7 +81,7 @@ bool isLength(CGFloat length)
 
 - (void)dealloc
 {
-    // The table may be on view for longer than its controller lives.
+    // The presentation may keep the table longer than its controller exists.
     [_table setDataSource:nil];
     [_table setDelegate:nil];
     [_table release];

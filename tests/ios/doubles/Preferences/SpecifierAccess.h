@@ -1,4 +1,4 @@
-// What a list and its cells do with a specifier.
+// Calls of a specifier's selectors.
 #pragma once
 
 #import <Preferences/PSSpecifier.h>
@@ -7,8 +7,8 @@
 
 - (PSCellType)cellType;
 
-/// Each sends the target the specifier's selector. A target that does not answer it has the default value,
-/// takes none, and does nothing.
+/// Each sends the specifier's selector to the target. When the target does not implement it, the getter
+/// returns the default value, and the setter and the action do nothing.
 - (id)performGetter;
 - (void)performSetterWithValue:(id)value;
 - (void)performAction;

@@ -1,10 +1,9 @@
-// A row of a list of specifiers.
 #pragma once
 
 #import <Preferences/PSSpecifier.h>
 #import <UIKit/UIKit.h>
 
-/// Shows the label of its specifier, and a switch for one that is a switch.
+/// A row that shows the label of its specifier, and a switch if the specifier is one.
 @interface SpecifierCell : UITableViewCell {
     PSSpecifier* _specifier;
 }

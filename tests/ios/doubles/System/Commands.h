@@ -1,9 +1,9 @@
-// Shell commands in a test's hands.
+// Control of shell commands.
 #pragma once
 
 namespace brimsound::doubles {
 
-/// Commands are always traced: "shell COMMAND". They are run only where this says so.
+/// Whether commands are executed. They are always traced as "shell COMMAND".
 void carryOutCommands(bool);
 
 } // namespace brimsound::doubles

@@ -1,4 +1,4 @@
-// Shell commands, traced. These functions take the C library's place.
+// Traces shell commands. These functions replace the C library's.
 #include "tests/ios/doubles/System/Commands.h"
 #include "tests/ios/doubles/Trace.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 bool commandsAreCarriedOut = false;
 
-/// The streams of commands that were not started: pclose has no command to wait for.
+/// The streams for which no command was started: pclose has nothing to wait for.
 std::set<std::FILE*>& streamsWithoutCommand()
 {
     static std::set<std::FILE*> streams;

@@ -1,4 +1,4 @@
-// What the system tells of itself, which the C library here has no such function for.
+// A substitute for the device's sysctlbyname, which the C library here does not have.
 #include <cerrno>
 #include <cstddef>
 #include <cstring>

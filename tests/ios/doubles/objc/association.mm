@@ -1,4 +1,4 @@
-// Associated objects, which this runtime has not.
+// Associated objects, which GCC's runtime lacks.
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A value that is retained, unless it is only assigned.
+/// A value that is retained, or only assigned.
 class Association {
 public:
     Association() = default;
@@ -51,7 +51,7 @@ using Associations = std::map<const void*, Association>;
 
 std::unordered_map<id, Associations>& associationsOfAll()
 {
-    // Never destroyed: objects are still deallocated while the program ends.
+    // Never destroyed, because objects are deallocated while the program ends.
     static auto& all = *new std::unordered_map<id, Associations>;
     return all;
 }
@@ -64,7 +64,7 @@ void objc_setAssociatedObject(id object, const void* key, id value, objc_Associa
         return;
     Association association(value, policy);
     auto& place = associationsOfAll()[object][key];
-    // What was there is released last, when the table is in order again: its -dealloc may come here too.
+    // The old value is released last, when the table is consistent again: its -dealloc may use the table.
     std::swap(place, association);
 }
 
@@ -78,9 +78,9 @@ id objc_getAssociatedObject(id object, const void* key)
     return found == ofObject->second.end() ? nil : found->second.value();
 }
 
-// A deallocation ends in NSObject's -dealloc, or in the function that this is made of, which some classes of
-// the library call at once. By then the -dealloc of all classes has run. Both take the associations out of
-// the table first: a released value may set or ask for associations itself.
+// A deallocation ends in NSObject's -dealloc, or in the function that it consists of, which some classes of
+// the library call directly. At this point the -dealloc methods of all classes have run. Both first remove
+// the associations from the table, because a released value may use associations itself.
 
 namespace {
 

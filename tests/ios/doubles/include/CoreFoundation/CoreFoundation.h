@@ -1,4 +1,4 @@
-// What GNUstep's Foundation leaves to a Core Foundation that Debian does not have.
+// The parts of Core Foundation that GNUstep's Foundation does not provide.
 #pragma once
 
 #import <Foundation/Foundation.h>

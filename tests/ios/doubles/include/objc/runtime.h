@@ -1,4 +1,4 @@
-// The runtime's interface, with the associations that this one lacks.
+// The runtime's interface, with the associated objects that GCC's runtime lacks.
 #pragma once
 
 #include_next <objc/runtime.h>
@@ -16,7 +16,8 @@ enum : objc_AssociationPolicy {
 extern "C" {
 #endif
 
-/// Retains the value, or not, until another takes its place or the object is deallocated. Nil removes it.
+/// Retains the value if the policy says so, until it is replaced or the object is deallocated. Nil removes
+/// it.
 void objc_setAssociatedObject(id object, const void* key, id value, objc_AssociationPolicy policy);
 id objc_getAssociatedObject(id object, const void* key);
 
