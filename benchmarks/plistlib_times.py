@@ -1,8 +1,8 @@
-"""Reads a property-list file, or writes it anew beside, with Python's plistlib, whenever a line asks for it.
+"""Reads a property-list file, or writes its contents to another file, with Python's plistlib, on request.
 
     plistlib_times.py REQUESTS FILE
 
-REQUESTS is where the lines "read" and "write" come from. Each is answered with the microseconds that it took."""
+REQUESTS contains the lines "read" and "write". The answer to each is its duration in microseconds."""
 import plistlib
 import sys
 import time
