@@ -1,5 +1,5 @@
-// Finding a key of a dictionary: by searching through it, by a sorted index, by a hash table that is made at
-// the first look-up, and as the dictionary does.
+// Finding a key of a dictionary: with a linear search, with a sorted index, with a hash table made at the
+// first lookup, and with the dictionary itself.
 #include "platform/Foundation/PropertyList.h"
 
 #include <benchmark/benchmark.h>
@@ -16,7 +16,7 @@ namespace brimsound::bench {
 
 namespace {
 
-/// Names as presets have them.
+/// Names like those of presets.
 std::vector<PropertyListDictionary::Entry> entriesFor(const benchmark::State& state)
 {
     std::vector<PropertyListDictionary::Entry> entries;
@@ -104,7 +104,7 @@ private:
     PropertyListDictionary _dictionary;
 };
 
-/// One key after the other, with what a search keeps made already.
+/// Finds all keys in turn, with the index or table already made.
 template <typename Search> void findingAKey(benchmark::State& state)
 {
     const auto entries = entriesFor(state);
@@ -116,7 +116,8 @@ template <typename Search> void findingAKey(benchmark::State& state)
     }
 }
 
-/// The first key, with what the search keeps: what a dictionary costs that is read, asked once and dropped.
+/// Finds the first key, including the time to make the index or table: the cost of a dictionary that is read,
+/// used once and dropped.
 template <typename Search> void findingTheFirstKey(benchmark::State& state)
 {
     const auto entries = entriesFor(state);

@@ -1,4 +1,4 @@
-// The live path: from a drag event to the media server's reply, and to the picture.
+// A drag: from the touch event to the media server's reply, and to the picture.
 #include "benchmarks/Paired.h"
 #include "benchmarks/World.h"
 #include "platform/desktop/Qt/PaneWidget.h"
@@ -20,7 +20,7 @@ double nextValue(double value)
     return value >= 11 ? -11 : value + 0.5;
 }
 
-/// A move of the finger until the reply is there, against a call with the same payload.
+/// A move of the finger up to the reply, compared with a call with the same payload.
 void draggingABand(benchmark::State& state)
 {
     const World world;
@@ -41,7 +41,7 @@ void paintingTheWindow(benchmark::State& state)
 }
 BENCHMARK(paintingTheWindow)->Unit(benchmark::kMillisecond);
 
-/// What a widget paints again after a drag event: only the parts that changed.
+/// The painting of a widget after a drag event: only the parts that changed.
 void paintingADragStep(benchmark::State& state)
 {
     const World world;

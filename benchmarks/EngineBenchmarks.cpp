@@ -1,4 +1,4 @@
-// What the filters cost the audio thread, and a change of the sliders the others.
+// The cost of the filters on the audio thread, and of a change of the sliders on the other thread.
 #include "desktop/engine/audio/EqualizerDesign.h"
 #include "desktop/engine/audio/EqualizerProcessor.h"
 #include "desktop/engine/audio/Limiter.h"
@@ -45,9 +45,9 @@ void report(benchmark::State& state)
     using benchmark::Counter;
     const auto frameCount = static_cast<double>(frames);
     const auto rate = static_cast<double>(state.range(0));
-    // Seconds a frame; the table makes nanoseconds of them.
+    // Seconds per frame; the table converts them to nanoseconds.
     state.counters["frame_s"] = Counter(frameCount, Counter::kIsIterationInvariantRate | Counter::kInvert);
-    // Of one core, as a share.
+    // The share of one core.
     state.counters["core"]
         = Counter(frameCount / rate, Counter::kIsIterationInvariantRate | Counter::kInvert);
 }
@@ -63,7 +63,7 @@ void still(benchmark::State& state)
 }
 BENCHMARK(still)->ArgName("Hz")->Arg(48000)->Arg(192000);
 
-// Every gain moves all the time.
+// All gains are changing all the time.
 void ramping(benchmark::State& state)
 {
     Sound sound;

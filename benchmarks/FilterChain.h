@@ -1,4 +1,3 @@
-// PipeWire's own equalizer, for comparison.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -10,17 +9,17 @@
 
 namespace brimsound::benchmarks {
 
-/// A running module-filter-chain with the sink "chain" and ten peaking filters at our bands, and a connection
-/// to change their gains by.
+/// PipeWire's own equalizer, for comparison: a running module-filter-chain with the sink "chain" and ten
+/// peaking filters at the same bands, and a connection that changes their gains.
 class FilterChain {
 public:
-    /// `folder` takes its configuration. Throws std::runtime_error when it does not start.
+    /// Writes its configuration to `folder`. Throws std::runtime_error when it does not start.
     explicit FilterChain(const std::filesystem::path& folder);
     FilterChain(const FilterChain&) = delete;
     FilterChain& operator=(const FilterChain&) = delete;
     ~FilterChain();
 
-    /// Sets the gain in dB of one band, from 0 up; it is on its way when this returns.
+    /// Sends a new gain in dB for one band, counted from 0. Does not wait for its effect.
     void setGain(int band, double gain);
 
     pid_t processIdentifier() const { return _process->processIdentifier(); }

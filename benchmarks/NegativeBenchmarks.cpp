@@ -8,7 +8,7 @@ namespace brimsound::bench {
 
 namespace {
 
-/// The formula as it is written, with three divisions by the alpha.
+/// The formula, written directly with three divisions by the alpha.
 void invertByDivision(std::span<std::uint32_t> pixels)
 {
     for (auto& pixel : pixels) {

@@ -1,4 +1,4 @@
-// Two things measured side by side.
+// Measuring two actions in alternation.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -11,7 +11,7 @@
 
 namespace brimsound::bench {
 
-/// What that share of the times does not exceed, 0.5 for the median.
+/// The time that this share of the times does not exceed; 0.5 gives the median.
 inline double percentile(std::vector<double> times, double share)
 {
     const auto nth
@@ -20,12 +20,12 @@ inline double percentile(std::vector<double> times, double share)
     return *nth;
 }
 
-/// Times of two actions that are carried out in turn, so that both meet the same noise. The benchmark's own
-/// time is that of the pair; what counts are the counters: medians and 99th percentiles in microseconds and
-/// their ratios, ours by the bare one.
+/// Runs two actions alternately, so that both are affected by the same noise. The benchmark's own time is
+/// that of both together. The results are in the counters: medians and 99th percentiles in microseconds, and
+/// the ratios of ours to the bare action.
 class Paired {
 public:
-    /// `prepare` is carried out before each pair and not measured.
+    /// `prepare` runs before each pair and is not measured.
     template <typename Ours, typename Bare>
     void run(benchmark::State& state, const Ours& ours, const Bare& bare,
         const std::function<void()>& prepare = {})

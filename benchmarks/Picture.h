@@ -1,4 +1,4 @@
-// What the operations are measured on.
+// The picture for the measurements.
 #pragma once
 
 #include "platform/UIKit/UIImage.h"
@@ -19,27 +19,27 @@ struct Free {
 };
 using Memory = std::unique_ptr<std::uint32_t[], Free>;
 
-/// Transparent pixels, from the system as they are needed, as the operations get theirs.
+/// Transparent pixels that the system allocates at first use, as for the operations.
 Memory transparentPixels(std::size_t count);
 
-/// A picture of discs, a third of it opaque, most of the rest their soft edges, and transparent between them.
+/// A picture of discs. A third of it is opaque; most of the rest are soft edges, with transparent gaps.
 struct Picture {
     explicit Picture(std::size_t megapixels);
 
     std::size_t width;
     std::size_t height;
     std::vector<std::uint32_t> pixels;
-    /// The same pixels.
+    /// An image of the same pixels.
     RetainPtr<UIImage> image;
 
     std::size_t bytesPerRow() const { return width * sizeof(std::uint32_t); }
     std::size_t bytes() const { return pixels.size() * sizeof(std::uint32_t); }
 };
 
-/// The picture of so many megapixels as the benchmark's one argument says; made once.
+/// The picture with as many megapixels as the benchmark's argument says. Made once.
 const Picture& pictureFor(benchmark::State&);
 
-/// Measures an operation on that picture, in pixels a second of the processor's time.
+/// Measures an operation on that picture, in pixels per second of processor time.
 template <typename Operation> void measure(benchmark::State& state, const Operation& operation)
 {
     const auto& picture = pictureFor(state);
@@ -60,7 +60,7 @@ using PixmanImage = std::unique_ptr<pixman_image_t, Unreference>;
 using CairoSurface = std::unique_ptr<cairo_surface_t, Unreference>;
 using Cairo = std::unique_ptr<cairo_t, Unreference>;
 
-/// The picture's own pixels, of which both libraries only read.
+/// The picture's own pixels; both libraries only read them.
 PixmanImage pixmanImage(const Picture&);
 CairoSurface cairoSurface(const Picture&);
 

@@ -12,11 +12,11 @@ namespace {
 
 constexpr CGSize windowSize { 320, 568 };
 constexpr double scale = 2;
-/// What a flick scrolls in a sixtieth of a second, in points.
+/// The distance of a flick in a sixtieth of a second, in points.
 constexpr double scrollStep = 40;
 
-/// Ten messages, ten writes and one more, as the pane makes them for a preset, against ten calls with the
-/// same payload and eleven writes of the same file.
+/// Choosing a preset: ten messages and eleven writes by the pane, compared with ten calls with the same
+/// payload and eleven writes of the same file.
 void choosingAPreset(benchmark::State& state)
 {
     const World world;
@@ -46,9 +46,9 @@ void choosingAPreset(benchmark::State& state)
 }
 BENCHMARK(choosingAPreset)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond)->MinTime(2);
 
-/// The eleven announcements that choosing a preset makes besides, with what they cause: each reaches this
-/// process and the media server, which reads the file, and the next message waits for that. Against nothing
-/// but the ten messages and eleven writes.
+/// The eleven notifications that choosing a preset also posts, and their effects: each reaches this process
+/// and the media server, which reads the file before it handles the next message. Compared with the ten
+/// messages and eleven writes alone.
 void announcingBesides(benchmark::State& state)
 {
     const World world;
@@ -84,7 +84,7 @@ void openingThePanel(benchmark::State& state)
 }
 BENCHMARK(openingThePanel)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
-/// One step of a flick: new rows built, everything in the window painted.
+/// One step of a flick: builds new rows and paints everything in the window.
 void scrollingTheList(benchmark::State& state)
 {
     const World world;

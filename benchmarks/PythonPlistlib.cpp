@@ -22,7 +22,7 @@ std::filesystem::path newPipe(std::filesystem::path path)
 PythonPlistlib::PythonPlistlib(const std::filesystem::path& file)
     : _requests(newPipe(file.string() + ".requests"))
     , _interpreter({ "python3", PLISTLIB_TIMES, _requests, file }, desktop::ChildProcess::Output::Piped)
-    // For reading too, so as not to wait for the interpreter, which may have failed to start.
+    // Also opened for reading, so as not to wait for the interpreter, which may fail to start.
     , _input(open(_requests.c_str(), O_RDWR | O_CLOEXEC))
 {
 }

@@ -1,4 +1,4 @@
-// Python's plistlib on a preferences file, to compare with.
+// Python's plistlib on a preferences file, for comparison.
 #pragma once
 
 #include "platform/desktop/process/ChildProcess.h"
@@ -8,8 +8,7 @@
 
 namespace brimsound::bench {
 
-/// An interpreter that reads that file, or writes its contents into another one beside, as often as it is
-/// told.
+/// A Python interpreter that reads the file, or writes its contents to another file, on request.
 class PythonPlistlib {
 public:
     explicit PythonPlistlib(const std::filesystem::path&);
@@ -17,7 +16,7 @@ public:
     PythonPlistlib& operator=(const PythonPlistlib&) = delete;
     ~PythonPlistlib();
 
-    /// The microseconds that it took, by the interpreter's own clock.
+    /// The duration in microseconds, measured by the interpreter.
     double read() { return timeOf("read\n"); }
     double write() { return timeOf("write\n"); }
 

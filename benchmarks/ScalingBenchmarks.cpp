@@ -6,8 +6,8 @@ namespace brimsound::bench {
 
 namespace {
 
-// To a part of the pixels along each side, each of them the mean of those that it takes the place of. Half is
-// what drawing an image of two pixels a point takes, and simpler than other parts.
+// Scaling to this fraction of the width and height. Each new pixel is the mean of the pixels that it
+// replaces. Drawing an image of scale 2 at scale 1 halves it, which is simpler than other fractions.
 constexpr double half = 0.5;
 constexpr double twoFifths = 0.4;
 

@@ -1,4 +1,4 @@
-// The preferences file, against plain libplist, and Python's plistlib beside.
+// Reading and writing the preferences file, compared with plain libplist and Python's plistlib.
 #include "benchmarks/Paired.h"
 #include "benchmarks/PythonPlistlib.h"
 #include "benchmarks/World.h"
@@ -34,7 +34,7 @@ void reading(benchmark::State& state)
         state, [] { benchmark::DoNotOptimize(get_preferences()); }, bare,
         [&] {
             pythonTimes.push_back(python.read());
-            // So that not the bare one alone finds the caches cold.
+            // So that the bare action does not always find cold caches.
             bare();
         });
     state.counters["python_p50_us"] = percentile(pythonTimes, 0.5);
@@ -59,7 +59,7 @@ void writing(benchmark::State& state)
         writeBare(file, std::string(bytes, size));
         std::free(bytes);
     };
-    // The pane hands over what it has, so the copy is not part of it.
+    // The pane moves its value into the call, so copying is not part of the measurement.
     Paired().run(
         state, [&] { write_preferences(std::move(copy)); }, bare,
         [&] {

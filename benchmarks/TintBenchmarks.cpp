@@ -5,7 +5,7 @@ namespace brimsound::bench {
 
 namespace {
 
-// Sixteenths of full, so that all of them mean the same color.
+// Sixteenths, which are the same color in all libraries.
 constexpr double red = 3.0 / 16;
 constexpr double green = 6.0 / 16;
 constexpr double blue = 1.0 / 16;
@@ -15,7 +15,7 @@ RetainPtr<UIColor> color()
     return UIColor::colorWithRedGreenBlueAlpha(red, green, blue, 1);
 }
 
-/// What tinting is: the image, the color, and the image's shape.
+/// The steps of tinting with pixman: the image, the color, and the image's shape.
 void tintByPixman(benchmark::State& state, pixman_op_t operation)
 {
     const auto source = pixmanImage(pictureFor(state));

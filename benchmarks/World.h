@@ -1,4 +1,4 @@
-// What a pane that is measured lives in: a bus and files of its own, and a running media server.
+// The environment of a measured pane: a bus, files, and a running media server.
 #pragma once
 
 #include "desktop/brimsound/MediaServer.h"
@@ -16,7 +16,7 @@ namespace brimsound::bench {
 struct World {
     tests::TemporaryRoot root;
     tests::TestBus bus;
-    /// The app's own, which prints nothing that somebody would have to read.
+    /// The app's own server, which prints nothing.
     desktop::MediaServer server;
 
     World();
@@ -24,13 +24,14 @@ struct World {
     std::filesystem::path preferencesFile() const;
 };
 
-/// Preferences as a pane leaves them, with that many presets.
+/// Preferences as a pane writes them, with that many presets.
 PropertyList::Dictionary preferencesWithPresets(std::size_t count);
 
-/// One "equalizer_send" with eleven values and its reply, by plain sd-bus calls on the process's connection.
+/// Sends an "equalizer_send" message with eleven values and waits for its reply, by plain sd-bus calls on the
+/// process's connection.
 void sendBare(const std::vector<double>& values);
 
-/// Tells everybody on the bus that the settings changed, by a plain sd-bus call.
+/// Posts the settings-finished notification by a plain sd-bus call.
 void announceBare();
 
 /// Overwrites the file in place, by plain system calls.

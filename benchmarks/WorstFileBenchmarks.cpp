@@ -1,4 +1,4 @@
-// What the worst of preferences files cost to read.
+// The time to read the worst preferences files.
 #include "benchmarks/World.h"
 #include "settings/store/preferences.h"
 #include "tests/support/BinaryPropertyList.h"
@@ -14,7 +14,7 @@ namespace {
 
 using namespace tests;
 
-/// A dictionary with an array of so many copies of one object.
+/// A dictionary with an array of that many copies of one object.
 std::string copiesOf(std::size_t count, const std::string& object)
 {
     return binaryFile({ dictionaryOf(1, 2), stringOf("k"), arrayOfCopies(count, 3), object });
@@ -28,7 +28,7 @@ std::string keysThatCollide()
     return "<plist><dict>" + entries + "</dict></plist>";
 }
 
-/// Arrays that hold the next one twice.
+/// Arrays of two references to the next array.
 std::string doublingReferences()
 {
     constexpr int depth = 500;
@@ -39,7 +39,7 @@ std::string doublingReferences()
     return binaryFile(objects);
 }
 
-/// As deep as containers may lie in one another, and wide as well.
+/// Containers of the maximum depth, and many of them.
 std::string nestedArrays()
 {
     constexpr std::size_t depth = 511;

@@ -1,5 +1,5 @@
-// What Qt takes by itself: a window as large as the pane's with nothing in it, or, given a file, a picture of
-// that. Runs until it is ended.
+// The cost of Qt alone: an empty window as large as the pane's or, with a file name as the argument, a
+// picture of it. Runs until it is terminated.
 #include <QApplication>
 #include <QImage>
 #include <QWidget>

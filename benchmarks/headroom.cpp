@@ -1,5 +1,5 @@
-// How much of a sound at full scale the presets carry beyond full scale, with the preamp where Auto Preamp
-// puts it and before the limiter. Prints a table.
+// Prints a table: how far each preset raises a sound at full scale beyond full scale, with the preamp set by
+// Auto Preamp and before the limiter.
 #include "desktop/engine/audio/EqualizerDesign.h"
 #include "desktop/engine/audio/EqualizerProcessor.h"
 #include "desktop/engine/audio/FilterResponse.h"
@@ -24,7 +24,7 @@ constexpr std::size_t frames = 2'880'000;
 
 using Samples = std::vector<float>;
 
-/// What came out.
+/// The output level.
 struct Level {
     /// Samples beyond full scale, in percent.
     double beyond = 0;
@@ -46,8 +46,8 @@ void scaleToFullScale(Samples& samples)
         sample /= peak;
 }
 
-// White noise through a sum of one-poles, within 0.05 dB of 3 dB an octave above 9 Hz: P. Kellet's filter,
-// music-dsp source code archive, "Pink noise filter".
+// White noise through a sum of one-pole filters, within 0.05 dB of 3 dB per octave above 9 Hz: P. Kellet's
+// filter, music-dsp source code archive, "Pink noise filter".
 Samples pinkNoise()
 {
     std::mt19937 generator(1);
@@ -69,7 +69,7 @@ Samples pinkNoise()
     return samples;
 }
 
-// As music is made loud: turned up, and clipped at full scale.
+// Amplified and clipped at full scale, like loudly mastered music.
 Samples clipped(Samples samples)
 {
     for (auto& sample : samples)

@@ -1,4 +1,4 @@
-// The pane's benchmarks paint text, which takes a running Qt; a display it does not take.
+// The pane's benchmarks paint text, which needs a running Qt but no display.
 #include <QApplication>
 
 #include <benchmark/benchmark.h>

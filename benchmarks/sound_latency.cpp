@@ -1,5 +1,5 @@
-// How soon a slider is heard, what it leaves behind in the sound and what that costs, beside PipeWire's own
-// filter chain in the same sound system: sound_latency OUTPUT.json
+// Measures the delay of a slider's effect on the sound, the residue that its movement adds, and the processor
+// time, compared with PipeWire's own filter chain in the same sound system: sound_latency OUTPUT.json
 #include "benchmarks/FilterChain.h"
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/sound/Engine.h"
@@ -29,10 +29,10 @@ using namespace std::chrono_literals;
 using Json = nlohmann::json;
 using Complex = std::complex<double>;
 
-/// Half of them up and half of them down.
+/// Half of them raise the gain and half lower it.
 constexpr int messages = 40;
 constexpr double rate = 48000;
-/// That of 1 kHz, counted from 0.
+/// The band of 1 kHz, counted from 0.
 constexpr int band = 4;
 constexpr double frequency = 1000;
 
@@ -64,8 +64,7 @@ double cpuSeconds(pid_t process)
     std::ifstream file("/proc/" + std::to_string(process) + "/stat");
     std::string text;
     std::getline(file, text);
-    // Behind the name in parentheses, fields 14 and 15 are what it took itself and what the kernel did for
-    // it.
+    // After the name in parentheses, fields 14 and 15 are the user and system time of the process.
     std::istringstream fields(text.substr(text.rfind(')') + 2));
     std::string skipped;
     for (int i = 0; i < 11; ++i)
@@ -76,7 +75,7 @@ double cpuSeconds(pid_t process)
     return (user + kernel) / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
-/// The amplitude of the sine around a sample: one period of 48 samples.
+/// The amplitude of the sine around a sample, from one period of 48 samples.
 double amplitude(const Samples& samples, std::size_t begin)
 {
     Complex sum;
@@ -86,7 +85,7 @@ double amplitude(const Samples& samples, std::size_t begin)
     return 2 * std::abs(sum) / 48;
 }
 
-/// The first sample that does not continue the sine before it.
+/// The first sample that does not continue the preceding sine.
 std::optional<std::size_t> firstChange(const Samples& samples)
 {
     for (std::size_t i = 48; i < samples.size(); ++i) {
@@ -96,7 +95,8 @@ std::optional<std::size_t> firstChange(const Samples& samples)
     return std::nullopt;
 }
 
-/// How many samples after the message the sound changes, and is within 1 % of where it goes.
+/// The number of samples from the message to the first change of the sound, and until it is within 1 % of its
+/// final level.
 Json latency(const Subject& subject)
 {
     const Recorder device("hw1");
@@ -106,7 +106,7 @@ Json latency(const Subject& subject)
     std::vector<double> first;
     std::vector<double> settled;
     for (int message = 0; message < messages; message += 2) {
-        // Always up and back, so that each jump starts from rest.
+        // Up and back, so that each jump starts from a steady state.
         for (const double gain : { 6.0, 0.0 }) {
             const auto before = device.position();
             subject.setGain(gain);
@@ -150,8 +150,8 @@ void transform(std::vector<Complex>& values)
     }
 }
 
-/// What there is further than 250 Hz from the sine, in dBFS: the median of pieces, as a busy machine may lose
-/// blocks.
+/// The level of everything more than 250 Hz from the sine, in dBFS: the median of several pieces, because a
+/// busy machine may lose blocks.
 double residue(const Samples& samples)
 {
     constexpr std::size_t length = 8192;
@@ -160,7 +160,7 @@ double residue(const Samples& samples)
         std::vector<Complex> piece;
         double weights = 0;
         for (std::size_t i = 0; i < length; ++i) {
-            // Its own side lobes are far below what is measured.
+            // The side lobes of this window are far below the measured levels.
             const double weight = std::pow(std::sin(std::numbers::pi * static_cast<double>(i) / length), 6);
             weights += weight * weight;
             piece.emplace_back(weight * static_cast<double>(samples[begin + i]));
@@ -193,7 +193,7 @@ double drag(const Subject& subject)
     return residue(samples);
 }
 
-/// The share of a core while a stereo stream passes.
+/// The share of a core while a stereo stream is processed.
 double cost(const Subject& subject)
 {
     const double before = cpuSeconds(subject.process);
@@ -203,7 +203,7 @@ double cost(const Subject& subject)
     return (cpuSeconds(subject.process) - before) / passed.count();
 }
 
-/// Both in a sound system of their own, whose blocks have that many frames.
+/// Measures both in their own sound system with blocks of that many frames.
 void measure(int quantum, Json& results)
 {
     const TemporaryRoot root;
