@@ -1,6 +1,6 @@
-# Fails when a room includes what it must not see: the product and the platform's interface stand on the standard
-# library and on each other alone, the view tree besides on the desktop platform, but on no other library.
-# Run with -D source=<the project's folder>.
+# Fails when a folder includes a header that it must not use. The product and the platform's interface use only the
+# standard library and each other. The view tree also uses the desktop platform, but no other library. Run with -D
+# source=<the project's folder>.
 
 function(check_layer rooms allowed)
   foreach(room IN LISTS rooms)

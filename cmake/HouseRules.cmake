@@ -1,4 +1,4 @@
-# clang-tidy along with the compiler. Its checks differ from release to release, and .clang-tidy is written for this one.
+# Runs clang-tidy with the compiler. Its checks depend on its release; .clang-tidy is written for this one.
 set(house_release 14)
 
 find_program(clang_tidy clang-tidy REQUIRED)

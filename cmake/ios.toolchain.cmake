@@ -1,8 +1,8 @@
-# Cross-building for the device, arm64 with iOS 9.0 or later, with clang and lld.
+# Cross-building for the device: arm64 with iOS 9.0 or later, with clang and lld.
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 
-# The compiler, the linker, the tools and the headers of libc++ come from one release of LLVM: that of clang++.
+# The compiler, the linker, the tools and the headers of libc++ are from the same release of LLVM: that of clang++.
 file(REAL_PATH /usr/bin/clang++ clang)
 cmake_path(GET clang PARENT_PATH llvm_tools)
 cmake_path(GET llvm_tools PARENT_PATH llvm)
@@ -11,10 +11,10 @@ set(ios_sysroot ${CMAKE_CURRENT_LIST_DIR}/../platform/ios/sysroot)
 cmake_path(NORMAL_PATH ios_sysroot)
 
 set(SDKROOT "$ENV{SDKROOT}" CACHE PATH "The SDK to build against; without one, the stand-ins in platform/ios/sysroot")
-# CMake's own checks read this file anew.
+# CMake's own compiler checks read this file again.
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SDKROOT)
 
-# The standard library's headers are those that come with the compiler, SDK or not, with the markup of what the device's
+# The headers of the standard library are those of the compiler, with or without an SDK. They mark what the device's
 # library lacks.
 add_compile_options(
   -nostdinc++
@@ -23,20 +23,20 @@ add_compile_options(
 )
 if(SDKROOT)
   set(CMAKE_OSX_SYSROOT ${SDKROOT})
-  # What later systems have something better for is all that iOS 9 has.
+  # Replacements for deprecated functions do not exist in iOS 9.
   add_compile_options(-Wno-deprecated-declarations)
 else()
   set(CMAKE_OSX_SYSROOT ${ios_sysroot}/stubs)
   add_compile_options(-nostdlibinc "SHELL:-isystem ${ios_sysroot}/libc")
 endif()
-# The SDK's frameworks come before those that no SDK has.
+# Frameworks of the SDK come before those that no SDK contains.
 add_compile_options("SHELL:-idirafter ${ios_sysroot}/frameworks")
 
 foreach(language CXX OBJCXX)
   set(CMAKE_${language}_COMPILER ${llvm_tools}/clang++)
   set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios9.0)
 endforeach()
-# The linker's version tells the compiler which options lld knows.
+# The linker's version tells the compiler which options lld supports.
 string(JOIN " " CMAKE_MODULE_LINKER_FLAGS_INIT
   -fuse-ld=lld
   --ld-path=${llvm_tools}/ld64.lld
@@ -51,5 +51,5 @@ set(CMAKE_INSTALL_NAME_TOOL ${llvm_tools}/llvm-install-name-tool)
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
-# There is nothing to link a program with.
+# There are no libraries to link a program with.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

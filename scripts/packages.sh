@@ -1,13 +1,13 @@
-# Installing what a Debian machine lacks. To be sourced.
+# Functions and lists for installing missing Debian packages. To be sourced.
 
-# What it takes to build and run the pane.
+# Packages to build and run the pane.
 run_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-wayland libsystemd-dev libgmime-3.0-dev libglib2.0-dev
     libpipewire-0.3-dev libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
-# What the tests take besides.
+# Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
     locales python3 xvfb xdotool
@@ -15,20 +15,20 @@ test_packages=(
     libgnustep-base-dev libpng-dev
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng
 )
-# What the benchmarks take besides those that run the pane.
+# Additional packages for the benchmarks.
 bench_packages=(
     libbenchmark-dev libcairo2-dev libplist-dev python3 xvfb
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules
 )
-# What it takes to build the device's bundle and its package. The compiler, the linker, the tools and the standard library
-# are of one release of LLVM, the one that the Debian release has as its own.
+# Packages to build the device's bundle and its package. The compiler, the linker, the tools and the standard library
+# are from the same release of LLVM, the default of the Debian release.
 ios_packages=(cmake ninja-build clang lld llvm libc++-dev dpkg git python3)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# install_packages NAME…: installs those that are missing, as root or with sudo.
+# install_packages NAME…: installs the missing ones of these packages, as root or with sudo.
 install_packages() {
     local missing=() name
     for name; do
@@ -50,7 +50,7 @@ install_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET: configures when that was not done yet, and builds.
+# build PRESET: configures if necessary, and builds.
 build() {
     echo "Building $1"
     [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
