@@ -74,7 +74,7 @@ protected:
 
 using APaneInAWindowWhoseBus = APaneWhoseBus;
 
-TEST_F(APaneWhoseBus, IsGoneLogsEachSendSavesAndFindsItAgain)
+TEST_F(APaneWhoseBus, IsGoneLogsEachSendSavesAndReconnectsLater)
 {
     server.emplace();
     auto& headless = start({ "--headless" });
@@ -99,7 +99,7 @@ TEST_F(APaneWhoseBus, IsGoneLogsEachSendSavesAndFindsItAgain)
     EXPECT_TRUE(releaseArrives(headless, *server, 4));
 }
 
-TEST_F(APaneWhoseBus, WasReplacedBetweenTwoGesturesTellsTheNextOneOfAPost)
+TEST_F(APaneWhoseBus, WasReplacedBetweenTwoGesturesPostsOnTheNewOne)
 {
     server.emplace();
     auto& headless = start({ "--headless" });
@@ -112,7 +112,7 @@ TEST_F(APaneWhoseBus, WasReplacedBetweenTwoGesturesTellsTheNextOneOfAPost)
     EXPECT_TRUE(releaseArrives(headless, *server, 4));
 }
 
-TEST_F(APaneWhoseBus, HangsWaitsOneSecondASend)
+TEST_F(APaneWhoseBus, HangsBlocksEachSendForOneSecond)
 {
     server.emplace();
     auto& headless = start({ "--headless" });
@@ -132,7 +132,7 @@ TEST_F(APaneWhoseBus, HangsWaitsOneSecondASend)
     EXPECT_TRUE(releaseArrives(headless, *server, 4));
 }
 
-TEST_F(APaneWhoseBus, GaveWayToAMuteOneWaitsOneSecondASend)
+TEST_F(APaneWhoseBus, IsReplacedByASilentOneBlocksEachSendForOneSecond)
 {
     auto& headless = start({ "--headless" });
     bus.kill();
@@ -155,7 +155,7 @@ TEST_F(APaneWhoseBus, GaveWayToAMuteOneWaitsOneSecondASend)
     EXPECT_TRUE(releaseArrives(headless, *server, 4));
 }
 
-TEST_F(APaneInAWindowWhoseBus, ComesBackHearsOthersAgainByItself)
+TEST_F(APaneInAWindowWhoseBus, ComesBackReceivesNotificationsAgainByItself)
 {
     screen.emplace();
     auto& window = start({});

@@ -108,7 +108,7 @@ TEST_F(AScript, OverwritesTheFileInPlace)
     EXPECT_EQ(root.read(std::string(preferences) + ".link"), root.read(preferences));
 }
 
-TEST_F(AScript, SwallowsItsOwnDeliveriesAndHearsOthers)
+TEST_F(AScript, IgnoresItsOwnNotificationsAndReactsToOthers)
 {
     const auto run = playScript(
         root, "touch 3\nlift 3\nstate\npost com.quorvix.brimsound.settingsfinishnotify\nwait 0.1\nstate\n");
@@ -193,7 +193,7 @@ TEST_F(AScript, ScrollsWithAFingerThatStartsOnASlider)
     EXPECT_EQ(run.trace.back().at("sliders"), flat());
 }
 
-TEST_F(AScript, ReleasesThePaneAndOpensItAnew)
+TEST_F(AScript, ReleasesThePaneAndOpensItAgain)
 {
     const auto run = playScript(root,
         "touch 3\ndrag 3 4.5\nlift 3\nclose\nstate\nwait 0.1\nopen\nstate\ntouch 3\ndrag 3 5\nlift 3\n");
@@ -260,7 +260,7 @@ TEST_F(AScript, StopsAtABadLineWithItsNumberAndTheReason)
     }
 }
 
-TEST_F(AScript, StopsWhenItAsksForWhatCannotBe)
+TEST_F(AScript, StopsAtACommandThatCannotBeExecuted)
 {
     EXPECT_EQ(playScript(root, "touch 3\ntouch 4\n").status, 2);
     EXPECT_EQ(playScript(root, "touch 3\ndrag 4 1\n").status, 2);
@@ -276,7 +276,7 @@ TEST_F(AScript, StopsWhenItAsksForWhatCannotBe)
     EXPECT_THAT(playScript(root, "resize 60 300\ntouch 3\n").errors, HasSubstr("slider 3 is covered\n"));
 }
 
-TEST_F(AScript, IsToldInOneLineThatAPictureIsTooLarge)
+TEST_F(AScript, ReportsInOneLineThatAPictureIsTooLarge)
 {
     const auto run = playScript(root, "resize 10000 10000\nsnapshot huge.png 8\n");
     EXPECT_EQ(run.status, 2);
@@ -284,7 +284,7 @@ TEST_F(AScript, IsToldInOneLineThatAPictureIsTooLarge)
     EXPECT_THAT(run.errors, testing::Not(HasSubstr("QPainter")));
 }
 
-TEST_F(AScript, WorksWithPreferencesThatAreNone)
+TEST_F(AScript, WorksWithAnInvalidPreferencesFile)
 {
     for (const auto* contents : { "", "bplist00", "garbage \x01\x02\xff", "<plist><array/></plist>" }) {
         root.write(preferences, contents);
@@ -320,7 +320,7 @@ TEST_F(AScript, IsEmptyWithoutStandardInput)
     EXPECT_EQ(shell.exitStatus(std::chrono::seconds(20)), 0);
 }
 
-TEST_F(AScript, IsCarriedOutWithoutStandardOutput)
+TEST_F(AScript, RunsWithoutStandardOutput)
 {
     root.write("/script", "touch 3\nlift 3\n");
     const std::string program = BRIMSOUND " --headless --root " + root.path().string();
@@ -330,7 +330,7 @@ TEST_F(AScript, IsCarriedOutWithoutStandardOutput)
     EXPECT_THAT(root.read(preferences), StartsWith("bplist00"));
 }
 
-TEST_F(AScript, EndsAtALineWithoutEnd)
+TEST_F(AScript, StopsAtALineThatIsTooLong)
 {
     const auto run = runProgram({ "--headless", "--root", root.path(), "--script", "/dev/zero" });
     EXPECT_EQ(run.status, 2);
@@ -365,7 +365,7 @@ TEST_F(AScript, CannotBeReadWhenThereIsNone)
     EXPECT_THAT(run.errors, HasSubstr("brimsound: the script \"/no/such/script\" cannot be read\n"));
 }
 
-TEST_F(AScript, ABadCommandLineIsToldInOneLine)
+TEST_F(AScript, ReportsABadCommandLineInOneLine)
 {
     const std::vector<std::vector<std::string>> badLines { { "--nonsense" }, { "stray" }, { "--scale", "0" },
         { "--scale", "big" }, { "--scale", "8.1" }, { "--scale", "nan" }, { "--root", "" }, { "--script" },
@@ -378,7 +378,7 @@ TEST_F(AScript, ABadCommandLineIsToldInOneLine)
     }
 }
 
-TEST_F(AScript, ARootThatCannotBeMadeIsToldInOneLine)
+TEST_F(AScript, ReportsARootThatCannotBeCreatedInOneLine)
 {
     const auto run = runProgram({ "--headless", "--root", "/proc/nowhere", "--script", "/dev/null" });
     EXPECT_EQ(run.status, 1);
@@ -432,7 +432,7 @@ TEST_F(AMediaServer, ThatRunsAlreadyFollowsThePane)
     EXPECT_TRUE(server.process().running());
 }
 
-TEST_F(AMediaServer, ThatDiesAndComesBackIsFoundAgain)
+TEST_F(AMediaServer, ThatEndsAndIsRestartedIsUsedAgain)
 {
     std::optional<MediaServer> server(std::in_place);
     RunningProgram pane(root.path(), { "--headless" });
@@ -458,7 +458,7 @@ TEST_F(AMediaServer, ThatDiesAndComesBackIsFoundAgain)
     EXPECT_EQ(pane.next().at("effect"), "notify");
 }
 
-TEST_F(AMediaServer, IsBroughtAlongAndEndsWithThePane)
+TEST_F(AMediaServer, IsStartedByThePaneAndEndsWithIt)
 {
     {
         RunningProgram pane(root.path(), { "--headless" });

@@ -76,7 +76,7 @@ TEST_F(APaneWhoseMediaServer, IsAbsentLogsEachSendAndSavesNonetheless)
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
 }
 
-TEST_F(APaneWhoseMediaServer, IsKilledInMidCallHearsOfItAtOnce)
+TEST_F(APaneWhoseMediaServer, IsKilledDuringACallFailsAtOnce)
 {
     server->process().signal(SIGSTOP);
     pane.say("drag 3 2");
@@ -94,7 +94,7 @@ TEST_F(APaneWhoseMediaServer, IsKilledInMidCallHearsOfItAtOnce)
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
 }
 
-TEST_F(APaneWhoseMediaServer, HangsWaitsOneSecondASend)
+TEST_F(APaneWhoseMediaServer, HangsBlocksEachSendForOneSecond)
 {
     server->process().signal(SIGSTOP);
     for (const double gain : { 1.0, 2.0 }) {
@@ -128,7 +128,7 @@ TEST_F(APaneWhoseMediaServer, RefusesTheGainsLogsWhatItSays)
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
 }
 
-TEST_F(APaneWhoseMediaServer, AnswersNonsenseGoesOn)
+TEST_F(APaneWhoseMediaServer, SendsInvalidRepliesKeepsWorking)
 {
     server.reset();
     const std::vector<StandInServer::Answer> nonsense {
@@ -172,7 +172,7 @@ int replyWithNumbers(sd_bus_message* message, std::size_t bytes)
     return sd_bus_send(nullptr, created, nullptr);
 }
 
-TEST_F(APaneWhoseMediaServer, AnswersHugelyKeepsNoneOfIt)
+TEST_F(APaneWhoseMediaServer, SendsAHugeReplyDoesNotKeepIt)
 {
     constexpr std::size_t answerSize = 48 << 20;
     if (isSanitized())
@@ -197,7 +197,7 @@ TEST_F(APaneWhoseMediaServer, AnswersHugelyKeepsNoneOfIt)
     EXPECT_LT(residentBytes(process), before + answerSize / 2);
 }
 
-TEST_F(APaneWhoseMediaServer, IsReplacedByAMuteOneIsServedAgainWhenThatLeaves)
+TEST_F(APaneWhoseMediaServer, IsReplacedByASilentOneIsUsedAgainWhenThatEnds)
 {
     {
         std::atomic<int> heard = 0;
@@ -227,7 +227,7 @@ TEST_F(APaneWhoseMediaServer, IsReplacedByAMuteOneIsServedAgainWhenThatLeaves)
     EXPECT_GT(serverProcess(), 0);
 }
 
-TEST_F(APaneWhoseMediaServer, GoesAwayForGoodBringsItsOwn)
+TEST_F(APaneWhoseMediaServer, EndsForGoodStartsItsOwn)
 {
     server.reset();
     pane.say("wait 0");

@@ -92,7 +92,7 @@ TEST_F(AScriptOfPresets, SavesTheSlidersUnderTheNameThatIsTyped)
     EXPECT_EQ(states[2].at("selected"), "My own");
 }
 
-TEST_F(AScriptOfPresets, TakesAnEmojiForAName)
+TEST_F(AScriptOfPresets, AcceptsAnEmojiAsAName)
 {
     const auto run = playScript(
         root, "press \"Presets\"\nsaverow\ntype \"\xF0\x9F\x8E\xB8\"\nreturn\npress \"Presets\"\nstate\n");
@@ -176,7 +176,7 @@ TEST_F(AScriptOfPresets, FollowsTheWindow)
     EXPECT_EQ(lastState(narrowed).at("panel"), "hidden");
 }
 
-TEST_F(AScriptOfPresets, LeavesNothingOfAClosedPaneThatWouldAnswer)
+TEST_F(AScriptOfPresets, LeavesNoObserverOfAClosedPane)
 {
     const auto run = playScript(root,
         "press \"Presets\"\ndim\nwait 1\nclose\npost com.quorvix.brimsound.settingsfinishnotify\nwait 1\n");
@@ -186,7 +186,7 @@ TEST_F(AScriptOfPresets, LeavesNothingOfAClosedPaneThatWouldAnswer)
     EXPECT_THAT(run.all("delivered"), SizeIs(1));
 }
 
-TEST_F(AScriptOfPresets, OpensAFreshPaneWithoutThePanelOfTheOneBefore)
+TEST_F(AScriptOfPresets, OpensANewPaneWithoutThePreviousPanel)
 {
     const auto run = playScript(
         root, "press \"Presets\"\nclose\nopen\nstate\ntouch 1\ndrag 1 3\nlift 1\npress \"Presets\"\nstate\n");
@@ -195,7 +195,7 @@ TEST_F(AScriptOfPresets, OpensAFreshPaneWithoutThePanelOfTheOneBefore)
     EXPECT_EQ(run.all("state")[1].at("panel"), "list");
 }
 
-TEST_F(AScriptOfPresets, WorksInAWindowTooLowForTheSliders)
+TEST_F(AScriptOfPresets, WorksInAWindowTooShortForTheSliders)
 {
     const auto run
         = playScript(root, "close\nresize 280 240\nopen\npress \"Presets\"\nrow \"Rock\"\nstate\n");

@@ -100,12 +100,12 @@ TEST_F(AGesture, MovesAndEndsOutsideOfTheSliderWhenItSaysSo)
         ElementsAre("down", "outside", "up outside"));
 }
 
-TEST_F(AGesture, IsTakenAway)
+TEST_F(AGesture, IsCanceled)
 {
     EXPECT_THAT(eventsOf({ "touch 3", "drag 3 1", "cancel 3" }), ElementsAre("down", "inside", "cancelled"));
 }
 
-TEST_F(AGesture, OfARawFingerIsTakenAwayToo)
+TEST_F(AGesture, OfARawFingerIsCanceledToo)
 {
     EXPECT_THAT(
         eventsOf({ "finger down 175 541", "wait 0.2", "finger cancel" }), ElementsAre("down", "cancelled"));

@@ -52,7 +52,7 @@ pid_t serverProcess()
     return pid;
 }
 
-TEST_F(AScriptOfSwitches, TellsTheEngineWithoutAnAlertOrOffersARespringWithoutTelling)
+TEST_F(AScriptOfSwitches, NotifiesTheEngineOrOffersARespring)
 {
     const auto run = playScript(root, "switch FILTER_DISABLED on\nswitch ENABLED off\n");
     EXPECT_EQ(run.status, 0) << run.errors;
@@ -118,7 +118,7 @@ TEST_F(AScriptOfSwitches, CannotReachWhatAnAlertCovers)
     }
 }
 
-TEST_F(AScriptOfSwitches, StopsAtWhatIsNotThere)
+TEST_F(AScriptOfSwitches, StopsAtANameThatDoesNotExist)
 {
     const std::vector<std::pair<std::string, std::string>> badLines {
         { "switch NOISE on", "there is no switch \"NOISE\"" },

@@ -51,7 +51,7 @@ std::vector<Json> gesture(RunningProgram& pane)
     return lines;
 }
 
-TEST_F(ARealWindow, DoesForAPointerWhatItDoesForAScript)
+TEST_F(ARealWindow, ReactsToAPointerAsToAScript)
 {
     // The third band's thumb on the first screen.
     point({ "mousemove", "--window", "%1", "175", "541", "mousedown", "1" });
@@ -103,7 +103,7 @@ TEST_F(ARealWindow, CanBeResized)
     EXPECT_NEAR(bar, 35 + 14 + (360 - 28) * (12 - 6) / 24.0, 1e-4);
 }
 
-TEST_F(ARealWindow, HearsOfOtherProcessesByItself)
+TEST_F(ARealWindow, ReceivesNotificationsOfOtherProcessesByItself)
 {
     root.write("/var/mobile/Library/Preferences/com.quorvix.brimsound.plist",
         "<plist><dict><key>PREAMP</key><real>-5</real></dict></plist>");

@@ -37,7 +37,7 @@ TEST(EveryFileOfTheCorpus, IsReadAndWrittenAsPreferences)
     }
 }
 
-TEST(EveryFileOfTheCorpus, IsTakenApartAsAScript)
+TEST(EveryFileOfTheCorpus, IsParsedAsAScript)
 {
     const auto files = filesOf("script");
     EXPECT_FALSE(files.empty());

@@ -69,7 +69,7 @@ TEST_F(LivingTogether, ASuperviewKeepsTheObject)
     EXPECT_EQ(Counted::alive, 0);
 }
 
-TEST_F(LivingTogether, ANativeObjectHasOneObjectAlways)
+TEST_F(LivingTogether, ANativeObjectAlwaysHasTheSameObject)
 {
     inOneTurn([] {
         UILabel* first = ios::objectOf<UILabel>([[[::UILabel alloc] init] autorelease]);
@@ -77,7 +77,7 @@ TEST_F(LivingTogether, ANativeObjectHasOneObjectAlways)
     });
 }
 
-TEST_F(LivingTogether, WhatIsAskedForIsNotKept)
+TEST_F(LivingTogether, AReturnedObjectIsNotRetained)
 {
     inOneTurn([] {
         const auto view = make<UIView>();
@@ -122,7 +122,7 @@ TEST_F(LivingTogether, APaneThatClosesLeavesNothingBehind)
     [center release];
 }
 
-TEST_F(LivingTogether, AnAlertHearsOfItsAnswerWhenThePaneIsGone)
+TEST_F(LivingTogether, AnAlertDeliversItsAnswerAfterThePaneIsClosed)
 {
     inOneTurn([] { openController()->setEnabled(false); });
     platform.takeTrace();
@@ -131,7 +131,7 @@ TEST_F(LivingTogether, AnAlertHearsOfItsAnswerWhenThePaneIsGone)
     EXPECT_EQ(_activeController, nullptr) << "the alert held it";
 }
 
-TEST_F(LivingTogether, AMailIsTakenAwayWhenThePaneIsGone)
+TEST_F(LivingTogether, AMailIsDismissedAfterThePaneIsClosed)
 {
     inOneTurn([&] {
         const auto controller = openController();

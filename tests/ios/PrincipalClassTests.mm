@@ -112,7 +112,7 @@ TEST_F(ThePrincipalClass, DoesNothingWithNilAndWithoutSliders)
     [controller release];
 }
 
-TEST_F(ThePrincipalClass, IsGoneWithItsLastReference)
+TEST_F(ThePrincipalClass, IsDestroyedWithItsLastReference)
 {
     PSListController* controller = open();
     EXPECT_NE(brimsound::_activeController, nullptr);
@@ -130,7 +130,7 @@ TEST_F(ThePrincipalClass, OpensWithoutAContentSizeToo)
     EXPECT_EQ(brimsound::_activeController, nullptr);
 }
 
-TEST_F(ThePrincipalClass, LoadsItsSpecifiersAnewWhenTold)
+TEST_F(ThePrincipalClass, ReloadsItsSpecifiersOnRequest)
 {
     PSListController* controller = open();
     id before = [[[controller specifiers] objectAtIndex:0] retain];
@@ -140,7 +140,7 @@ TEST_F(ThePrincipalClass, LoadsItsSpecifiersAnewWhenTold)
     [controller release];
 }
 
-TEST_F(ThePrincipalClass, HandsASwitchToThePane)
+TEST_F(ThePrincipalClass, PassesASwitchToThePane)
 {
     PSListController* controller = open();
     UITableView* table = [(UIView*)[controller view] isKindOfClass:[UITableView class]]
@@ -161,7 +161,7 @@ TEST_F(ThePrincipalClass, HandsASwitchToThePane)
     [controller release];
 }
 
-TEST_F(ThePrincipalClass, ShowsNoMailWhereThereIsNothingToShowItOver)
+TEST_F(ThePrincipalClass, ShowsNoMailWithoutARootController)
 {
     PSListController* controller = open();
     ASSERT_EQ([controller rootController], nil);
@@ -170,7 +170,7 @@ TEST_F(ThePrincipalClass, ShowsNoMailWhereThereIsNothingToShowItOver)
     [controller release];
 }
 
-TEST_F(ThePrincipalClass, AnswersNothingBeforeItIsInitialized)
+TEST_F(ThePrincipalClass, ReturnsNothingBeforeItIsInitialized)
 {
     // The class gets its methods when the first controller is created.
     [open() release];

@@ -146,7 +146,7 @@ TEST_F(AMediaServer, RefusesCallsOfTheWrongType)
     EXPECT_EQ(error, std::nullopt);
 }
 
-TEST_F(AMediaServer, TakesGainsOfAnyNumberType)
+TEST_F(AMediaServer, AcceptsGainsOfAnyNumberType)
 {
     tests::MediaServer server;
     auto vals = someGains;
@@ -178,7 +178,7 @@ TEST_F(AMediaServer, RereadsThePreferencesWhenTheyChanged)
     EXPECT_EQ(server.nextLine(), zerosPrinted);
 }
 
-TEST_F(AMediaServer, TakesOddValuesInThePreferencesForZero)
+TEST_F(AMediaServer, TreatsInvalidGainsInThePreferencesAsZero)
 {
     tests::MediaServer server;
     store(Dictionary { { preampKey, "3.5" },
@@ -220,7 +220,7 @@ TEST_F(AMediaServer, KeepsTheGainsWhileTheFileIsDamagedOrUnreadable)
     EXPECT_EQ(server.nextLine(), R"({"vals":[1.5,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0]})");
 }
 
-TEST_F(AMediaServer, TakesGainsBeyondTwelveDecibelsForTwelve)
+TEST_F(AMediaServer, LimitsGainsToTwelveDecibels)
 {
     tests::MediaServer server;
     send(gains({ -12.5, 13, 1e9, -1e9, 12, -12, 0, 0, 0, 0, 0 }));
@@ -232,7 +232,7 @@ TEST_F(AMediaServer, TakesGainsBeyondTwelveDecibelsForTwelve)
     EXPECT_EQ(server.nextLine(), R"({"vals":[12.0,1.0,2.0,-12.0,0.0,0.0,0.0,0.0,0.0,0.0,0.0]})");
 }
 
-TEST_F(AMediaServer, EndsCleanlyWhenToldTo)
+TEST_F(AMediaServer, EndsCleanlyOnSigterm)
 {
     for (const int signal : { SIGTERM, SIGINT }) {
         tests::MediaServer server;
@@ -261,7 +261,7 @@ TEST(StartingAMediaServer, NeedsABus)
     EXPECT_EQ(outcomeOf("--silent"), "mediaserverd: there is no session bus\nexit 1\n");
 }
 
-TEST(StartingAMediaServer, TakesNoOptionsThatItDoesNotKnow)
+TEST(StartingAMediaServer, RejectsUnknownOptions)
 {
     EXPECT_THAT(outcomeOf("--loud"), testing::MatchesRegex("[^\n]*--loud[^\n]*\nexit 2\n"));
     EXPECT_THAT(outcomeOf("--root"), testing::MatchesRegex("[^\n]*--root[^\n]*\nexit 2\n"));

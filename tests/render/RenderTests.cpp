@@ -159,7 +159,7 @@ TEST_F(Rendering, KeepsALossyFormatAndTheLength)
     EXPECT_THAT(out.samples, SizeIs(96000));
 }
 
-TEST_F(Rendering, KeepsTextsAndTheOrderOfChannels)
+TEST_F(Rendering, KeepsTagsAndTheOrderOfChannels)
 {
     const std::vector<int> order { SF_CHANNEL_MAP_LEFT, SF_CHANNEL_MAP_RIGHT, SF_CHANNEL_MAP_LFE };
     write(path("in.caf"),
@@ -230,7 +230,7 @@ TEST_F(Rendering, IsSettledFromTheFirstSampleOn)
     EXPECT_THAT(read(path("out.wav")).samples, Each(testing::FloatNear(0.250594f, 1e-5f)));
 }
 
-TEST_F(Rendering, LimitsUnlessToldNotTo)
+TEST_F(Rendering, LimitsByDefault)
 {
     writeSine("in.wav", 1000, 0.9f);
     expectDone(run("in.wav out.wav --gains '0 0 0 0 12 0 0 0 0 0'"));
@@ -274,14 +274,14 @@ TEST_F(Rendering, CanReplaceItsInput)
     EXPECT_THAT(files(), testing::ElementsAre("in.wav", "link.wav"));
 }
 
-TEST_F(Rendering, TakesAFileWithoutSound)
+TEST_F(Rendering, AcceptsAFileWithoutSound)
 {
     write(path("in.wav"), { .rate = 48000, .channels = 2, .format = wav16, .samples = {} });
     expectDone(run("in.wav out.wav --preset Rock"));
     EXPECT_THAT(read(path("out.wav")).samples, IsEmpty());
 }
 
-TEST_F(Rendering, RefusesWhatIsNoSound)
+TEST_F(Rendering, RejectsAFileThatIsNotSound)
 {
     writeFile(path("in.wav"), "This is a text.\n");
     expectRefused(run("in.wav out.wav --preset Rock"), 1, "\"in.wav\" cannot be read: ");
@@ -296,7 +296,7 @@ TEST_F(Rendering, RefusesMoreThanEightChannels)
         run("in.wav out.wav --preset Rock"), 1, "\"in.wav\" has 9 channels; at most 8 can be equalized");
 }
 
-TEST_F(Rendering, RefusesAPlaceWhereNoFileCanBe)
+TEST_F(Rendering, RejectsAnOutputThatCannotBeWritten)
 {
     writeSine("in.wav", 1000, 0.1f);
     expectRefused(run("in.wav missing/out.wav --preset Rock"), 1, "No such file or directory");
@@ -304,7 +304,7 @@ TEST_F(Rendering, RefusesAPlaceWhereNoFileCanBe)
     expectRefused(run("in.wav /dev/null --preset Rock"), 1, "\"/dev/null\" is no file");
 }
 
-TEST_F(Rendering, StopsAtADamagedFileAndLeavesWhatWasThere)
+TEST_F(Rendering, StopsAtADamagedFileAndKeepsTheOldOutput)
 {
     write(path("in.flac"),
         { .rate = 48000,
@@ -369,7 +369,7 @@ TEST_F(Rendering, ShowsProgressOnATerminal)
     EXPECT_THAT(shown, EndsWith("\rRendering 100 %\r\033[K"));
 }
 
-TEST_F(Rendering, RefusesArgumentsThatMakeNoSense)
+TEST_F(Rendering, RejectsInvalidArguments)
 {
     writeSine("in.wav", 1000, 0.1f);
     expectRefused(run(""), 2, "there is no IN and no OUT");
@@ -389,7 +389,7 @@ TEST_F(Rendering, RefusesArgumentsThatMakeNoSense)
     expectRefused(run("in.wav out.wav --preset Rock --preamp 1e9"), 2, "\"1e9\" is no gain");
 }
 
-TEST_F(Rendering, TellsOfItself)
+TEST_F(Rendering, PrintsItsHelpAndVersion)
 {
     EXPECT_THAT(run("--help").output, StartsWith("Usage: brimsound-render IN OUT"));
     EXPECT_THAT(run("--version").output, StartsWith("brimsound-render "));

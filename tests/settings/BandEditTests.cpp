@@ -218,7 +218,7 @@ TEST_F(LettingGoOfASlider, WritesTheFileThenTellsEveryoneOnce)
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
 }
 
-TEST_F(LettingGoOfASlider, IsNotTakenForAChangeFromElsewhere)
+TEST_F(LettingGoOfASlider, IsNotMistakenForAChangeByAnotherProcess)
 {
     const Pane pane(platform);
     pane.touch(3);
@@ -243,7 +243,7 @@ TEST_F(LettingGoOfASlider, OutsideOrCanceledOrDoneEditingSavesAsWell)
     EXPECT_THAT(pane.trace(), ElementsAre(writesFile, postsFinished));
 }
 
-TEST_F(LettingGoOfASlider, BringsBackBothCaptionsForABand)
+TEST_F(LettingGoOfASlider, RestoresBothCaptionsForABand)
 {
     const Pane pane(platform);
     pane.drag(3, 4.5f);
@@ -253,7 +253,7 @@ TEST_F(LettingGoOfASlider, BringsBackBothCaptionsForABand)
     EXPECT_EQ(pane.label(0).text(), "Pre");
 }
 
-TEST_F(LettingGoOfASlider, BringsBackOnlyItsOwnCaptionForThePreamp)
+TEST_F(LettingGoOfASlider, RestoresOnlyItsOwnCaptionForThePreamp)
 {
     const Pane pane(platform);
     pane.touch(3);
@@ -462,7 +462,7 @@ TEST_F(ApplyingAPreset, RecomputesThePreampBandByBandWhenItIsAutomatic)
     EXPECT_THAT(preamps, ElementsAre(0, 0, 0, 0, 0, -0.5f, -1.5f, -2.5f, -3.5f, -4.5f));
 }
 
-TEST_F(ApplyingAPreset, IsNotTakenForTenChangesFromElsewhere)
+TEST_F(ApplyingAPreset, IsNotMistakenForTenChangesByAnotherProcess)
 {
     const Pane pane(platform);
     applyPreset(pane.controller(), rising());

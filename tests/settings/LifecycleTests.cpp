@@ -128,7 +128,7 @@ TEST_F(OpeningThePane, LoadsTheSpecifiersOnce)
     EXPECT_EQ(controller->specifiers().front(), first);
 }
 
-TEST_F(ClosingThePane, LetsGoOfEverythingItHeld)
+TEST_F(ClosingThePane, ReleasesEverything)
 {
     auto controller = openController();
     const auto cell = controller->tableViewCellForRowAtIndexPath(controller->table(), { 2, 0 });
@@ -161,7 +161,7 @@ private:
     std::function<void()> _onGone;
 };
 
-TEST_F(ClosingThePane, LetsGoInTheOrderOfItsMembers)
+TEST_F(ClosingThePane, ReleasesItsMembersInOrder)
 {
     std::vector<std::string> gone;
     RetainPtr<CPDistributedMessagingCenter> center;
@@ -193,7 +193,7 @@ TEST_F(ClosingThePane, LetsGoInTheOrderOfItsMembers)
     EXPECT_EQ(center->retainCount(), 1u);
 }
 
-TEST_F(Lifecycle, TheSettingsAreLetGoWhenTheyAreSetToNil)
+TEST_F(Lifecycle, TheSettingsAreReleasedWhenTheyAreSetToNil)
 {
     const auto controller = openController();
     controller->setSettings(PropertyList::Dictionary { { "KEY", 1 } });
@@ -343,7 +343,7 @@ TEST_F(ANotification, ReachesTheControllerOpenedLast)
     EXPECT_EQ(second.slider(1).value(), 7);
 }
 
-TEST_F(ANotification, OfAnotherNameIsNotHeard)
+TEST_F(ANotification, OfAnotherNameIsIgnored)
 {
     const Pane pane(platform);
     platform.postFromAnotherProcess("com.quorvix.brimsound.somethingelse");
@@ -373,7 +373,7 @@ TEST_F(TheDefaultBridge, ShowsNullWithoutADefault)
     EXPECT_TRUE(controller->readPreferenceValue(*specifier({ { "key", "ENABLED" } })).isNull());
 }
 
-TEST_F(TheDefaultBridge, ForgetsChangesAndTellsNobody)
+TEST_F(TheDefaultBridge, DoesNotSaveChangesAndNotifiesNobody)
 {
     const auto row = specifier({ { "key", "ENABLED" }, { "default", true } });
     platform.takeTrace();
@@ -384,7 +384,7 @@ TEST_F(TheDefaultBridge, ForgetsChangesAndTellsNobody)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
-TEST_F(TheDefaultBridge, WorksOnSettingsIfSomebodyFillsThem)
+TEST_F(TheDefaultBridge, UsesSettingsThatAreNotEmpty)
 {
     const auto row = specifier({ { "key", "ENABLED" }, { "default", true } });
     const auto negated = specifier({ { "key", "ENABLED" }, { "default", true }, { "negate", true } });
@@ -416,7 +416,7 @@ TEST_F(TheDefaultBridge, AppliesNegateToStoredValuesOnly)
     EXPECT_EQ(controller->readPreferenceValue(*row), PropertyList(true));
 }
 
-TEST_F(Lifecycle, TheMethodsThatOthersNameAreAnswered)
+TEST_F(Lifecycle, TheMethodsThatOthersCallByNameExist)
 {
     const auto controller = openController();
     for (const auto* selector :

@@ -65,7 +65,7 @@ TEST_F(TheIssueReport, IsAMailToTheSupportAddressWithBothAttachments)
     EXPECT_THAT(platform.takeTrace(), ElementsAre("shell /usr/bin/env dpkg-query --show"));
 }
 
-TEST_F(TheIssueReport, TellsDeviceVersionLanguageAndPackages)
+TEST_F(TheIssueReport, ContainsDeviceVersionLanguageAndPackages)
 {
     platform.carryOutCommands();
     platform.setPreferredLanguages({ "fr_CA", "en" });
@@ -109,7 +109,7 @@ TEST_F(TheIssueReport, SlidesInAndOut)
     platform.passTime(1);
 }
 
-TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
+TEST_F(TheIssueReport, IsSentWithoutPackagesWhenTheCommandCannotBeStarted)
 {
     platform.setPreferredLanguages({ "en" });
     // Run it once without a fault: sanitizer builds open descriptors when they see something for the first
@@ -125,14 +125,14 @@ TEST_F(TheIssueReport, GoesWithoutPackagesWhenTheCommandCannotBeStarted)
         ElementsAre("shell /usr/bin/env dpkg-query --show", "log Brimsound: Failed to run command\n"));
 }
 
-TEST_F(TheIssueReport, GoesWithoutPreferencesThatAreNotThere)
+TEST_F(TheIssueReport, IsSentWithoutMissingPreferences)
 {
     press("reportIssue:");
     EXPECT_THAT(platform.composedMail()->attachments, SizeIs(1));
     EXPECT_EQ(platform.preferencesFile(), "");
 }
 
-TEST_F(TheIssueReport, IsDismissedAlikeWhetherSentOrCanceled)
+TEST_F(TheIssueReport, IsDismissedWhetherSentOrCanceled)
 {
     press("reportIssue:");
     platform.takeTrace();
@@ -176,7 +176,7 @@ TEST_F(ACommand, DropsTheRestOfAReadAfterANul)
     EXPECT_EQ(output("printf 'ab\\000cd\\nef\\n'"), "abef\n");
 }
 
-TEST_F(ACommand, ThatCannotBeStartedGivesNothingAndALogLine)
+TEST_F(ACommand, ThatCannotBeStartedReturnsNothingAndALogLine)
 {
     // Run it once without a fault: sanitizer builds open descriptors when they see something for the first
     // time.
@@ -210,7 +210,7 @@ TEST_F(TheWebsite, IsOpenedWithoutAskingFirst)
     EXPECT_THAT(platform.takeTrace(), ElementsAre(std::string("url ") + websiteURL));
 }
 
-TEST_F(TheProfile, HasItsPlacesInTheirOrder)
+TEST_F(TheProfile, HasItsAddressesInOrder)
 {
     const std::string web = BRIMSOUND_PROFILE_HOST "/BrimsoundHQ";
     EXPECT_THAT(TWITTER_URL_SCHEMES,
@@ -219,7 +219,7 @@ TEST_F(TheProfile, HasItsPlacesInTheirOrder)
             std::string("twitter://user?screen_name=BrimsoundHQ"), "https://" + web, "http://" + web));
 }
 
-TEST_F(TheProfile, IsOpenedInTheFirstPlaceThatCanBe)
+TEST_F(TheProfile, IsOpenedAtTheFirstAddressThatCanBeOpened)
 {
     std::vector<std::string> schemes { "twitterrific", "tweetbot", "twitter", "https", "http" };
     for (const auto* url : TWITTER_URL_SCHEMES) {

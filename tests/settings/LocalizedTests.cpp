@@ -26,7 +26,7 @@ TEST_F(ThePaneInEsperanto, HasItsCaption)
     EXPECT_EQ(pane.controller().labels()->front()->text(), "Anta\u016d");
 }
 
-TEST_F(ThePaneInEsperanto, HasItsWordsInThePanel)
+TEST_F(ThePaneInEsperanto, HasItsTextsInThePanel)
 {
     const PresetPane pane(platform);
     pane.showPresets();

@@ -124,7 +124,7 @@ TEST_F(ThePresetList, ShowsTheBuiltInPresetsWhereTheFileHasNoneAndLeavesItAsItIs
     EXPECT_THAT(pane.names(), areKeys(builtinNames));
 }
 
-TEST_F(ThePresetList, IsReadAtEachShowing)
+TEST_F(ThePresetList, IsReadEachTimeItIsShown)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -167,7 +167,7 @@ TEST_F(ThePresetList, KeepsTheOrderOfTheFile)
     EXPECT_THAT(pane.names(), areKeys({ "Zebra", "apple", "Apple", "\xF0\x9F\x8E\xB8" }));
 }
 
-TEST(LookingUpByPosition, GivesTheValueAndItsKey)
+TEST(LookingUpByPosition, ReturnsTheValueAndItsKey)
 {
     const auto presets = twoPresets();
     std::optional<std::string> key = "before";
@@ -177,7 +177,7 @@ TEST(LookingUpByPosition, GivesTheValueAndItsKey)
     EXPECT_EQ(PlaylistSaver::getObjectAtIndexForDictKey(0, presets, nullptr), presets.find("Mine"));
 }
 
-TEST(LookingUpByPosition, GivesNothingBeyondTheEnd)
+TEST(LookingUpByPosition, ReturnsNothingBeyondTheEnd)
 {
     std::optional<std::string> key = "before";
     EXPECT_EQ(PlaylistSaver::getObjectAtIndexForDictKey(2, twoPresets(), &key), nullptr);
@@ -308,7 +308,7 @@ TEST_F(ARow, TellsAScreenReaderWhichPresetIsSelected)
     EXPECT_EQ(pane.cell({ 0, 0 })->accessibilityTraits(), UIAccessibilityTraitNone);
 }
 
-TEST_F(ARow, IsNotSelectedForANameThatOnlyLooksAlike)
+TEST_F(ARow, IsNotSelectedForASimilarName)
 {
     auto preferences = preferencesWithPresets(twoPresets());
     for (const auto& name : { PropertyList("yours"), PropertyList("Yours "), PropertyList(7) }) {
@@ -320,7 +320,7 @@ TEST_F(ARow, IsNotSelectedForANameThatOnlyLooksAlike)
     }
 }
 
-TEST_F(ARow, IsReusedWithNothingLeftOfTheOneBefore)
+TEST_F(ARow, IsReusedWithoutTracesOfThePreviousOne)
 {
     const PresetPane pane(platform, { 320, 300 });
     pane.showPresets();
@@ -454,7 +454,7 @@ TEST_F(ARow, ForSavingShowsAWhitePlusOfTheSameShapeWhilePressed)
     EXPECT_GT(clear, 0);
 }
 
-TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestWhichIsSaidAtEachShowing)
+TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestAndIsLoggedEachTime)
 {
     const std::string complaint
         = "log Brimsound: preset \"Short\" is not ten gains: 0 dB where one is missing";
@@ -474,7 +474,7 @@ TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestWhichIsSaidAtEachShowing)
     EXPECT_THAT(pane.trace(), Contains(complaint).Times(1));
 }
 
-TEST_F(ARow, WithoutAnArrayShowsTenTimesNothing)
+TEST_F(ARow, WithoutAnArrayShowsTenZeroGains)
 {
     storePresets(PropertyList::Dictionary { { "Odd", "nonsense" }, { "Mine", rising() } });
     const PresetPane pane(platform);
@@ -589,7 +589,7 @@ TEST_F(ChoosingAPreset, ShowsItAsSelectedNextTime)
     EXPECT_THAT(saturationsOf(backgroundCurve(*pane.cellNamed("Rock"))), Each(DoubleNear(0.3, 1e-6)));
 }
 
-TEST_F(ChoosingAPreset, HandsOverNothingWhereAGainIsMissing)
+TEST_F(ChoosingAPreset, PassesZeroForAMissingGain)
 {
     storePresets(
         PropertyList::Dictionary { { "Short", PropertyList::Array { 3, 6.5f, "9" } }, { "Odd", 1 } });
@@ -664,7 +664,7 @@ private:
     bool _answers;
 };
 
-TEST_F(ChoosingAPreset, HandsTheGainsToTheDelegateBeforeTheChoiceIsRecorded)
+TEST_F(ChoosingAPreset, PassesTheGainsToTheDelegateBeforeTheChoiceIsRecorded)
 {
     auto preferences = preferencesWithPresets(twoPresets());
     preferences.set(selectedPresetKey, "Yours");
@@ -713,7 +713,7 @@ TEST_F(ChoosingAPreset, IsRecordedWhateverTheDelegateDoesToTheList)
     EXPECT_EQ(storedValue(selectedPresetKey), PropertyList("Mine"));
 }
 
-TEST_F(ChoosingAPreset, ThatIsNotThereClosesThePanelAndRecordsNothing)
+TEST_F(ChoosingAPreset, ThatDoesNotExistClosesThePanelAndRecordsNothing)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -724,7 +724,7 @@ TEST_F(ChoosingAPreset, ThatIsNotThereClosesThePanelAndRecordsNothing)
     EXPECT_EQ(pane.root().alpha(), 0);
 }
 
-TEST_F(ChoosingAPreset, IsRecordedForADelegateThatDoesNotCare)
+TEST_F(ChoosingAPreset, IsRecordedForADelegateWithoutTheMethod)
 {
     storePresets(twoPresets());
     const auto delegate = make<Delegate>(false);
@@ -736,7 +736,7 @@ TEST_F(ChoosingAPreset, IsRecordedForADelegateThatDoesNotCare)
     EXPECT_EQ(storedValue(selectedPresetKey), PropertyList("Yours"));
 }
 
-TEST_F(ChoosingAPreset, KeepsWhatOthersWroteSinceTheListWasShown)
+TEST_F(ChoosingAPreset, KeepsChangesByOthersSinceTheListWasShown)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -818,7 +818,7 @@ TEST_F(SavingAPreset, AddsItToTheBuiltInOnesWhereTheFileHasNone)
     EXPECT_THAT(storedNames(), areKeys(expected));
 }
 
-TEST_F(SavingAPreset, AddsItToTheBuiltInOnesWhereTheFilesAreNoneOrNonsense)
+TEST_F(SavingAPreset, AddsItToTheBuiltInOnesWhenTheFilesPresetsAreInvalid)
 {
     auto expected = builtinNames;
     expected.emplace_back("New");
@@ -888,7 +888,7 @@ TEST_F(SavingAPreset, WithoutANameSavesNothingAndCloses)
     EXPECT_EQ(pane.root().alpha(), 0);
 }
 
-TEST_F(SavingAPreset, KeepsWhatOthersWroteSinceTheListWasShown)
+TEST_F(SavingAPreset, KeepsChangesByOthersSinceTheListWasShown)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -984,7 +984,7 @@ TEST_F(DeletingAPreset, LeavesTheSelectedNameAlone)
     EXPECT_THAT(saturationsOf(backgroundCurve(*pane.cellNamed("Yours"))), Each(DoubleNear(0.1, 1e-6)));
 }
 
-TEST_F(DeletingAPreset, OneByOneLeavesNoneUntilTheNextShowingBringsTheBuiltInOnes)
+TEST_F(DeletingAPreset, OneByOneLeavesNoneUntilTheBuiltInOnesAreShownNextTime)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -997,7 +997,7 @@ TEST_F(DeletingAPreset, OneByOneLeavesNoneUntilTheNextShowingBringsTheBuiltInOne
     EXPECT_EQ(storedValue(presetsKey), PropertyList(PropertyList::Dictionary()));
 }
 
-TEST_F(DeletingAPreset, MeansTheNameEvenIfTheFileChangedSince)
+TEST_F(DeletingAPreset, DeletesByNameEvenIfTheFileChangedSince)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -1014,7 +1014,7 @@ TEST_F(DeletingAPreset, MeansTheNameEvenIfTheFileChangedSince)
         EXPECT_EQ(pane.list().cellForRowAtIndexPath({ 1, row })->textLabel().text(), pane.names()[row]);
 }
 
-TEST_F(DeletingAPreset, ThatIsGoneFromTheFileStillWritesAndAnnounces)
+TEST_F(DeletingAPreset, ThatIsMissingFromTheFileStillWritesAndAnnounces)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -1037,7 +1037,7 @@ TEST_F(DeletingAPreset, ThatIsNotInTheListDoesNothing)
     EXPECT_THAT(pane.names(), areKeys({ "Mine", "Yours" }));
 }
 
-TEST_F(DeletingAPreset, IsTheOnlyEditThereIs)
+TEST_F(DeletingAPreset, IsTheOnlySupportedEdit)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);

@@ -55,7 +55,7 @@ protected:
     TestPlatform platform;
 };
 
-TEST_F(ThePanel, LiesOverTheTopmostViewBelowTheWindow)
+TEST_F(ThePanel, IsPlacedOverTheTopmostViewBelowTheWindow)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -64,7 +64,7 @@ TEST_F(ThePanel, LiesOverTheTopmostViewBelowTheWindow)
     EXPECT_EQ(pane.root().frame(), pane.host().bounds());
 }
 
-TEST_F(ThePanel, IsMadeOnceAndBroughtToTheFrontEachTime)
+TEST_F(ThePanel, IsCreatedOnceAndBroughtToTheFrontEachTime)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -225,7 +225,7 @@ TEST_F(ThePanel, KeepsItsPlaceInTheListAndTheSelectedRowWhenTheHostChanges)
     EXPECT_TRUE(row->isSelected());
 }
 
-TEST_F(ThePanel, IsLaidOutAnewOnlyForAnotherSize)
+TEST_F(ThePanel, IsLaidOutAgainOnlyForAnotherSize)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -294,7 +294,7 @@ TEST_F(ThePanel, IsBuiltForTheScreenAndHidden)
     panel->setDelegate(nullptr);
 }
 
-TEST_F(ThePanel, HasItsLooks)
+TEST_F(ThePanel, HasItsColorsAndFonts)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -341,7 +341,7 @@ TEST_F(ThePanel, IsShownAtOnceFromItsTop)
     EXPECT_TRUE(pane.root().isUserInteractionEnabled());
 }
 
-TEST_F(ThePanel, FadesOverHalfASecondAndTakesNoTouchesMeanwhile)
+TEST_F(ThePanel, FadesOverHalfASecondAndIgnoresTouchesMeanwhile)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -358,7 +358,7 @@ TEST_F(ThePanel, FadesOverHalfASecondAndTakesNoTouchesMeanwhile)
     EXPECT_EQ(pane.root().superview(), &platform.topmostView()) << "it stays where it is";
 }
 
-TEST_F(ThePanel, ShownWhileItFadesIsFullyThereAtOnce)
+TEST_F(ThePanel, ShownWhileItFadesIsFullyVisibleAtOnce)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -541,7 +541,7 @@ TEST_F(NameEntry, LeavesNothingBehindForTheNextShowing)
     EXPECT_EQ(shownAlpha(views.backdrop), 0);
 }
 
-TEST_F(ThePanel, LetsGoOfItsViewsWhenTheyAreUnloaded)
+TEST_F(ThePanel, ReleasesItsViewsWhenTheyAreUnloaded)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -565,7 +565,7 @@ TEST_F(ThePanel, LetsGoOfItsViewsWhenTheyAreUnloaded)
     EXPECT_EQ(pane.names().size(), 16u) << "in a new panel";
 }
 
-TEST_F(ThePanel, TakesItsRootViewAlongWhenItGoes)
+TEST_F(ThePanel, RemovesItsRootViewWhenItIsDestroyed)
 {
     const PresetPane pane(platform);
     auto panel = make<PlaylistSaver>(pane.controller());
@@ -575,7 +575,7 @@ TEST_F(ThePanel, TakesItsRootViewAlongWhenItGoes)
     EXPECT_EQ(root->superview(), nullptr);
 }
 
-TEST_F(ThePanel, HoldsItsDelegate)
+TEST_F(ThePanel, RetainsItsDelegate)
 {
     const auto delegate = make<NSObject>();
     {

@@ -217,7 +217,7 @@ TEST(ASaturation, PalesTheBarsWithoutGainsToo)
     EXPECT_THAT(colorsOf(*view), Each(ElementsAre(1, 1, DoubleNear(static_cast<double>(1 - 0.3f), 1e-6), 1)));
 }
 
-TEST(ASaturation, OfZeroIsInForce)
+TEST(ASaturation, OfZeroIsApplied)
 {
     const auto view = curve();
     view->setSaturation(0);
@@ -225,7 +225,7 @@ TEST(ASaturation, OfZeroIsInForce)
     EXPECT_THAT(colorsOf(*view), Each(Components { 1, 1, 1, 1 }));
 }
 
-TEST(ASaturation, OfMinusAHalfIsNone)
+TEST(ASaturation, OfMinusAHalfIsNotApplied)
 {
     const auto view = curve();
     view->setColor(blueColor());
@@ -248,7 +248,7 @@ TEST(ASaturation, JustAboveMinusAHalfDropsAFixedColor)
     EXPECT_NE(colorsOf(*view)[0], (Components { 0, 1, 0, 1 })) << "and is in force";
 }
 
-TEST(ASaturation, IsLiftedAgain)
+TEST(ASaturation, CanBeRemovedAgain)
 {
     const auto view = curve();
     view->setSaturation(0.1f);
@@ -271,7 +271,7 @@ TEST(ASaturation, LeavesAColorAloneThatCannotBeSplit)
     EXPECT_EQ(componentsOf(*view->subviews()[4])[0], 1);
 }
 
-TEST(AColorThatCannotBeSplit, IsNoMatterWithoutASaturation)
+TEST(AColorThatCannotBeSplit, IsAcceptedWithoutASaturation)
 {
     TestPlatform platform;
     const auto gains = all(std::numeric_limits<float>::quiet_NaN());
@@ -279,7 +279,7 @@ TEST(AColorThatCannotBeSplit, IsNoMatterWithoutASaturation)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
-TEST(AnInfiniteGain, LeavesTheOtherBarsInTheirPlaces)
+TEST(AnInfiniteGain, DoesNotMoveTheOtherBars)
 {
     constexpr auto infinity = std::numeric_limits<float>::infinity();
     for (const float gain : { infinity, -infinity }) {
@@ -294,7 +294,7 @@ TEST(AnInfiniteGain, LeavesTheOtherBarsInTheirPlaces)
     }
 }
 
-TEST(AFixedColor, IsTakenAtOnceAndMovesNothing)
+TEST(AFixedColor, IsAppliedAtOnceAndMovesNothing)
 {
     const auto view = curve(rising.data());
     const auto frames = framesOf(*view);
@@ -314,7 +314,7 @@ TEST(AFixedColor, StaysWhileTheHeightsFollowTheGains)
     EXPECT_THAT(colorsOf(*view), Each(blue));
 }
 
-TEST(AFixedColor, IsHeldOnceHoweverOftenItIsSet)
+TEST(AFixedColor, IsRetainedOnceHoweverOftenItIsSet)
 {
     const auto color = blueColor();
     const auto view = curve();
@@ -348,7 +348,7 @@ TEST(AFixedColor, SetToNullStaysOnTheBarsUntilTheNextGains)
     EXPECT_EQ(colorsOf(*view), colorsOf(*curve(rising.data())));
 }
 
-TEST(AFixedColor, OverridesASaturationInForce)
+TEST(AFixedColor, OverridesASaturation)
 {
     const auto view = curve();
     view->setSaturation(0.1f);
@@ -401,7 +401,7 @@ TEST(TheGainsOfACurve, SetToTheBufferItselfAreLaidOutAgain)
     EXPECT_EQ(componentsOf(*view->subviews()[0]), (Components { 1, 0, 0, 1 }));
 }
 
-TEST(TheGainsOfACurve, OutliveTheViewForWhomeverTheyWereHandedTo)
+TEST(TheGainsOfACurve, OutliveTheView)
 {
     auto view = curve(rising.data());
     const auto* const buffer = view->gains();
@@ -477,7 +477,7 @@ TEST(AnimatedGains, AreStoredAtOnce)
     EXPECT_THAT(heightsOf(*view), Each(25));
 }
 
-TEST(AnimatedGains, GiveWayToGainsThatAreNot)
+TEST(AnimatedGains, AreReplacedByGainsWithoutAnimation)
 {
     TestPlatform platform;
     const auto loud = all(12);

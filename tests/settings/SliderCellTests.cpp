@@ -64,7 +64,7 @@ TEST_F(TheSliderRow, SharesItsListsWithTheCell)
     EXPECT_EQ(cell.labels().get(), pane.controller().labels());
 }
 
-TEST_F(TheSliderRow, LaysElevenStripsOf44PointsOut)
+TEST_F(TheSliderRow, LaysOutElevenStripsOf44Points)
 {
     const Pane pane(platform);
     ASSERT_EQ(pane.controller().sliders()->size(), 11u);
@@ -123,7 +123,7 @@ TEST_F(TheSliderRow, PutsTheBarBehindTheSlidersAndEachSliderBelowItsCaption)
     }
 }
 
-TEST_F(TheSliderRow, StartsFromTheFile)
+TEST_F(TheSliderRow, ShowsTheGainsOfTheFile)
 {
     auto preferences = preferencesWith({ 1, 2, 3, 4, 5, 6, -7, -8, -9, -10.5f });
     preferences.set("PREAMP", -4.5f);
@@ -144,7 +144,7 @@ TEST_F(TheSliderRow, StartsFlatAndYellowWithoutAFile)
     EXPECT_EQ(platform.preferencesFile(), "");
 }
 
-TEST_F(TheSliderRow, TakesGainsThatAreMissingOrNoNumbersAsFoundationConvertsThem)
+TEST_F(TheSliderRow, ConvertsMissingAndInvalidGainsAsFoundationDoes)
 {
     platform.writePreferencesFile(PropertyList::Dictionary {
         { "PEAKING_EQ_VALUES", PropertyList::Array { "4.5", true, "loud", PropertyList::Array(), 3 } },
@@ -267,7 +267,7 @@ TEST_F(TheGainColor, RunsFromBlackThroughGreenYellowAndRedToBlack)
     }
 }
 
-TEST_F(TheGainColor, IsThatOfBandAndPreampTogether)
+TEST_F(TheGainColor, IsThatOfTheSumOfBandAndPreamp)
 {
     const Pane pane(platform);
     const auto colorFor = [&](float preamp, float band) {
@@ -318,7 +318,7 @@ TEST_F(TheBlackBar, RunsOverTheBandStripsInLightGray)
     EXPECT_THAT((std::vector { red, green, blue, alpha }), ElementsAre(2.0 / 3, 2.0 / 3, 2.0 / 3, 1));
 }
 
-TEST_F(TheBlackBar, StandsWhereABandWouldCancelThePreamp)
+TEST_F(TheBlackBar, IsWhereABandWouldCancelThePreamp)
 {
     const Pane pane(platform);
     for (const float preamp : { -12.0f, -4.5f, 0.0f, 3.0f, 12.0f }) {
@@ -329,7 +329,7 @@ TEST_F(TheBlackBar, StandsWhereABandWouldCancelThePreamp)
     }
 }
 
-TEST_F(TheBlackBar, IsNoTroubleBeforeTheRowExists)
+TEST_F(TheBlackBar, IsIgnoredBeforeTheRowExists)
 {
     const auto controller = openController();
     controller->updateBlackBar();

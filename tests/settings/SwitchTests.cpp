@@ -63,7 +63,7 @@ TEST_F(ASwitch, ReadsItsDefaultFromAFileThatHasNoneOfTheKeysAndStoresNothing)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
-TEST_F(ASwitch, ReadsItsOwnKeyAnewEveryTime)
+TEST_F(ASwitch, ReadsItsOwnKeyEveryTime)
 {
     const std::vector<std::pair<const char*, const char*>> switches { { "enabled", "ENABLED" },
         { "enabledCC", "ENABLED_CC" }, { "autoPreamp", "AUTO_PREAMP" },
@@ -112,7 +112,7 @@ TEST_F(ASwitch, ForTheEqualizerWritesTheFileAndOffersARespring)
     EXPECT_EQ(*storedPreferences().find("ENABLED"), PropertyList(true));
 }
 
-TEST_F(ASwitch, ForTheControlCenterHasAWordingOfItsOwn)
+TEST_F(ASwitch, ForTheControlCenterHasItsOwnMessage)
 {
     call("setEnabledCC:", false);
     EXPECT_THAT(platform.takeTrace(),
@@ -136,7 +136,7 @@ TEST_F(ASwitch, OffersARespringEvenWhenNothingChanged)
         ElementsAre(writesFile, showsAlert("In order to enable the equalizer, you will need to respring.")));
 }
 
-TEST_F(ASwitch, OfTheEngineWritesTheFileAndTellsItOnceWithoutAnAlert)
+TEST_F(ASwitch, OfTheEngineWritesTheFileAndNotifiesItOnceWithoutAnAlert)
 {
     const std::vector<std::pair<const char*, const char*>> switches { { "setAutoPreamp:", "AUTO_PREAMP" },
         { "setFilterDisabled:", "FILTER_DISABLED" }, { "setCheckingDisabled:", "CHECKING_DISABLED" } };
@@ -157,7 +157,7 @@ TEST_F(ASwitch, StoresTheValueThatItWasGiven)
     EXPECT_THAT(platform.takeTrace(), ElementsAre(writesFile, postsChanged));
 }
 
-TEST_F(ASwitch, KeepsWhatElseTheFileHolds)
+TEST_F(ASwitch, KeepsOtherValuesInTheFile)
 {
     platform.writePreferencesFile(
         PropertyList(PropertyList::Dictionary { { "SELECTED_PRESET", "Rock" }, { "PREAMP", 2.5f } }));
@@ -185,7 +185,7 @@ TEST_F(ASwitch, IsNotTakenForAChangeOfTheGains)
     EXPECT_THAT(platform.takeTrace(), IsEmpty());
 }
 
-TEST_F(ASwitch, WithoutAValueOrAKeyStoresNothingAndTellsNobody)
+TEST_F(ASwitch, WithoutAValueOrAKeyStoresNothingAndNotifiesNobody)
 {
     _autoPreamp = true;
     for (const auto* selector : { "setEnabled:", "setEnabledCC:", "setAutoPreamp:", "setFilterDisabled:",
@@ -234,7 +234,7 @@ TEST_F(AnAlert, AnsweredWithRespringRestartsTheMediaServerAndThenTheInterface)
     EXPECT_THAT(commandsAt(791.9), ElementsAre("shell killall mediaserverd", "shell killall SpringBoard"));
 }
 
-TEST_F(AnAlert, WaitsUntilTheOneBeforeIsAnswered)
+TEST_F(AnAlert, WaitsUntilThePreviousOneIsAnswered)
 {
     call("setEnabled:", false);
     platform.takeTrace();
@@ -264,7 +264,7 @@ public:
     std::vector<std::string> called;
 };
 
-TEST_F(TheRespringButton, WritesAndThenSendsWhatAModelWouldHold)
+TEST_F(TheRespringButton, WritesAndThenSendsTheSettingsOfAModel)
 {
     const auto withModel = make<WithModel>();
     withModel->initForContentSize({ 320, 568 });

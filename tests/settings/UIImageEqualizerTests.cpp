@@ -128,7 +128,7 @@ TEST(ScalingAnImage, KeepsWhatIsTransparent)
     EXPECT_THAT(pixelOf(*scaled, 0, heightOf(*scaled) - 1), ElementsAre(20, 40, 60, 80));
 }
 
-TEST(ScalingAnImage, ToWhatIsNoSizeOrTooLargeGivesNone)
+TEST(ScalingAnImage, ToAnInvalidOrTooLargeSizeReturnsNone)
 {
     const auto image = imageOf(6, 4, pattern(6, 4));
     for (const auto& size : { CGSize { 0, 4 }, CGSize { 4, 0 }, CGSize { -6, 4 }, CGSize { 1e300, 1 },
@@ -280,7 +280,7 @@ TEST(FillingAnImage, HasOnePixelAPointWhateverTheScreensScale)
     EXPECT_THAT(bytesOf(*filled), Each(255));
 }
 
-TEST(FillingAnImage, WithAColorThatIsNotThereLeavesItsShapeAsItWas)
+TEST(FillingAnImage, WithATransparentColorLeavesItUnchanged)
 {
     const auto image = imageOf(6, 4, pattern(6, 4));
     EXPECT_EQ(bytesOf(*fillWithColor(*image, *UIColor::clearColor())), pattern(6, 4));

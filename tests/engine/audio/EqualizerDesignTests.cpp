@@ -106,12 +106,12 @@ protected:
     static bool isCommon() { return GetParam() >= 44100; }
 };
 
-TEST_P(ADesign, GoesThroughTheSlidersOfEveryPreset)
+TEST_P(ADesign, MatchesTheSlidersOfEveryPreset)
 {
     expectWithin(worstOfPresets(GetParam()), isCommon() ? 0.4 : 0.5);
 }
 
-TEST_P(ADesign, GoesThroughAllSlidersAtOneEnd)
+TEST_P(ADesign, MatchesAllSlidersAtOneEnd)
 {
     for (const double gain : { -12.0, 12.0 }) {
         Worst worst;
@@ -120,12 +120,12 @@ TEST_P(ADesign, GoesThroughAllSlidersAtOneEnd)
     }
 }
 
-TEST_P(ADesign, GoesThroughSlidersAnywhere)
+TEST_P(ADesign, MatchesSlidersAnywhere)
 {
     expectWithin(worstOfRandomSets(GetParam()), isCommon() ? 1 : 1.1);
 }
 
-TEST_P(ADesign, GoesThroughSlidersAtEitherEnd)
+TEST_P(ADesign, MatchesSlidersAtEitherEnd)
 {
     expectWithin(worstOfCorners(GetParam()), isCommon() ? 1 : 1.1);
 }
@@ -171,7 +171,7 @@ TEST(FlatSliders, MakeFiltersOfExactlyZero)
     EXPECT_THAT(EqualizerDesign(48000).solve(all(0), 0).gains, Each(0));
 }
 
-TEST(SlidersBeyondTheirEnds, CountAsTheEnds)
+TEST(SlidersBeyondTheirEnds, AreClampedToTheirEnds)
 {
     const EqualizerDesign design(48000);
     constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -104,7 +104,7 @@ TEST(AFlatProcessor, ChangesNoBit)
     EXPECT_TRUE(sameBits(processed(processor, oddSamples()), oddSamples()));
 }
 
-TEST(AProcessor, ChangesNoBitAgainOnceItIsBackAtFlat)
+TEST(AProcessor, ChangesNoBitAfterReturningToFlat)
 {
     const EqualizerDesign design(rate);
     auto processor = processorWith(smile, -9);
@@ -182,7 +182,7 @@ TEST(AProcessor, WorksInPlace)
     EXPECT_TRUE(sameBits(samples, expected));
 }
 
-TEST(AProcessor, TakesNoInputForSilence)
+TEST(AProcessor, TreatsNoInputAsSilence)
 {
     auto processor = processorWith(smile);
     const auto sound = noise(6, 1, 1000);
@@ -231,7 +231,7 @@ TEST(AProcessor, GlidesToLaterTargets)
     EXPECT_TRUE(processor.isSettled());
 }
 
-TEST(ASettledProcessor, HasJumpedAndForgottenTheSound)
+TEST(ASettledProcessor, HasReachedItsTargetsAndClearedItsState)
 {
     auto processor = processorWith(smile);
     processed(processor, noise(7, 1, 1000));
@@ -274,7 +274,7 @@ TEST_P(APoisonedProcessor, StaysFiniteAndRecovers)
 INSTANTIATE_TEST_SUITE_P(
     Samples, APoisonedProcessor, testing::Values(nan, -nan, infinity, -infinity, 1e38f, -3e38f, 1.1e6f));
 
-TEST(AProcessor, ComesBackFromFiltersThatGrowWithoutBound)
+TEST(AProcessor, RecoversFromUnstableFilters)
 {
     const auto good = EqualizerDesign(rate).solve(smile, 0);
     auto growing = good;

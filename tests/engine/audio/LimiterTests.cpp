@@ -51,7 +51,7 @@ TEST(ALimiter, ChangesNoBitBelowATenthOfADecibel)
     EXPECT_TRUE(sameBits(samples, before));
 }
 
-TEST(ALimiter, LetsNothingBeyondFullScaleThrough)
+TEST(ALimiter, NeverExceedsFullScale)
 {
     auto samples = noise(2, 40, 48000);
     Limiter limiter(rate);
@@ -68,7 +68,7 @@ TEST(ALimiter, HoldsASineBelowFullScaleFromItsFirstSampleOn)
     EXPECT_LE(peak(samples), 0.98856f);
 }
 
-TEST(ALimiter, LetsGoWithATimeConstantOfAFifthOfASecond)
+TEST(ALimiter, ReleasesWithATimeConstantOfAFifthOfASecond)
 {
     // A loud sound causes 20 dB of reduction at once. The quiet sound that follows shows the gain.
     Samples samples(192000, 0.01f);
@@ -82,7 +82,7 @@ TEST(ALimiter, LetsGoWithATimeConstantOfAFifthOfASecond)
     EXPECT_EQ(samples.back(), 0.01f);
 }
 
-TEST(ALimiter, TurnsAllChannelsDownTogether)
+TEST(ALimiter, ReducesAllChannelsTogether)
 {
     Samples loud(64, 2);
     Samples quiet(64, 0.1f);
@@ -93,7 +93,7 @@ TEST(ALimiter, TurnsAllChannelsDownTogether)
         EXPECT_NEAR(quiet[frame] / loud[frame], 0.05, 1e-6);
 }
 
-TEST(ALimiter, TellsOnlyOfBlocksThatWereTooLoud)
+TEST(ALimiter, ReportsOnlyBlocksThatWereTooLoud)
 {
     Limiter limiter(rate);
     Samples loud(64, 1.5f);
@@ -103,7 +103,7 @@ TEST(ALimiter, TellsOnlyOfBlocksThatWereTooLoud)
     EXPECT_FALSE(limit(limiter, quiet));
 }
 
-TEST(ALimiter, PutsSilenceInThePlaceOfWhatIsNoNumber)
+TEST(ALimiter, ReplacesInvalidSamplesBySilence)
 {
     Limiter limiter(rate);
     Samples samples { 0.5f, std::numeric_limits<float>::quiet_NaN(), infinity, -infinity, 0.25f };

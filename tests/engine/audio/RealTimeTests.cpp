@@ -32,7 +32,7 @@ TEST(AWatch, SeesAllocationsAndLocks)
     mutex.unlock();
 }
 
-TEST(Processing, TakesNeitherMemoryNorLocksWhileTargetsArrive)
+TEST(Processing, NeitherAllocatesNorLocksWhileTargetsArrive)
 {
     constexpr std::size_t frames = 1024;
     std::vector<std::vector<float>> samples(maximumChannels, std::vector<float>(frames, 0.7f));

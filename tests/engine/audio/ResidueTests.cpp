@@ -90,19 +90,19 @@ TEST(TheResidue, OfAGainThatStepsIsLarge)
     EXPECT_GT(besideTheSine(jumps, true).rms, -40);
 }
 
-TEST(ADraggedSlider, IsNotHeardBesideASine)
+TEST(ADraggedSlider, IsInaudibleNextToASine)
 {
     const auto heard = besideTheSine(drag);
     EXPECT_LE(heard.rms, -105);
     EXPECT_LE(heard.peak, -90);
 }
 
-TEST(ASliderThatJumpsByItsWholeLength, IsHardlyHeardBesideASine)
+TEST(ASliderThatJumpsByItsWholeLength, IsBarelyAudibleNextToASine)
 {
     EXPECT_LE(besideTheSine(jumps).rms, -80);
 }
 
-TEST(AMovingSlider, IsNotHeardAboveNoise)
+TEST(AMovingSlider, IsInaudibleAboveNoise)
 {
     EXPECT_LE(aboveTheNoise(drag).rms, -140);
     EXPECT_LE(aboveTheNoise(jumps).rms, -115);

@@ -56,7 +56,7 @@ TEST(AHandover, GivesTheNewestOfSeveral)
     EXPECT_EQ(*value, 5);
 }
 
-TEST(AHandover, LeavesWhatIsBeingReadAlone)
+TEST(AHandover, DoesNotChangeAValueThatIsBeingRead)
 {
     TripleBuffer<int> buffer;
     buffer.write(1);
@@ -67,7 +67,7 @@ TEST(AHandover, LeavesWhatIsBeingReadAlone)
     }
 }
 
-TEST(AHandover, BetweenThreadsIsWholeInOrderAndEndsWithTheLast)
+TEST(AHandover, BetweenThreadsIsConsistentInOrderAndEndsWithTheLast)
 {
     constexpr int last = 100000;
     TripleBuffer<FilterTargets> buffer;

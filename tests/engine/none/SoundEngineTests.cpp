@@ -4,7 +4,7 @@
 
 namespace brimsound::engine {
 
-TEST(AnEngineWithoutPipeWire, SaysSoOnceAndTakesSettings)
+TEST(AnEngineWithoutPipeWire, ReportsThisOnceAndAcceptsSettings)
 {
     std::vector<std::string> problems;
     Reports reports;
@@ -14,7 +14,7 @@ TEST(AnEngineWithoutPipeWire, SaysSoOnceAndTakesSettings)
     EXPECT_THAT(problems, testing::ElementsAre(testing::HasSubstr("no PipeWire")));
 }
 
-TEST(AnEngineWithoutPipeWire, IsSilentWhenNobodyListens)
+TEST(AnEngineWithoutPipeWire, ReportsNothingWithoutACallback)
 {
     SoundEngine engine(nullptr, {}, {});
     engine.set({});

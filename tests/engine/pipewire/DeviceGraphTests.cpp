@@ -67,7 +67,7 @@ TEST_F(AGraph, TellsADevicesChannelsInTheirOrder)
     EXPECT_THAT(graph.sinkNamed("hw1")->channels, ElementsAre("FL", "FR", "FC"));
 }
 
-TEST_F(AGraph, TakesNothingElseForASink)
+TEST_F(AGraph, DoesNotMistakeOtherNodesForASink)
 {
     graph.nodeAdded(50, { { "media.class", "Audio/Source" }, { "node.name", "hw1" } });
     EXPECT_FALSE(graph.sinkNamed("hw1"));
@@ -95,7 +95,7 @@ TEST(ALayout, IsTheDevicesOwn)
     EXPECT_EQ(layoutFor({ "FL", "FR" }), stereo);
 }
 
-TEST(ALayout, IsStereoWhereChannelsHaveNoPlacesOrAreTooMany)
+TEST(ALayout, IsStereoWithoutChannelPositionsOrWithTooManyChannels)
 {
     EXPECT_EQ(layoutFor({ "AUX0", "AUX1", "AUX2" }), stereo);
     EXPECT_EQ(layoutFor({ "FL", "somewhere" }), stereo);

@@ -86,7 +86,7 @@ TEST_F(EqualizedSound, StaysWhenGainsAreRefusedAndWhileTheFileIsDamaged)
     EXPECT_TRUE(comesTo(hw1, equalizedLevel));
 }
 
-TEST_F(EqualizedSound, GoesNoFurtherThanTheSliders)
+TEST_F(EqualizedSound, LimitsGainsToTheSlidersRange)
 {
     start();
     ASSERT_TRUE(send(with(-40, oneKilohertz, 100)));
@@ -140,7 +140,7 @@ TEST_F(EqualizedSound, StaysBelowFullScaleUnlessThatIsNotChecked)
     EXPECT_TRUE(comesTo(hw1, sineLevel * std::pow(10, 24 / 20.)));
 }
 
-TEST_F(EqualizedSound, IsAsItIsWhenTheEqualizerIsSwitchedOff)
+TEST_F(EqualizedSound, IsUnchangedWhenTheEqualizerIsSwitchedOff)
 {
     storePreferences(preamp(preampDecibels), { { enabledKey, false } });
     engine.emplace();
@@ -151,7 +151,7 @@ TEST_F(EqualizedSound, IsAsItIsWhenTheEqualizerIsSwitchedOff)
     EXPECT_TRUE(send(preamp(0)));
 }
 
-TEST_F(EqualizedSound, IsAsItIsWithASilentServer)
+TEST_F(EqualizedSound, IsUnchangedWithASilentServer)
 {
     const MediaServer server;
     player.emplace(playTone);
@@ -160,7 +160,7 @@ TEST_F(EqualizedSound, IsAsItIsWithASilentServer)
     EXPECT_EQ(system.metadata(nodeOf("pw-play"), "target.object"), std::nullopt);
 }
 
-TEST_F(EqualizedSound, ComesWithAWindowAndNotWithAScript)
+TEST_F(EqualizedSound, IsEqualizedWithAWindowButNotWithAScript)
 {
     const auto isServed = [] { return desktop::SessionBus::shared().hasOwner(messagingCenterName); };
     player.emplace(playTone);
@@ -186,7 +186,7 @@ TEST_F(EqualizedSound, ComesWithAWindowAndNotWithAScript)
     EXPECT_TRUE(comesTo(hw1, sineLevel)) << "the window is closed";
 }
 
-TEST_F(EqualizedSound, TellsWhereItGoes)
+TEST_F(EqualizedSound, ReportsItsOutput)
 {
     start();
     system.chooseDefault("surround");

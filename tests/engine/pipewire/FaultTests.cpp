@@ -81,7 +81,7 @@ protected:
 
 } // namespace
 
-TEST_F(AFaultyDesktop, PlaysOnAfterSamplesThatAreNoNumbers)
+TEST_F(AFaultyDesktop, KeepsPlayingAfterInvalidSamples)
 {
     auto samples = sine(30);
     const float poisons[] = { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
@@ -164,7 +164,7 @@ TEST_F(AFaultyDesktop, IsHeardAgainWhenTheSessionManagerBringsItsDevicesBackLate
     EXPECT_LT(loudest(hw1->samples()), equalizedLimit);
 }
 
-TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndSaysSoOnce)
+TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndReportsItOnce)
 {
     hw1.reset();
     system.killPipeWire();
@@ -212,7 +212,7 @@ TEST_F(AFaultyDesktop, StaysEqualizedWhenRateAndQuantumChange)
     EXPECT_LT(loudest(hw1->samples(begin)), equalizedLimit);
 }
 
-TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
+TEST_F(AFaultyDesktop, FollowsAMixerUntilTheEngineEnds)
 {
     start();
     // A volume change right after the start is not attributed to the user.
@@ -241,7 +241,7 @@ TEST_F(AFaultyDesktop, ObeysAMixerUntilTheEngineEnds)
     EXPECT_TRUE(comesTo(hw2, 0));
 }
 
-TEST_F(AFaultyDesktop, LetsNoneOfTwentyStreamsThroughAsItIs)
+TEST_F(AFaultyDesktop, EqualizesEachOfTwentyStreams)
 {
     // Ten together are softer than a single one that is not equalized, at each frequency.
     constexpr double amplitude = 0.05;

@@ -56,7 +56,7 @@ struct Position {
 
 class ListeningToSpeech : public ADesktop { };
 
-TEST_F(ListeningToSpeech, HearsASliderThatIsDragged)
+TEST_F(ListeningToSpeech, FollowsASliderThatIsDragged)
 {
     constexpr auto text
         = "The quick brown fox jumps over the lazy dog, and nobody knows whether anyone ever asked the "

@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(APlayingDesktop, HearsNoNewStreamAsItIs)
+TEST_F(APlayingDesktop, EqualizesANewStreamFromTheStart)
 {
     engine.emplace();
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
@@ -84,7 +84,7 @@ TEST_F(APlayingDesktop, PlaysToTheNextOutputWhenOneIsUnpluggedAndBack)
     EXPECT_LT(loudest(hw2.samples()), equalizedLimit);
 }
 
-TEST_F(APlayingDesktop, PlaysOnWithoutAnEngineThatWasKilledAndWithTheNextOne)
+TEST_F(APlayingDesktop, KeepsPlayingAfterTheEngineIsKilledAndWithTheNextOne)
 {
     playEqualized();
     auto start = hw1.position();
@@ -97,7 +97,7 @@ TEST_F(APlayingDesktop, PlaysOnWithoutAnEngineThatWasKilledAndWithTheNextOne)
     EXPECT_LE(longestGap(hw1.samples(start), equalizedLevel), 0.2);
 }
 
-TEST_F(APlayingDesktop, GetsEveryStreamBackWhenTheEngineEnds)
+TEST_F(APlayingDesktop, HasAllStreamsMovedBackWhenTheEngineEnds)
 {
     playEqualized();
     const auto stream = nodeOf("pw-play");
@@ -191,7 +191,7 @@ TEST_F(APlayingDesktop, LeavesStreamsAloneThatAskForADevice)
     }
 }
 
-TEST_F(APlayingDesktop, LeavesTheFiltersOfOthersAlone)
+TEST_F(APlayingDesktop, LeavesFiltersOfOtherProgramsAlone)
 {
     engine.emplace();
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
@@ -217,7 +217,7 @@ TEST_F(APlayingDesktop, LeavesEncodedStreamsAlone)
     EXPECT_EQ(system.metadata(stream, "target.object"), std::nullopt);
 }
 
-TEST_F(APlayingDesktop, EqualizesStreamsThatCanDoWithoutEncoding)
+TEST_F(APlayingDesktop, EqualizesStreamsThatAlsoSupportDecodedSound)
 {
     engine.emplace();
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
@@ -249,7 +249,7 @@ TEST_F(APlayingDesktop, PlaysToTheLastDeviceWhenTheUserChoosesTheEqualizer)
     EXPECT_TRUE(comesTo(hw2, 0));
 }
 
-TEST_F(APlayingDesktop, IsNeverFedBackWhateverTheOutputIsTold)
+TEST_F(APlayingDesktop, HasNoFeedbackWhateverTheOutputsTargetIs)
 {
     playEqualized();
     system.setMetadata("default", nodeOf("brimsound.output"), "target.object", "brimsound", "Spa:String");
@@ -289,7 +289,7 @@ TEST_F(ADesktopWithoutDevices, PlaysWhenOneIsPluggedIn)
     EXPECT_TRUE(engine.process().running());
 }
 
-TEST_F(ADesktopWithoutDevices, LetsOneSleepWhenNothingPlays)
+TEST_F(ADesktopWithoutDevices, LetsOneSuspendWhenNothingPlays)
 {
     const auto stateOf = [this](const std::string& name) {
         std::string state;
@@ -312,7 +312,7 @@ TEST_F(ADesktopWithoutDevices, LetsOneSleepWhenNothingPlays)
     }
 }
 
-TEST_F(APlayingDesktop, PlaysOnWhileThereIsNoDevice)
+TEST_F(APlayingDesktop, KeepsPlayingWhileThereIsNoDevice)
 {
     const auto threeSeconds = system.folder() / "three.wav";
     writeSound(threeSeconds, sine(3));

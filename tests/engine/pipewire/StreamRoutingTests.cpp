@@ -159,7 +159,7 @@ TEST_F(Routing, LeavesAStreamAloneThatTheUserMovedToTheDefault)
     EXPECT_THAT(routing.release(), IsEmpty());
 }
 
-TEST_F(Routing, TakesNoWishFromWhatTheSessionManagerNotes)
+TEST_F(Routing, IgnoresTargetsThatTheSessionManagerSetsItself)
 {
     targets("target.node", "-1");
     appears(plain());
@@ -173,7 +173,7 @@ TEST_F(Routing, LeavesAStreamWhereItWasInAnEarlierSession)
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }
 
-TEST_F(Routing, GivesWayWhenAnEarlierTargetIsRestoredTooLate)
+TEST_F(Routing, RestoresAnEarlierTargetThatArrivesLate)
 {
     isRouted();
     targets("target.node", "55");
@@ -183,7 +183,7 @@ TEST_F(Routing, GivesWayWhenAnEarlierTargetIsRestoredTooLate)
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }
 
-TEST_F(Routing, MovesAStreamAgainWhoseTargetSomebodyDeleted)
+TEST_F(Routing, MovesAStreamAgainWhenItsTargetIsDeleted)
 {
     isRouted();
     targets("target.object", std::nullopt);
@@ -229,7 +229,7 @@ TEST_F(Routing, KeepsStreamsThatAnotherRunHadMoved)
         routing.release(), ElementsAre(deletion(stream, "target.object"), deletion(stream, "target.node")));
 }
 
-TEST_F(Routing, GivesEveryStreamBackAtTheEndAndMovesNoneAfterward)
+TEST_F(Routing, MovesAllStreamsBackAtTheEndAndNoneAfterward)
 {
     isRouted();
     routing.streamChanged(71, with("target.object", "hw2"));
@@ -243,7 +243,7 @@ TEST_F(Routing, GivesEveryStreamBackAtTheEndAndMovesNoneAfterward)
     EXPECT_THAT(routing.release(), IsEmpty());
 }
 
-TEST_F(Routing, GivesNothingBackThatAnotherEqualizerMoved)
+TEST_F(Routing, DoesNotMoveBackStreamsOfAnotherEqualizer)
 {
     isRouted();
     routing.setOwnNodes(std::nullopt);

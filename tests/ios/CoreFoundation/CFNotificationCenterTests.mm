@@ -16,7 +16,7 @@ void countInto(CFNotificationCenterRef, void* observer, CFStringRef, const void*
     ++*static_cast<int*>(observer);
 }
 
-TEST(ANotification, IsDeliveredAfterThePostToWhoeverObservesItsName)
+TEST(ANotification, IsDeliveredAfterThePostToAllObserversOfItsName)
 {
     static int heard;
     const auto center = CFNotificationCenterGetDarwinNotifyCenter();

@@ -86,7 +86,7 @@ TEST_F(AContext, GivesPicturesThatDoNotChangeWithIt)
     EXPECT_THAT(pixel(0, 0), ElementsAre(0, 0, 0, 0));
 }
 
-TEST_F(AContext, IsNoneForABitmapThatCannotBe)
+TEST_F(AContext, IsNullForAnInvalidBitmap)
 {
     EXPECT_EQ(CGBitmapContextCreate(memory.data(), 0, 2, 8, 8, space, premultipliedRGBA), nullptr);
     EXPECT_EQ(CGBitmapContextCreate(memory.data(), 2, 2, 8, 4, space, premultipliedRGBA), nullptr);

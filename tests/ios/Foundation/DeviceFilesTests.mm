@@ -59,7 +59,7 @@ TEST_F(ADeviceFile, ThatCannotBeWrittenIsNotTraced)
     EXPECT_THAT(takeTrace(), IsEmpty());
 }
 
-TEST_F(ADeviceFile, IsNotThereBeforeItIsMade)
+TEST_F(ADeviceFile, DoesNotExistBeforeItIsCreated)
 {
     EXPECT_FALSE([NSData dataWithContentsOfFile:path]);
     EXPECT_FALSE([[NSFileManager defaultManager] fileExistsAtPath:path]);

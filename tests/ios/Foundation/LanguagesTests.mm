@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(TheLanguages, AreThoseThatWereChosen)
+TEST(TheLanguages, AreThoseOfTheUser)
 {
     EXPECT_TRUE([[NSLocale preferredLanguages] isEqual:[NSArray arrayWithObject:@"en"]]);
     brimsound::doubles::setPreferredLanguages({ "fr-CA", "de" });

@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(TheLog, KeepsALineAsItIs)
+TEST(TheLog, KeepsALineUnchanged)
 {
     brimsound::doubles::takeTrace();
     NSLog(@"%@ %d%%\n", @"caf\u00e9", 7);

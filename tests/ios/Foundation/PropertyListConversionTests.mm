@@ -43,7 +43,7 @@ TEST(AConvertedText, KeepsNulsAndSurrogatePairs)
     }
 }
 
-TEST(AnUnsignedNumber, IsOneOnlyBeyondThoseWithASign)
+TEST(AnUnsignedNumber, IsKeptOnlyAboveTheSignedRange)
 {
     EXPECT_TRUE([nativeValue(std::uint64_t { UINT64_MAX }) unsignedLongLongValue] == UINT64_MAX);
     EXPECT_TRUE(valueOf([::NSNumber numberWithUnsignedLongLong:7]) == PropertyList(7));
@@ -56,7 +56,7 @@ TEST(AnIntegerBeyond64Bits, HasNoNativeValue)
     EXPECT_EQ(nativeValue(PropertyList::Uid { std::uint64_t { UINT32_MAX } + 1 }), nil);
 }
 
-TEST(ADictionaryOfAUid, IsOneOnlyByItself)
+TEST(ADictionaryOfAUid, IsAUidOnlyWithoutOtherKeys)
 {
     const PropertyList::Dictionary two { { "CF$UID", 7 }, { "other", 1 } };
     EXPECT_TRUE(thereAndBack(two) == PropertyList(two));

@@ -13,7 +13,7 @@ id reread(id list, NSPropertyListFormat format)
     return [NSPropertyListSerialization propertyListWithData:data options:0 format:nullptr error:nullptr];
 }
 
-TEST(APropertyList, IsNoneInBytesThatAreNone)
+TEST(APropertyList, IsNothingForInvalidBytes)
 {
     for (NSString *text in [NSArray arrayWithObjects:@"bplist00 and more", @"<?xml", @"{", nil]) {
         EXPECT_FALSE(
@@ -33,7 +33,7 @@ TEST(APropertyList, KeepsEveryText)
     EXPECT_TRUE([reread(list, NSPropertyListBinaryFormat_v1_0) isEqual:list]);
 }
 
-TEST(APropertyList, HoldsNoNull)
+TEST(APropertyList, CannotContainNull)
 {
     const auto isValid = [](id list) {
         return [NSPropertyListSerialization propertyList:list

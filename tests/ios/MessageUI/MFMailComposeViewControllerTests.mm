@@ -28,7 +28,7 @@ std::vector<NSInteger> results;
 
 namespace {
 
-TEST(AMail, KeepsWhatItIsGivenAndTellsItsDelegateHowItEnds)
+TEST(AMail, KeepsItsContentsAndTellsItsDelegateTheResult)
 {
     MFMailComposeViewController* mail = [[MFMailComposeViewController alloc] init];
     MailDelegate* delegate = [[MailDelegate alloc] init];

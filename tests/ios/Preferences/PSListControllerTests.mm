@@ -76,7 +76,7 @@ TEST_F(AList, ReadsAndWritesASwitchBySelector)
     EXPECT_FALSE(list->isFilterDisabled);
 }
 
-TEST_F(AList, ShowsTheDefaultOfASwitchThatNobodyAnswersFor)
+TEST_F(AList, ShowsTheDefaultOfASwitchWithoutAGetter)
 {
     EXPECT_TRUE([(UISwitch*)[cell(0, 0) accessoryView] isOn]);
     EXPECT_FALSE([(UISwitch*)[cell(3, 1) accessoryView] isOn]);
@@ -91,7 +91,7 @@ TEST_F(AList, SendsTheActionOfARowThatIsSelected)
     EXPECT_EQ(list->timesRespringed, 1);
 }
 
-TEST_F(AList, LoadsItsSpecifiersAnewWhenAsked)
+TEST_F(AList, ReloadsItsSpecifiersOnRequest)
 {
     PSSpecifier* first = [[[list specifiers] objectAtIndex:0] retain];
     EXPECT_EQ([[list specifiers] objectAtIndex:0], first);
@@ -105,7 +105,7 @@ TEST_F(AList, HasNoSpecifiersWithoutThePlist)
     EXPECT_EQ([[list loadSpecifiersFromPlistName:@"Nothing" target:list] count], 0u);
 }
 
-TEST_F(AList, IsNoneForASizeThatIsNone)
+TEST_F(AList, IsNullForAnInvalidSize)
 {
     const auto noNumber = std::numeric_limits<CGFloat>::quiet_NaN();
     EXPECT_EQ([[ListUnderTest alloc] initForContentSize:CGSizeMake(noNumber, 568)], nil);

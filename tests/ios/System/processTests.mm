@@ -35,7 +35,7 @@ TEST_F(ACommand, IsOnlyTracedAtFirst)
     EXPECT_THAT(takeTrace(), ElementsAre("shell exit 3", "shell echo text"));
 }
 
-TEST_F(ACommand, IsCarriedOutWhenItMayBe)
+TEST_F(ACommand, IsExecutedWhenAllowed)
 {
     carryOutCommands(true);
     EXPECT_NE(std::system("exit 3"), 0);

@@ -9,7 +9,7 @@ using brimsound::doubles::takeTrace;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(TheApplication, OpensUrlsOfTheSchemesThatThereAreProgramsFor)
+TEST(TheApplication, OpensUrlsWhoseSchemesHavePrograms)
 {
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     takeTrace();

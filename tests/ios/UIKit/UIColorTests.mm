@@ -25,7 +25,7 @@ protected:
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(AColor, HasItsComponentsBetweenNoneAndAll)
+TEST_F(AColor, HasItsComponentsClampedFromZeroToOne)
 {
     EXPECT_THAT(
         componentsOf([UIColor colorWithRed:0.25 green:-1 blue:7 alpha:0.5]), ElementsAre(0.25, 0, 1, 0.5));
@@ -34,7 +34,7 @@ TEST_F(AColor, HasItsComponentsBetweenNoneAndAll)
     EXPECT_THAT(componentsOf([UIColor yellowColor]), ElementsAre(1, 1, 0, 1));
 }
 
-TEST_F(AColor, IsMadeFromItsHueAndTellsIt)
+TEST_F(AColor, IsMadeFromItsHueAndReturnsIt)
 {
     for (const double hue : { 0.0, 0.1, 0.3, 0.5, 0.7, 0.95 }) {
         UIColor* color = [UIColor colorWithHue:hue saturation:0.4 brightness:0.8 alpha:0.3];
@@ -44,7 +44,7 @@ TEST_F(AColor, IsMadeFromItsHueAndTellsIt)
     }
 }
 
-TEST_F(AColor, ThatIsNoNumberHasNoHue)
+TEST_F(AColor, WithANaNHasNoHue)
 {
     CGFloat hue = 7;
     EXPECT_FALSE([[UIColor colorWithRed:std::nan("") green:0 blue:0
@@ -52,7 +52,7 @@ TEST_F(AColor, ThatIsNoNumberHasNoHue)
     EXPECT_EQ(hue, 7);
 }
 
-TEST_F(AColor, IsOneObjectHoweverManyShowIt)
+TEST_F(AColor, IsTheSameObjectInAllViews)
 {
     UIView* view = [[UIView alloc] init];
     UIColor* color = [[UIColor colorWithWhite:0.1 alpha:1] retain];

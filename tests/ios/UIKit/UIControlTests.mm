@@ -104,7 +104,7 @@ TEST_F(AControl, DoesNotRetainItsTarget)
     EXPECT_EQ([recorder retainCount], 1u);
 }
 
-TEST_F(AControl, OfASliderClampsItsValueAndTellsNobody)
+TEST_F(AControl, OfASliderClampsItsValueAndSendsNoAction)
 {
     UISlider* slider = static_cast<UISlider*>(control);
     [slider addTarget:recorder action:@selector(ended) forControlEvents:UIControlEventValueChanged];
@@ -127,7 +127,7 @@ TEST_F(AControl, OfASliderClampsItsValueAndTellsNobody)
     EXPECT_THAT(calls, IsEmpty());
 }
 
-TEST_F(AControl, OfASwitchTellsOfAFlipOnly)
+TEST_F(AControl, OfASwitchSendsAnActionOnlyForATouch)
 {
     UISwitch* button = [[[UISwitch alloc] init] autorelease];
     [button addTarget:recorder action:@selector(changed:) forControlEvents:UIControlEventValueChanged];
@@ -193,7 +193,7 @@ TEST_F(ATextField, GivesTheKeyboardUpWhenItsSuperviewGoes)
     [holder release];
 }
 
-TEST_F(ATextField, IsTypedIntoAndAsksWhatReturnDoes)
+TEST_F(ATextField, AcceptsTextAndAsksItsDelegateAboutReturn)
 {
     [field setDelegate:recorder];
     [field addTarget:recorder action:@selector(ended) forControlEvents:UIControlEventEditingDidEndOnExit];

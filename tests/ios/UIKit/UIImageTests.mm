@@ -24,7 +24,7 @@ TEST(AnImage, HasTheScaleInItsFilesName)
     EXPECT_EQ([[UIImage imageWithContentsOfFile:resource(@"icon")] scale], 1);
 }
 
-TEST(AnImage, IsNoneWithoutAPictureToShow)
+TEST(AnImage, IsNullWithoutAPicture)
 {
     EXPECT_FALSE([UIImage imageWithContentsOfFile:@"/nowhere.png"]);
     EXPECT_FALSE([UIImage imageWithContentsOfFile:[[NSBundle mainBundle] pathForResource:@"Info"
@@ -55,7 +55,7 @@ TEST(AnImage, IsDrawnUprightAtTheScaleOfTheContext)
     EXPECT_THAT(memory, testing::ElementsAre(0, 0, 255, 255, 0, 0, 0, 0));
 }
 
-TEST(AnImageContext, IsNoneForASizeThatIsNone)
+TEST(AnImageContext, IsNullForAnInvalidSize)
 {
     UIGraphicsBeginImageContext(CGSizeMake(0, 5));
     EXPECT_FALSE(UIGraphicsGetCurrentContext());

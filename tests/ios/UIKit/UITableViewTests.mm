@@ -154,7 +154,7 @@ TEST_F(ATable, ReusesTheCellsThatScrolledOff)
     EXPECT_EQ([cell(0, 0) frame], CGRectMake(0, 0, 320, 100));
 }
 
-TEST_F(ATable, AsksAnewWhenItIsReloaded)
+TEST_F(ATable, AsksForItsRowsAgainWhenItIsReloaded)
 {
     source->counts[1] = 1;
     [table reloadData];
@@ -230,7 +230,7 @@ TEST_F(ATable, RefusesToDeleteRowsThatItsDataSourceStillHas)
     EXPECT_TRUE([refusal isEqualToString:NSInternalInconsistencyException]);
 }
 
-TEST_F(ATable, HoldsItsCellsAndNotWhoFillsIt)
+TEST_F(ATable, RetainsItsCellsButNotItsDataSource)
 {
     EXPECT_EQ([source retainCount], 1u);
     UITableViewCell* kept = [cell(0, 0) retain];
@@ -258,7 +258,7 @@ protected:
                                                    reuseIdentifier:@"row"];
 };
 
-TEST_F(ACell, PlacesWhatItHas)
+TEST_F(ACell, LaysOutItsViews)
 {
     UIView* background = [[[UIView alloc] init] autorelease];
     [cell setBackgroundView:background];
@@ -301,7 +301,7 @@ TEST_F(ACell, ShowsThatItIsSelected)
     EXPECT_FALSE([label isHighlighted]);
 }
 
-TEST_F(ACell, WithoutASelectionStyleLooksAsEver)
+TEST_F(ACell, WithoutASelectionStyleLooksTheSame)
 {
     [cell setSelectionStyle:UITableViewCellSelectionStyleNone];
     [cell setSelected:YES];
@@ -310,7 +310,7 @@ TEST_F(ACell, WithoutASelectionStyleLooksAsEver)
     EXPECT_FALSE([[cell textLabel] isHighlighted]);
 }
 
-TEST_F(ACell, LetsGoOfAllThatItHeld)
+TEST_F(ACell, ReleasesItsViews)
 {
     UIView* content = [[cell contentView] retain];
     UIView* accessory = [[UIView alloc] init];

@@ -76,7 +76,7 @@ protected:
     LoadingController* controller = [[LoadingController alloc] init];
 };
 
-TEST_F(AController, LoadsItsViewWhenItIsAskedForIt)
+TEST_F(AController, LoadsItsViewAtFirstUse)
 {
     EXPECT_FALSE([controller isViewLoaded]);
     UIView* view = [controller view];
@@ -102,7 +102,7 @@ TEST_F(AController, AtTheRootFillsItsWindow)
     EXPECT_EQ([controller retainCount], 1u);
 }
 
-TEST_F(AController, HoldsWhomItPresentsUntilItDismissesHim)
+TEST_F(AController, RetainsAPresentedControllerUntilItIsDismissed)
 {
     UIViewController* sheet = [[UIViewController alloc] init];
     [controller presentViewController:sheet animated:YES completion:nil];
@@ -120,7 +120,7 @@ TEST_F(AController, HoldsWhomItPresentsUntilItDismissesHim)
     [sheet release];
 }
 
-TEST_F(AController, TakesWhomItPresentsAlongWhenItGoes)
+TEST_F(AController, DismissesItsPresentedControllerWhenItIsDestroyed)
 {
     UIViewController* sheet = [[UIViewController alloc] init];
     [controller presentViewController:sheet animated:NO completion:nil];
@@ -170,7 +170,7 @@ TEST_F(AnAlert, IsShownUntilAButtonIsPressed)
     EXPECT_THAT(*recorder->clicks, ElementsAre("Perhaps"));
 }
 
-TEST_F(AnAlert, WaitsForTheOneBefore)
+TEST_F(AnAlert, WaitsForThePreviousAlert)
 {
     UIAlertView* first = alert(@"First");
     UIAlertView* second = alert(@"Second");
@@ -183,7 +183,7 @@ TEST_F(AnAlert, WaitsForTheOneBefore)
     EXPECT_THAT(takeTrace(), ElementsAre("alert Second (No, Yes, Perhaps)"));
 }
 
-TEST_F(AnAlert, IsHeldWhileItIsShown)
+TEST_F(AnAlert, IsRetainedWhileItIsShown)
 {
     UIAlertView* shown = [alert(@"Held") retain];
     const auto before = [shown retainCount];

@@ -91,7 +91,7 @@ TEST_F(AView, ThatIsAddedAgainComesToTheFront)
     EXPECT_EQ([[outer subviews] objectAtIndex:0], inner);
 }
 
-TEST_F(AView, LetsGoOfItsSubviewsWhenItGoes)
+TEST_F(AView, ReleasesItsSubviewsWhenItIsDestroyed)
 {
     UIView* other = [[UIView alloc] init];
     [other addSubview:inner];
@@ -131,7 +131,7 @@ TEST_F(AView, FollowsItsSuperviewsSizeAsFarAsItIsFlexible)
     EXPECT_TRUE(NSEqualRects([inner frame], CGRectMake(10, 10, 30, 30)));
 }
 
-TEST_F(AView, RefusesAFrameThatIsNoNumber)
+TEST_F(AView, RejectsAFrameWithANaN)
 {
     NSString* refusal = nil;
     @try {
@@ -178,7 +178,7 @@ protected:
     }
 };
 
-TEST_F(AnAnimation, ShowsTheWayToWhatTheViewIsAtOnce)
+TEST_F(AnAnimation, ShowsIntermediateStatesWhileTheViewHasItsNewValues)
 {
     [inner setFrame:CGRectMake(0, 0, 20, 20)];
     [UIView beginAnimations:nil context:nullptr];
@@ -207,7 +207,7 @@ TEST_F(AnAnimation, ShowsTheWayToWhatTheViewIsAtOnce)
     EXPECT_EQ(shownBackground(inner), (Components { 1, 1, 1, 1 }));
 }
 
-TEST_F(AnAnimation, TakesAFifthOfASecondUnlessItIsTold)
+TEST_F(AnAnimation, TakesAFifthOfASecondByDefault)
 {
     [UIView beginAnimations:nil context:nullptr];
     [inner setAlpha:0];
@@ -218,7 +218,7 @@ TEST_F(AnAnimation, TakesAFifthOfASecondUnlessItIsTold)
     EXPECT_EQ(shownAlpha(inner), 0);
 }
 
-TEST_F(AnAnimation, EndsWhenTheSameChangesWithoutOne)
+TEST_F(AnAnimation, EndsWhenThePropertyIsSetWithoutAnimation)
 {
     moveTo(100, 1);
     advanceClock(0.3);
@@ -226,7 +226,7 @@ TEST_F(AnAnimation, EndsWhenTheSameChangesWithoutOne)
     EXPECT_EQ(shownFrame(inner), CGRectMake(40, 0, 20, 20));
 }
 
-TEST_F(AnAnimation, BeginsWhereTheOneBeforeWasToEndOrWhereItIs)
+TEST_F(AnAnimation, BeginsAtThePreviousTargetOrAtTheCurrentState)
 {
     [inner setFrame:CGRectMake(0, 0, 20, 20)];
     moveTo(100, 1);

@@ -70,7 +70,7 @@ TEST_F(AnAssociatedObject, IsFoundUnderItsKeyOnly)
     EXPECT_EQ(objc_getAssociatedObject(object, &otherKey), nil);
 }
 
-TEST_F(AnAssociatedObject, IsReleasedWhenAnotherTakesItsPlace)
+TEST_F(AnAssociatedObject, IsReleasedWhenItIsReplaced)
 {
     associate(&key);
     associate(&key);
@@ -88,7 +88,7 @@ TEST_F(AnAssociatedObject, IsReleasedWithItsOwner)
     EXPECT_EQ(deallocated, 2);
 }
 
-TEST_F(AnAssociatedObject, IsNotReleasedWhereItIsOnlyAssigned)
+TEST_F(AnAssociatedObject, IsNotReleasedWhenItIsOnlyAssigned)
 {
     Counted* value = [[Counted alloc] init];
     objc_setAssociatedObject(object, &key, value, OBJC_ASSOCIATION_ASSIGN);
@@ -98,7 +98,7 @@ TEST_F(AnAssociatedObject, IsNotReleasedWhereItIsOnlyAssigned)
     EXPECT_EQ(deallocated, 1);
 }
 
-TEST_F(AnAssociatedObject, IsThereWhileItsOwnersClassesDeallocate)
+TEST_F(AnAssociatedObject, ExistsWhileItsOwnersClassesDeallocate)
 {
     [object release];
     object = [[AskingWhileItGoes alloc] init];
@@ -110,7 +110,7 @@ TEST_F(AnAssociatedObject, IsThereWhileItsOwnersClassesDeallocate)
     EXPECT_EQ(deallocated, 1);
 }
 
-TEST_F(AnAssociatedObject, MayHaveOnesOfItsOwn)
+TEST_F(AnAssociatedObject, MayHaveAssociatedObjectsItself)
 {
     associate(&key);
     Counted* value = [[Counted alloc] init];

@@ -46,7 +46,7 @@ protected:
 
 } // namespace
 
-TEST_F(AMessagingCenter, SendsTheMessageAndGivesTheReply)
+TEST_F(AMessagingCenter, SendsTheMessageAndReturnsTheReply)
 {
     const Server server([](sd_bus_message* message) {
         EXPECT_STREQ(sd_bus_message_get_signature(message, 1), "sa{sv}");
@@ -75,7 +75,7 @@ TEST_F(AMessagingCenter, LeavesTheErrorAsItWasWhenAReplyComes)
     EXPECT_EQ(error, before);
 }
 
-TEST_F(AMessagingCenter, TellsWhyWhenNobodyServesIt)
+TEST_F(AMessagingCenter, ReportsTheReasonWhenThereIsNoServer)
 {
     EXPECT_TRUE(send({ { "answer", 1 } }).empty());
     ASSERT_TRUE(error);
@@ -116,7 +116,7 @@ TEST_F(AMessagingCenter, WaitsForAReplyOneSecondAtMost)
     EXPECT_FALSE(error->localizedDescription.empty());
 }
 
-TEST_F(AMessagingCenter, TakesNoReplyOfTheWrongType)
+TEST_F(AMessagingCenter, RejectsAReplyOfTheWrongType)
 {
     const Server server(
         [](sd_bus_message* message) { return sd_bus_reply_method_return(message, "s", "hello"); });
@@ -161,7 +161,7 @@ TEST_F(AMessagingCenter, FailsWithoutABusAndRecoversWhenAppliedToTheNextOne)
         effects.trace(), ElementsAre("message greet failed", "message greet failed", "message greet"));
 }
 
-TEST_F(AMessagingCenter, WithANameThatIsNoneFailsToSend)
+TEST_F(AMessagingCenter, WithAnInvalidNameFailsToSend)
 {
     center = CPDistributedMessagingCenter::centerNamed("no name!");
     EXPECT_TRUE(send().empty());

@@ -97,7 +97,7 @@ TEST_F(ADarwinNotification, IsDeliveredOncePerRegistrationAndPost)
     EXPECT_EQ(calls.size(), 9u);
 }
 
-TEST_F(ADarwinNotification, OfAnotherNameIsNoneOfAnObserversBusiness)
+TEST_F(ADarwinNotification, OfAnotherNameIsNotDelivered)
 {
     observe(&anObserver, "mine");
     post("mine too");

@@ -263,7 +263,7 @@ MATCHER_P(IsGray, level, "")
     return isLevel(arg[0]) && isLevel(arg[1]) && isLevel(arg[2]) && arg[3] == 255;
 }
 
-TEST(ABlendModeOfHueSaturationAndLuminosity, TellsTheColorsApart)
+TEST(ABlendModeOfHueSaturationAndLuminosity, DistinguishesTheColors)
 {
     const Bytes gray { 100, 100, 100, 255 };
     const Bytes red { 255, 0, 0, 255 };
@@ -281,7 +281,7 @@ TEST(ABlendModeOfHueSaturationAndLuminosity, TellsTheColorsApart)
     EXPECT_EQ(static_cast<int>(CGBlendMode::Luminosity), 15);
 }
 
-TEST(SettingABlendMode, ThatThereIsNotKeepsTheOneBefore)
+TEST(SettingABlendMode, ThatDoesNotExistKeepsThePreviousOne)
 {
     UIGraphicsBeginImageContext({ 1, 1 });
     const auto context = UIGraphicsGetCurrentContext();

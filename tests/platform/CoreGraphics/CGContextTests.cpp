@@ -78,7 +78,7 @@ TEST_F(ABitmapContext, DrawsWhereItsAxesWereMoved)
     EXPECT_EQ(std::ranges::count(bytes, 255), 2);
 }
 
-TEST_F(ABitmapContext, MirrorsWhatIsDrawnAlongTurnedAxes)
+TEST_F(ABitmapContext, MirrorsDrawingAlongReversedAxes)
 {
     CGContextTranslateCTM(context.get(), 4, 4);
     CGContextScaleCTM(context.get(), -1, -1);
@@ -86,7 +86,7 @@ TEST_F(ABitmapContext, MirrorsWhatIsDrawnAlongTurnedAxes)
     EXPECT_THAT(corners(), ElementsAre(white, blue, green, red));
 }
 
-TEST_F(ABitmapContext, TakesARectangleWhicheverOfItsCornersIsTheOrigin)
+TEST_F(ABitmapContext, AcceptsARectangleWithAnyCornerAsItsOrigin)
 {
     CGContextFillRect(context.get(), CGRectMake(3, 3, -2, -2));
     EXPECT_EQ(pixel(1, 1), black);
@@ -96,7 +96,7 @@ TEST_F(ABitmapContext, TakesARectangleWhicheverOfItsCornersIsTheOrigin)
     EXPECT_THAT(corners(), ElementsAre(red, green, blue, white));
 }
 
-TEST_F(ABitmapContext, DrawsOnlyWhatIsWithinIt)
+TEST_F(ABitmapContext, ClipsToItsBounds)
 {
     CGContextDrawImage(context.get(), CGRectMake(-4, 0, 8, 8), fourColors()->CGImage());
     EXPECT_THAT(corners(), testing::Not(testing::Contains(red)));
@@ -107,7 +107,7 @@ TEST_F(ABitmapContext, DrawsOnlyWhatIsWithinIt)
     EXPECT_THAT(bytes, Each(0));
 }
 
-TEST_F(ABitmapContext, IgnoresRectanglesThatHaveNoAreaOrNoEnd)
+TEST_F(ABitmapContext, IgnoresEmptyAndInfiniteRectangles)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const auto& rect : { CGRectMake(0, 0, 0, 4), CGRectMake(0, 0, 4, 0), CGRectMake(0, 0, infinity, 4),
@@ -120,7 +120,7 @@ TEST_F(ABitmapContext, IgnoresRectanglesThatHaveNoAreaOrNoEnd)
     }
 }
 
-TEST_F(ABitmapContext, ChangesPixelsAsFarAsTheyAreCovered)
+TEST_F(ABitmapContext, ChangesPixelsInProportionToTheirCoverage)
 {
     CGContextFillRect(context.get(), CGRectMake(0.5, 0.25, 3, 3));
     EXPECT_EQ(pixel(1, 1), black);
@@ -130,7 +130,7 @@ TEST_F(ABitmapContext, ChangesPixelsAsFarAsTheyAreCovered)
     EXPECT_THAT(pixel(0, 3), ElementsAre(0, 0, 0, 96)) << "three quarters of a half";
 }
 
-TEST_F(ABitmapContext, LeavesWhatIsNotCoveredAsItIsInAnyMode)
+TEST_F(ABitmapContext, LeavesUncoveredPixelsUnchangedInAnyMode)
 {
     CGContextFillRect(context.get(), CGRectMake(0, 0, 4, 4));
     CGContextSetBlendMode(context.get(), CGBlendMode::DestinationIn);
@@ -141,7 +141,7 @@ TEST_F(ABitmapContext, LeavesWhatIsNotCoveredAsItIsInAnyMode)
     EXPECT_EQ(pixel(2, 0), black);
 }
 
-TEST_F(ABitmapContext, GivesPicturesThatStayAsTheyAre)
+TEST_F(ABitmapContext, ReturnsPicturesThatDoNotChange)
 {
     CGContextFillRect(context.get(), CGRectMake(0, 0, 4, 4));
     const auto picture = UIImage::imageWithCGImage(CGBitmapContextCreateImage(context.get()).get());
@@ -160,7 +160,7 @@ TEST(ABitmapContextWithLongRows, LeavesTheirEndsAlone)
         EXPECT_EQ(std::count(bytes.data() + y * 12 + 8, bytes.data() + y * 12 + 12, 9), 4);
 }
 
-TEST(MakingABitmapContext, GivesNoneForWhatIsNoBitmap)
+TEST(MakingABitmapContext, ReturnsNullForAnInvalidBitmap)
 {
     Bytes bytes(64);
     EXPECT_TRUE(CGBitmapContextCreate(bytes.data(), 4, 4, 16));
@@ -172,7 +172,7 @@ TEST(MakingABitmapContext, GivesNoneForWhatIsNoBitmap)
     EXPECT_FALSE(CGBitmapContextCreate(bytes.data(), std::size_t { 1 } << 62, 4, 16));
 }
 
-TEST(NoContext, TakesEverythingAndGivesNothing)
+TEST(NoContext, IgnoresAllCalls)
 {
     CGContextTranslateCTM(nullptr, 1, 1);
     CGContextScaleCTM(nullptr, 2, 2);
@@ -183,7 +183,7 @@ TEST(NoContext, TakesEverythingAndGivesNothing)
     EXPECT_FALSE(UIImage::imageWithCGImage(nullptr));
 }
 
-TEST_F(ABitmapContext, DrawsNoImageAsNothing)
+TEST_F(ABitmapContext, DrawsNothingForANullImage)
 {
     CGContextDrawImage(context.get(), CGRectMake(0, 0, 4, 4), nullptr);
     EXPECT_THAT(bytes, Each(0));

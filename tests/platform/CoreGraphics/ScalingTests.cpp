@@ -90,7 +90,7 @@ TEST(DrawingAnImageLarger, KeepsItsCornersAndChangesEvenlyBetweenThem)
     }
 }
 
-TEST(DrawingAnImage, WiderAndLowerDoesBoth)
+TEST(DrawingAnImage, WiderAndShorterScalesInBothDirections)
 {
     const auto image = imageOf(2, 4, pixels(2, 4, [](std::size_t x, std::size_t y) {
         const auto level = static_cast<std::uint8_t>(x * 100 + y * 20);

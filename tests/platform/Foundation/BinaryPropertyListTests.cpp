@@ -60,7 +60,7 @@ TEST(ABinaryInteger, HasNoSignUpToFourBytes)
     EXPECT_EQ(readingObject("\x15" + std::string(32, '\0')), std::nullopt);
 }
 
-TEST(ABinaryInteger, IsWrittenAsShortAsItCanBe)
+TEST(ABinaryInteger, IsWrittenInItsSmallestSize)
 {
     const std::pair<std::int64_t, std::size_t> sizes[] { { 0, 1 }, { 255, 1 }, { 256, 2 }, { 65535, 2 },
         { 65536, 4 }, { 4294967295, 4 }, { 4294967296, 8 }, { INT64_MAX, 8 }, { -1, 8 }, { INT64_MIN, 8 } };
@@ -128,7 +128,7 @@ TEST(ABinaryFile, HoldsEachEqualValueOnce)
     EXPECT_TRUE(areAlike(*reading(other), different));
 }
 
-TEST(ABinaryFile, HasAsLongReferencesAsItNeeds)
+TEST(ABinaryFile, HasReferencesOfTheSizeThatItNeeds)
 {
     for (const std::size_t count : { 254u, 255u, 256u, 65534u, 65536u }) {
         PropertyList::Array numbers;
@@ -159,7 +159,7 @@ TEST(ABinaryDictionary, HasTextsForKeys)
     EXPECT_EQ(reading(binaryFile({ dictionaryOf(1, 1), bytes({ 0x41, 'a' }) })), std::nullopt);
 }
 
-TEST(ABinaryObject, ThatEndsBehindTheObjectsIsNone)
+TEST(ABinaryObject, ThatEndsAfterTheObjectsIsInvalid)
 {
     for (const auto& object : { bytes({ 0x13, 0, 0 }), bytes({ 0x22, 0, 0, 0 }), bytes({ 0x23, 0, 0, 0 }),
              bytes({ 0x33, 0 }), bytes({ 0x42, 0 }), bytes({ 0x52, 'a' }), bytes({ 0x61, 0 }),
@@ -169,7 +169,7 @@ TEST(ABinaryObject, ThatEndsBehindTheObjectsIsNone)
         EXPECT_EQ(readingObject(object), std::nullopt) << testing::PrintToString(object);
 }
 
-TEST(ABinaryContainer, HasNoReferencesBehindTheObjects)
+TEST(ABinaryContainer, HasNoReferencesAfterTheObjects)
 {
     // The table that follows starts with zeros, which would be references to the first object.
     for (const auto& container : { bytes({ 0xa1 }), bytes({ 0xc1 }), bytes({ 0xd1, 0, 0 }) }) {
@@ -179,14 +179,14 @@ TEST(ABinaryContainer, HasNoReferencesBehindTheObjects)
     }
 }
 
-TEST(ABinaryObject, OfAnUnknownKindIsNone)
+TEST(ABinaryObject, OfAnUnknownKindIsInvalid)
 {
     for (const unsigned marker :
         { 0x01u, 0x07u, 0x0au, 0x0fu, 0x20u, 0x21u, 0x24u, 0x30u, 0x32u, 0x70u, 0x90u, 0xb0u, 0xe0u, 0xf0u })
         EXPECT_EQ(readingObject(bytes({ marker }) + std::string(40, '\0')), std::nullopt) << marker;
 }
 
-TEST(ABinaryFile, WithAWrongTrailerIsNone)
+TEST(ABinaryFile, WithAWrongTrailerIsInvalid)
 {
     const auto good = binaryFile({ "\x09" });
     ASSERT_TRUE(reading(good));
@@ -208,7 +208,7 @@ TEST(ABinaryFile, WithAWrongTrailerIsNone)
     EXPECT_EQ(reading(other), std::nullopt) << "of another version";
 }
 
-TEST(ABinaryFile, GivesBackWhatItHeld)
+TEST(ABinaryFile, IsReadAndWrittenUnchanged)
 {
     const PropertyList::Array odd { PropertyList::NullObject {}, std::uint64_t { UINT64_MAX },
         PropertyList::WideInteger { 1, 2 }, PropertyList::Uid { 9 },

@@ -36,7 +36,7 @@ TEST(ADevicePath, InTheInstalledBundleLeadsToTheResourcesBesideTheProgram)
     EXPECT_EQ(resolveDevicePath(bundle + "/plus@2x.png"), resources / "BrimsoundSettings.bundle/plus@2x.png");
 }
 
-TEST(ADevicePath, ThatOnlyBeginsLikeTheBundlesIsNoneOfTheBundles)
+TEST(ADevicePath, ThatOnlyBeginsLikeTheBundlesIsOutsideTheBundle)
 {
     const TemporaryRoot root;
     EXPECT_EQ(resolveDevicePath("/Library/PreferenceBundles/BrimsoundSettings.bundle2"),

@@ -21,7 +21,7 @@ NSData bytesOf(std::string_view text)
 
 } // namespace
 
-TEST(ReadingAFile, GivesItsBytesAsTheyAre)
+TEST(ReadingAFile, ReturnsItsBytesUnchanged)
 {
     const tests::TemporaryRoot root;
     constexpr auto bytes = "bplist00\0\xff\r\n\n"sv;
@@ -31,7 +31,7 @@ TEST(ReadingAFile, GivesItsBytesAsTheyAre)
     EXPECT_EQ(dataWithContentsOfFile("/var/empty.plist"), NSData {});
 }
 
-TEST(ReadingAFile, GivesNothingForWhatIsNone)
+TEST(ReadingAFile, ReturnsNothingForWhatIsNone)
 {
     const tests::TemporaryRoot root;
     ASSERT_EQ(mkfifo((root.path() / "pipe").c_str(), 0600), 0);

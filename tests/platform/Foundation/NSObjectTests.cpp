@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-TEST(AnObject, IsBornWithOneReferenceAndDestroyedWithTheLastOne)
+TEST(AnObject, HasOneReferenceAtFirstAndIsDestroyedWithTheLastOne)
 {
     bool destroyed = false;
     auto object = make<Greeter>(destroyed);

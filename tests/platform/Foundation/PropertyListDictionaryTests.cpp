@@ -35,7 +35,7 @@ TEST(ADictionary, KeepsTheOrderInWhichItsKeysWereSet)
     EXPECT_EQ(*dictionary.find("a"), PropertyList(4));
 }
 
-TEST(ADictionary, ForgetsWhatIsRemoved)
+TEST(ADictionary, DoesNotFindARemovedKey)
 {
     PropertyList::Dictionary dictionary { { "a", 1 }, { "b", 2 }, { "c", 3 } };
     dictionary.remove("b");
@@ -80,7 +80,7 @@ TEST(ADictionary, GivesAnArrayADictionaryOrAStringForAKeyThatHoldsOne)
     EXPECT_EQ(*dictionaryForKey(constant, "dictionary")->find("a"), PropertyList(2));
 }
 
-TEST(ADictionary, GivesNothingForAKeyThatIsMissingOrHoldsAnotherType)
+TEST(ADictionary, ReturnsNothingForAKeyThatIsMissingOrHoldsAnotherType)
 {
     PropertyList::Dictionary dictionary { { "number", 1 } };
     const auto& constant = dictionary;
@@ -111,7 +111,7 @@ TEST(ADictionary, KeepsOfRepeatedKeysTheLastValueInTheFirstPlace)
     }
 }
 
-TEST(ADictionary, FindsItsKeysWhenItGrowsLongAndShortAgain)
+TEST(ADictionary, FindsItsKeysAfterGrowingAndShrinking)
 {
     PropertyList::Dictionary dictionary;
     for (int i = 0; i < 40; ++i) {
@@ -146,7 +146,7 @@ TEST(ALongDictionary, FindsItsKeysAfterEveryChange)
     EXPECT_EQ(copy, moved);
 }
 
-TEST(ALongDictionary, IsNotSearchedThroughForEveryKey)
+TEST(ALongDictionary, IsNotSearchedLinearly)
 {
     // A linear search would compare five billion keys.
     constexpr int size = 100'000;

@@ -134,7 +134,7 @@ TEST_F(ReadingAPropertyListFile, GivesATopLevelOfAnyType)
     EXPECT_EQ(reading(binaryFile({ std::string("\x10\x2a") })), PropertyList(42));
 }
 
-TEST_F(ReadingAPropertyListFile, TakesContainersSideBySideForNoDeeperThanOne)
+TEST_F(ReadingAPropertyListFile, DoesNotCountSiblingContainersAsNested)
 {
     for (const auto* item : { "<array></array>", "<array/>", "<array />", "<dict></dict>", "<dict/>" }) {
         const auto value = reading("<plist><array>" + repeat(item, 1000) + "</array></plist>");
@@ -143,29 +143,29 @@ TEST_F(ReadingAPropertyListFile, TakesContainersSideBySideForNoDeeperThanOne)
     }
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingWithoutAFile)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingWithoutAFile)
 {
     EXPECT_EQ(readPropertyListFile("/missing.plist"), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForADirectory)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForADirectory)
 {
     EXPECT_EQ(readPropertyListFile("/var"), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForAPipeWithoutWaitingForIt)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForAPipeWithoutWaitingForIt)
 {
     ASSERT_EQ(mkfifo((root.path() / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(readPropertyListFile("/pipe"), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForADevice)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForADevice)
 {
     fs::create_symlink("/dev/zero", root.path() / "device");
     EXPECT_EQ(readPropertyListFile("/device"), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForWhatIsNoPropertyList)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForAnInvalidPropertyList)
 {
     testing::internal::CaptureStderr();
     for (auto* contents : { "", " ", "garbage", "bplist00",
@@ -175,14 +175,14 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForWhatIsNoPropertyList)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatBreaksOff)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForATruncatedFile)
 {
     const auto whole = text(*dataWithPropertyList(everything(), binary, 0));
     for (std::size_t length = 0; length < whole.size(); ++length)
         EXPECT_EQ(reading(whole.substr(0, length)), std::nullopt) << length;
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForContainersNestedWithoutEnd)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForContainersNestedTooDeeply)
 {
     constexpr int depth = 200'000;
     EXPECT_EQ(
@@ -195,7 +195,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForContainersNestedWithoutEnd)
     EXPECT_EQ(reading(binaryFile(objects)), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, TakesValuesInUpToFiveHundredAndTwelveContainers)
+TEST_F(ReadingAPropertyListFile, AcceptsValuesInUpToFiveHundredAndTwelveContainers)
 {
     const auto markup = [](std::size_t depth, const std::string& value) {
         return "<plist>" + repeat("<array>", depth) + value + repeat("</array>", depth) + "</plist>";
@@ -219,7 +219,7 @@ TEST_F(ReadingAPropertyListFile, TakesValuesInUpToFiveHundredAndTwelveContainers
         EXPECT_EQ(reading(deeper), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForAnArrayThatContainsItself)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForAnArrayThatContainsItself)
 {
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 0 }) })), std::nullopt);
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 1 }), arrayOf({ 0 }) })), std::nullopt);
@@ -232,7 +232,7 @@ TEST_F(ReadingAPropertyListFile, TakesSharedObjects)
         PropertyList(PropertyList::Array { two, two }));
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForReferencesThatDoubleTooOften)
 {
     std::vector<std::string> objects;
     for (int i = 0; i < 100; ++i)
@@ -248,7 +248,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForSharingThatDoublesWithoutEnd)
     EXPECT_EQ(reading(binaryFile(dictionaries)), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
+TEST_F(ReadingAPropertyListFile, ReplacesInvalidBytesInText)
 {
     const PropertyList expected = PropertyList::Dictionary { { "a\uFFFDb", "\uFFFDc" } };
     const auto value = reading(binaryFile({ dictionaryOf(1, 2),
@@ -265,7 +265,7 @@ TEST_F(ReadingAPropertyListFile, PutsTextInThePlaceOfBytesThatAreNone)
     EXPECT_NE(dataWithPropertyList(*value, binary, 0), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForTextThatGetsTooLongToBeSaved)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForTextThatGetsTooLongToBeSaved)
 {
     // Each invalid byte becomes three.
     const auto value = reading(binaryFile({ stringOf(std::string(4'000'000, '\xff')) }));
@@ -283,14 +283,14 @@ TEST_F(ReadingAPropertyListFile, KeepsAMomentBeforeTheReferenceDate)
     EXPECT_THAT(text(*dataWithPropertyList(*value, binary, 0)), HasSubstr(date));
 }
 
-TEST_F(ReadingAPropertyListFile, TakesAMomentOutOfRangeForOneThatCanBeWritten)
+TEST_F(ReadingAPropertyListFile, ClampsADateToTheRangeThatCanBeWritten)
 {
     const auto value = reading(binaryFile({ "\x33\x7e\x37\xe4\x3c\x88\x01\x75\x9c" }));
     ASSERT_TRUE(value && value->asDate());
     EXPECT_NE(dataWithPropertyList(*value, binary, 0), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatIsTooLong)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForAFileThatIsTooLong)
 {
     const auto padded = [](std::size_t length) {
         const std::string start = "<plist><true/><!--";
@@ -309,7 +309,7 @@ TEST_F(ReadingAPropertyListFile, GivesNothingForAFileThatIsTooLong)
     EXPECT_EQ(reading(binaryOf(longest + 1)), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, TakesNoMemoryForAFileThatIsTooLong)
+TEST_F(ReadingAPropertyListFile, AllocatesNothingForAFileThatIsTooLong)
 {
     root.write(path, "bplist00");
     // A sparse file: it takes almost no disk space, but is larger than any machine's memory.
@@ -317,7 +317,7 @@ TEST_F(ReadingAPropertyListFile, TakesNoMemoryForAFileThatIsTooLong)
     EXPECT_EQ(readPropertyListFile(path), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, GivesNothingForReferencesToNowhere)
+TEST_F(ReadingAPropertyListFile, ReturnsNothingForReferencesToNowhere)
 {
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 7 }) })), std::nullopt);
 }
@@ -342,7 +342,7 @@ TEST_F(WritingAPropertyListFile, KeepsTheOrderOfADictionary)
     EXPECT_THAT(keys, ElementsAre("PREAMP", "ENABLED", "AUTO_PREAMP"));
 }
 
-TEST_F(WritingAPropertyListFile, MakesAFileThatOthersReadAlike)
+TEST_F(WritingAPropertyListFile, WritesAFileThatOtherProgramsReadTheSame)
 {
     rereading(everything(), binary);
     EXPECT_EQ(readByPython(file()),
@@ -365,7 +365,7 @@ TEST_F(WritingAPropertyListFile, TakesFourBytesForARealOfSinglePrecision)
     EXPECT_THAT(exact, HasSubstr(std::string("\x23\xc0\x28\0\0\0\0\0\0", 9)));
 }
 
-TEST_F(WritingAPropertyListFile, GivesNoDataForWhatHoldsNull)
+TEST_F(WritingAPropertyListFile, ReturnsNoDataForAValueWithNull)
 {
     EXPECT_EQ(dataWithPropertyList({}, binary, 0), std::nullopt);
     EXPECT_EQ(dataWithPropertyList(PropertyList::Array { 1, {} }, binary, 0), std::nullopt);
@@ -374,7 +374,7 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatHoldsNull)
     EXPECT_EQ(dataWithPropertyList(nested, xml, 0), std::nullopt);
 }
 
-TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNoText)
+TEST_F(WritingAPropertyListFile, ReturnsNoDataForInvalidText)
 {
     for (auto* bytes : { "\xff", "a\xc3", "\x80", "\xe2\x82", "\xc0\x80" })
         EXPECT_EQ(dataWithPropertyList(bytes, binary, 0), std::nullopt) << bytes;
@@ -382,7 +382,7 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNoText)
     EXPECT_EQ(dataWithPropertyList(std::string("a\0b", 3), xml, 0), std::nullopt);
 }
 
-TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNestedTooDeepToBeReadAgain)
+TEST_F(WritingAPropertyListFile, ReturnsNoDataForAValueNestedTooDeeply)
 {
     PropertyList deep = 1;
     for (int i = 0; i < 512; ++i)
@@ -394,7 +394,7 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatIsNestedTooDeepToBeReadAgain)
         EXPECT_EQ(dataWithPropertyList(deep, format, 0), std::nullopt);
 }
 
-TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
+TEST_F(WritingAPropertyListFile, ReturnsNoDataForAValueThatIsTooLarge)
 {
     EXPECT_TRUE(dataWithPropertyList(PropertyList::Array(600'000, true), binary, 0));
     EXPECT_FALSE(dataWithPropertyList(PropertyList::Array(650'000, true), binary, 0));
@@ -410,7 +410,7 @@ TEST_F(WritingAPropertyListFile, GivesNoDataForWhatTakesTooMuchToBeReadAgain)
     EXPECT_TRUE(dataWithPropertyList(PropertyListDictionary(entries), binary, 0));
 }
 
-TEST_F(WritingAPropertyListFile, TakesTenThousandPresets)
+TEST_F(WritingAPropertyListFile, AcceptsTenThousandPresets)
 {
     PropertyList::Dictionary presets;
     for (int i = 0; i < 10'000; ++i)
@@ -418,7 +418,7 @@ TEST_F(WritingAPropertyListFile, TakesTenThousandPresets)
     EXPECT_EQ(rereading(presets, binary), PropertyList(presets));
 }
 
-TEST_F(WritingAPropertyListFile, InPlaceKeepsTheFileAndCutsItOff)
+TEST_F(WritingAPropertyListFile, InPlaceKeepsTheFileAndTruncatesIt)
 {
     root.write(path, "an older and longer text");
     const auto inode = inodeOf(file());
@@ -427,7 +427,7 @@ TEST_F(WritingAPropertyListFile, InPlaceKeepsTheFileAndCutsItOff)
     EXPECT_EQ(inodeOf(file()), inode);
 }
 
-TEST_F(WritingAPropertyListFile, AtomicallyPutsANewFileInItsPlace)
+TEST_F(WritingAPropertyListFile, AtomicallyReplacesTheFile)
 {
     root.write(path, "old");
     fs::create_hard_link(file(), root.path() / "old.plist");
@@ -437,7 +437,7 @@ TEST_F(WritingAPropertyListFile, AtomicallyPutsANewFileInItsPlace)
     EXPECT_EQ(std::distance(fs::directory_iterator(root.path()), {}), 3) << "a temporary file was left";
 }
 
-TEST_F(WritingAPropertyListFile, MakesItForTheUserAlone)
+TEST_F(WritingAPropertyListFile, CreatesItForTheUserOnly)
 {
     for (const auto atomically : { Atomically::No, Atomically::Yes }) {
         fs::remove(file());
@@ -446,14 +446,14 @@ TEST_F(WritingAPropertyListFile, MakesItForTheUserAlone)
     }
 }
 
-TEST_F(WritingAPropertyListFile, IsAnEffectOnceItIsDone)
+TEST_F(WritingAPropertyListFile, IsReportedAsAnEffectWhenItIsDone)
 {
     writeToFile(data("new"), path, Atomically::No);
     writeToFile(data("new"), "/other.plist", Atomically::Yes);
     EXPECT_THAT(effects.trace(), ElementsAre("write /values.plist", "write /other.plist"));
 }
 
-TEST_F(WritingAPropertyListFile, MakesNoFolders)
+TEST_F(WritingAPropertyListFile, CreatesNoFolders)
 {
     for (const auto atomically : { Atomically::No, Atomically::Yes })
         EXPECT_FALSE(writeToFile(data("new"), "/missing/values.plist", atomically));
@@ -461,7 +461,7 @@ TEST_F(WritingAPropertyListFile, MakesNoFolders)
     EXPECT_THAT(effects.trace(), IsEmpty());
 }
 
-TEST_F(WritingAPropertyListFile, InPlaceRefusesWhatIsNoFileWithoutWaitingForIt)
+TEST_F(WritingAPropertyListFile, InPlaceRejectsPipesAndFoldersWithoutBlocking)
 {
     ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
     EXPECT_FALSE(writeToFile(data("new"), path, Atomically::No));
@@ -469,7 +469,7 @@ TEST_F(WritingAPropertyListFile, InPlaceRefusesWhatIsNoFileWithoutWaitingForIt)
     EXPECT_THAT(effects.trace(), IsEmpty());
 }
 
-TEST_F(WritingAPropertyListFile, FailsWhenTheDiskTakesOnlyAPart)
+TEST_F(WritingAPropertyListFile, FailsWhenOnlyAPartCanBeWritten)
 {
     rlimit before {};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);

@@ -30,7 +30,7 @@ TEST(ANumber, ConvertsAsFoundationsDo)
         0x1p60f + 0x1p37f);
 }
 
-TEST(ANumber, OutOfRangeConvertsToTheNearestThatThereIs)
+TEST(ANumber, OutOfRangeConvertsToTheNearestValue)
 {
     EXPECT_EQ(PropertyList(1e300).integerValue(), largestInteger);
     EXPECT_EQ(PropertyList(-1e300).integerValue(), smallestInteger);
@@ -39,7 +39,7 @@ TEST(ANumber, OutOfRangeConvertsToTheNearestThatThereIs)
     EXPECT_EQ(PropertyList(1e300).floatValue(), std::numeric_limits<float>::infinity());
 }
 
-TEST(ANumber, Beyond64BitsConvertsAsNearAsItCan)
+TEST(ANumber, Beyond64BitsConvertsToTheNearestValue)
 {
     const PropertyList largest(std::uint64_t { UINT64_MAX });
     EXPECT_TRUE(largest.asWideInteger());

@@ -76,7 +76,7 @@ protected:
 
 } // namespace
 
-TEST_F(HandingOverAMail, BringsItWholeIntoTheMailClient)
+TEST_F(HandingOverAMail, PassesItCompletelyToTheMailClient)
 {
     addMailClientFor(mailto);
     EXPECT_TRUE(handOver(report(), reason)) << reason;
@@ -84,7 +84,7 @@ TEST_F(HandingOverAMail, BringsItWholeIntoTheMailClient)
     expectTheWholeReport();
 }
 
-TEST_F(HandingOverAMail, WorksTheSameOnADesktopThatHasItsOwnWayOfOpening)
+TEST_F(HandingOverAMail, WorksOnADesktopWithItsOwnOpenCommand)
 {
     const tests::EnvironmentVariable gnome("XDG_CURRENT_DESKTOP", "GNOME");
     addMailClientFor(mailto);
@@ -101,7 +101,7 @@ TEST_F(HandingOverAMail, OpensADraftWhereThereIsNoMailClientToCompose)
     expectTheWholeReport();
 }
 
-TEST_F(HandingOverAMail, LeavesWebBrowsersAlone)
+TEST_F(HandingOverAMail, DoesNotOpenAWebBrowser)
 {
     const auto browser = desktop.home() / "browser.sh";
     std::ofstream(browser) << "#!/bin/sh\ntouch " << (taken / "browsed").string() << "\n";
@@ -138,7 +138,7 @@ TEST_F(HandingOverAMail, OpensADraftWhereXdgEmailIsMissing)
     expectTheWholeReport();
 }
 
-TEST_F(HandingOverAMail, OpensADraftForTextThatWouldNotComeThrough)
+TEST_F(HandingOverAMail, OpensADraftForTextThatXdgEmailWouldChange)
 {
     desktop.addProgram(mailto, "/bin/true %u");
     addMailClientFor(messages);
@@ -153,7 +153,7 @@ TEST_F(HandingOverAMail, OpensADraftForTextThatWouldNotComeThrough)
     }
 }
 
-TEST_F(HandingOverAMail, TakesNoOptionsFromARecipient)
+TEST_F(HandingOverAMail, DoesNotTreatARecipientAsAnOption)
 {
     desktop.addProgram(mailto, "/bin/true %u");
     addMailClientFor(messages);
@@ -166,7 +166,7 @@ TEST_F(HandingOverAMail, TakesNoOptionsFromARecipient)
     }
 }
 
-TEST_F(HandingOverAMail, KeepsAttachmentsOfOneNameApart)
+TEST_F(HandingOverAMail, SupportsAttachmentsWithTheSameName)
 {
     addMailClientFor(mailto);
     auto mail = report();
@@ -182,7 +182,7 @@ TEST_F(HandingOverAMail, KeepsAttachmentsOfOneNameApart)
     EXPECT_EQ(part("4-attachment"), "four");
 }
 
-TEST_F(HandingOverAMail, KeepsItsFilesForTheUserAlone)
+TEST_F(HandingOverAMail, KeepsItsFilesPrivate)
 {
     addMailClientFor(mailto);
     EXPECT_TRUE(handOver(report(), reason)) << reason;
@@ -226,13 +226,13 @@ TEST_F(HandingOverAMail, DoesNotWaitForTheMailClientsEnd)
     EXPECT_FALSE(fs::exists(taken / "kind")) << "the mail was opened a second time";
 }
 
-TEST_F(HandingOverAMail, FailsWhereNothingTakesIt)
+TEST_F(HandingOverAMail, FailsWithoutAMailProgram)
 {
     EXPECT_FALSE(handOver(report(), reason));
     EXPECT_EQ(reason, "there is no program for mails");
 }
 
-TEST_F(HandingOverAMail, FailsWhereItsFilesCannotLie)
+TEST_F(HandingOverAMail, FailsWhenItsFilesCannotBeWritten)
 {
     addMailClientFor(mailto);
     std::ofstream(desktop.cache()) << "in the way";

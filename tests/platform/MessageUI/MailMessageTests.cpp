@@ -95,7 +95,7 @@ TEST_F(AMessage, HasTheHeadersOfADraft)
     EXPECT_THAT(message, Not(ContainsRegex("[^\r]\n"))) << "lines of mails end with CR and LF";
 }
 
-TEST_F(AMessage, TakesNoHeadersFromTheTextOfOthers)
+TEST_F(AMessage, PreventsHeaderInjection)
 {
     read(messageOf({ "one\r\nBcc: evil@example.com", { "a@example.com\nBcc: evil@example.com" },
         { { "a\nX: y.txt", "text/plain\nX: y", bytes("x") } } }));
@@ -115,7 +115,7 @@ TEST_F(AMessage, NamesFilesWithoutTheirFolders)
     EXPECT_EQ(part("3-attachment"), "z");
 }
 
-TEST_F(AMessage, MayLackEverything)
+TEST_F(AMessage, CanBeEmpty)
 {
     const auto message = messageOf({});
     EXPECT_THAT(message, HasSubstr("X-Unsent: 1\r\n"));

@@ -137,7 +137,7 @@ protected:
     const RetainPtr<TestPane> pane = make<TestPane>();
 };
 
-TEST_F(APane, MayHaveAnySizeThatIsOne)
+TEST_F(APane, AcceptsAnyValidSize)
 {
     EXPECT_EQ(pane->initForContentSize({ 0, 0 }), pane.get());
     EXPECT_EQ(pane->initForContentSize({ 1024, 768 }), pane.get());
@@ -188,7 +188,7 @@ TEST_F(APane, PutsRowsBeforeTheFirstGroupIntoASectionOfTheirOwn)
     EXPECT_EQ(cell(1, 0).textLabel().text(), "2");
 }
 
-TEST_F(APane, ShowsAColumnOfTextForARowOfAKindThatItDoesNotKnow)
+TEST_F(APane, ShowsATextRowForAnUnknownKind)
 {
     show({ item("PSStaticTextCell", "text", { { "action", "open:" } }), { { "label", "bare" } } });
     EXPECT_EQ(cell(0, 0).textLabel().text(), "text");
@@ -200,7 +200,7 @@ TEST_F(APane, ShowsAColumnOfTextForARowOfAKindThatItDoesNotKnow)
 
 using ASwitchRow = APane;
 
-TEST_F(ASwitchRow, ShowsWhatItsGetterGives)
+TEST_F(ASwitchRow, ShowsTheResultOfItsGetter)
 {
     pane->isLoud = true;
     show({ toggle("a", { { "get", "loud" }, { "default", false } }) });
@@ -212,14 +212,14 @@ TEST_F(ASwitchRow, ShowsWhatItsGetterGives)
     EXPECT_FALSE(cell(0, 0).toggle()->isOn());
 }
 
-TEST_F(ASwitchRow, HandsItsSpecifierToTheGetter)
+TEST_F(ASwitchRow, PassesItsSpecifierToTheGetter)
 {
     show({ toggle("a", { { "get", "valueFor:" } }), toggle("b", { { "get", "valueFor:" } }) });
     EXPECT_TRUE(cell(0, 0).toggle()->isOn());
     EXPECT_THAT(pane->calls, ElementsAre("valueFor a", "valueFor b"));
 }
 
-TEST_F(ASwitchRow, ShowsItsDefaultWhenNobodyAnswersItsGetter)
+TEST_F(ASwitchRow, ShowsItsDefaultWithoutAGetter)
 {
     show({ toggle("on", { { "get", "missing" }, { "default", true } }),
         toggle("off", { { "get", "missing" }, { "default", false } }),
@@ -240,7 +240,7 @@ TEST_F(ASwitchRow, CallsItsSetterWithTheValueAndTheSpecifierWhenItIsFlipped)
     EXPECT_THAT(pane->calls, ElementsAre("setLoud a on", "setLoud a off"));
 }
 
-TEST_F(ASwitchRow, StoresNothingWhenNobodyAnswersItsSetter)
+TEST_F(ASwitchRow, StoresNothingWithoutASetter)
 {
     show({ toggle("a", { { "get", "loud" }, { "set", "missing:" } }) });
     pane->calls.clear();
@@ -267,7 +267,7 @@ TEST_F(ASwitchRow, IsNotSelectedByATapBesideTheSwitch)
     EXPECT_THAT(pane->calls, IsEmpty());
 }
 
-TEST_F(ASwitchRow, SpeaksForTheSpecifierThatItShowsNow)
+TEST_F(ASwitchRow, SetsTheSpecifierThatItShowsNow)
 {
     show({ toggle("a", { { "get", "valueFor:" } }) });
     show({ toggle("b", { { "default", false } }) });
@@ -289,7 +289,7 @@ TEST_F(AButtonRow, SendsItsActionWithItsSpecifierAsALinkDoes)
     EXPECT_THAT(pane->calls, ElementsAre("open button", "open link"));
 }
 
-TEST_F(AButtonRow, DoesNothingWhenNobodyAnswersItsAction)
+TEST_F(AButtonRow, DoesNothingWithoutAnImplementedAction)
 {
     show({ item("PSButtonCell", "a", { { "action", "missing:" } }), item("PSButtonCell", "b") });
     tap(cell(0, 0));
@@ -339,7 +339,7 @@ protected:
     const RetainPtr<NSObject> target = make<NSObject>();
 };
 
-TEST_F(ASpecifierPlist, GivesASpecifierForEveryItemThatIsOne)
+TEST_F(ASpecifierPlist, ReturnsASpecifierForEveryValidItem)
 {
     const auto specifiers = load("Pane");
     ASSERT_THAT(specifiers, SizeIs(3));
@@ -368,7 +368,7 @@ TEST_F(ASpecifierPlist, DoesNotHaveItsOtherTextsLocalized)
     EXPECT_EQ(*specifiers[1]->propertyForKey("key").asString(), "SOUND");
 }
 
-TEST_F(ASpecifierPlist, ThatIsMissingOrWithoutItemsGivesNone)
+TEST_F(ASpecifierPlist, ThatIsMissingOrWithoutItemsReturnsNone)
 {
     EXPECT_THAT(load("Missing"), IsEmpty());
     EXPECT_THAT(load("NoItems"), IsEmpty());

@@ -16,7 +16,7 @@ TEST(AValueInOsRelease, IsReadAsTheShellWould)
     EXPECT_EQ(version("VERSION_ID=1\nVERSION_ID=2\n"), "2");
 }
 
-TEST(AValueInOsRelease, IsEmptyWhereItIsNot)
+TEST(AValueInOsRelease, IsEmptyWhenItIsMissing)
 {
     EXPECT_EQ(valueInOsRelease("", "VERSION_ID"), "");
     EXPECT_EQ(valueInOsRelease("VERSION_ID_LIKE=1\n#VERSION_ID=2\nBUILD_VERSION_ID=3\n", "VERSION_ID"), "");

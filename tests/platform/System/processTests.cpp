@@ -63,7 +63,7 @@ TEST(ReadingFromAShellCommand, GivesItsOutputAndItsStatus)
     EXPECT_THAT(effects.trace(), ElementsAre("shell printf 'one\\0two'; exit 3"));
 }
 
-TEST(ReadingFromAShellCommand, IsNothingThatOtherProgramsSee)
+TEST(ReadingFromAShellCommand, UsesAPipeThatOtherProgramsDoNotInherit)
 {
     const tests::OutsideEffects effects(Reach::Everything);
     auto* stream = brimsound::popen("true", "r");
@@ -83,7 +83,7 @@ TEST(AShellCommand, ThatCannotBeStartedHasNoStream)
     EXPECT_EQ(brimsound::popen("true", "r"), nullptr);
 }
 
-TEST(AShellCommand, IsOnlyToldToAnObserverThatIsToBeAllThatItReaches)
+TEST(AShellCommand, IsOnlyReportedWhenOnlyTheObserverIsReached)
 {
     const tests::TemporaryRoot root;
     tests::OutsideEffects effects(Reach::ObserverOnly);

@@ -21,7 +21,7 @@ std::string machine()
 
 } // namespace
 
-TEST(TheMachinesName, IsTheProductsElseTheArchitecture)
+TEST(TheMachinesName, IsThatOfTheProductOrElseTheArchitecture)
 {
     auto expected = tests::firstLineOf("sed 's/^ *//; s/ *$//' /sys/class/dmi/id/product_name 2>/dev/null");
     if (expected.empty())
@@ -39,7 +39,7 @@ TEST(TheMachinesName, FitsIntoALargerBuffer)
     EXPECT_EQ(buffer, name + std::string(10, '?'));
 }
 
-TEST(TheMachinesName, IsNotCutToFit)
+TEST(TheMachinesName, IsNotTruncated)
 {
     std::string buffer(machine().size() - 1, '?');
     auto size = buffer.size();

@@ -122,7 +122,7 @@ TEST_F(AMessage, IsReadWithArraysAndNestedVariants)
             { "arrays", PropertyList::Array { PropertyList(PropertyList::Array { 0.5, 1.5 }) } } }));
 }
 
-TEST_F(AMessage, IsReadWithoutWhatHasNoEquivalent)
+TEST_F(AMessage, IsReadWithoutValuesThatHaveNoEquivalent)
 {
     ASSERT_GE(sd_bus_message_append(message.get(), "a{sv}", 4, "struct", "(is)", 1, "one", "kept", "s", "yes",
                   "numbered", "a{is}", 1, 1, "one", "structs", "a(i)", 1, 5),
@@ -132,14 +132,14 @@ TEST_F(AMessage, IsReadWithoutWhatHasNoEquivalent)
             { "kept", "yes" }, { "structs", PropertyList::Array { PropertyList() } } }));
 }
 
-TEST_F(AMessage, ThatHoldsNoDictionaryIsRefused)
+TEST_F(AMessage, WithoutADictionaryIsRejected)
 {
     ASSERT_GE(sd_bus_message_append(message.get(), "s", "text"), 0);
     PropertyList::Dictionary dictionary;
     EXPECT_LT(readDictionary(received(), dictionary), 0);
 }
 
-TEST_F(AMessage, WithMoreValuesThanAnybodySendsIsRefused)
+TEST_F(AMessage, WithTooManyValuesIsRejected)
 {
     for (const std::size_t count : { 4000u, 5000u }) {
         SetUp();

@@ -41,7 +41,7 @@ protected:
 
 } // namespace
 
-TEST_F(ASessionBus, IsNotThereWhereNoneIsReached)
+TEST_F(ASessionBus, IsNullWhenNoneCanBeReached)
 {
     const tests::EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
     EXPECT_EQ(bus.connection(), nullptr);
@@ -52,7 +52,7 @@ TEST_F(ASessionBus, IsNotThereWhereNoneIsReached)
     bus.drain();
 }
 
-TEST_F(ASessionBus, KeepsOneConnectionToSpeakAndOneToListen)
+TEST_F(ASessionBus, HasOneConnectionToSendAndOneToReceive)
 {
     const TestBus testBus;
     auto* speaker = bus.connection();
@@ -113,7 +113,7 @@ TEST_F(ASessionBus, KeepsItsConnectionWhenAHandlerAsksForMore)
     EXPECT_EQ(bus.connection(), connection);
 }
 
-TEST_F(ASessionBus, IgnoresSignalsThatAreNoPost)
+TEST_F(ASessionBus, IgnoresOtherSignals)
 {
     TestBus testBus;
     const auto& heard = listen();
@@ -134,7 +134,7 @@ TEST_F(ASessionBus, IgnoresSignalsThatAreNoPost)
     EXPECT_THAT(heard, ElementsAre("right"));
 }
 
-TEST_F(ASessionBus, HearsNotificationsOnTheNextBusWhenOneWasLost)
+TEST_F(ASessionBus, ReceivesNotificationsOnTheNextBusWhenOneWasLost)
 {
     const auto& heard = listen();
     std::vector<int> descriptors;
@@ -153,7 +153,7 @@ TEST_F(ASessionBus, HearsNotificationsOnTheNextBusWhenOneWasLost)
     EXPECT_THAT(heard, ElementsAre("again"));
 }
 
-TEST(APrivateBus, GivesTheEnvironmentBackWhenItGoes)
+TEST(APrivateBus, RestoresTheEnvironmentAtItsEnd)
 {
     const tests::EnvironmentVariable before("DBUS_SESSION_BUS_ADDRESS", "unix:path=/before");
     {

@@ -30,13 +30,13 @@ bool endsSoon(pid_t process)
 
 } // namespace
 
-TEST(AChildProcess, TellsItsExitStatus)
+TEST(AChildProcess, ReturnsItsExitStatus)
 {
     EXPECT_EQ(ChildProcess({ "sh", "-c", "exit 3" }).exitStatus(10s), 3);
     EXPECT_EQ(ChildProcess({ "sh", "-c", "kill -9 $$" }).exitStatus(10s), 128 + SIGKILL);
 }
 
-TEST(AChildProcess, RunsUntilItIsToldToEnd)
+TEST(AChildProcess, RunsUntilItIsTerminated)
 {
     ChildProcess child({ "sleep", "1000" });
     EXPECT_TRUE(child.running());
@@ -57,7 +57,7 @@ TEST(AChildProcess, EndsWithItsObject)
     EXPECT_FALSE(exists(process));
 }
 
-TEST(AChildProcess, EndsEvenWhenItDoesNotWantTo)
+TEST(AChildProcess, IsKilledWhenItIgnoresTermination)
 {
     pid_t process = 0;
     {

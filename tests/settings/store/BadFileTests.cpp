@@ -63,7 +63,7 @@ PropertyList::Dictionary preferencesWithPresets(std::size_t count)
     return { { presetsKey, std::move(presets) } };
 }
 
-TEST_F(ABadFile, CutOffAnywhereCountsAsNoneAndIsReplaced)
+TEST_F(ABadFile, TruncatedAnywhereCountsAsMissingAndIsReplaced)
 {
     write_preferences(usedPreferences());
     const auto whole = contents();
@@ -74,7 +74,7 @@ TEST_F(ABadFile, CutOffAnywhereCountsAsNoneAndIsReplaced)
     EXPECT_TRUE(canBeSaved());
 }
 
-TEST_F(ABadFile, WithAnyOneBitTurnedCanBeSavedAgain)
+TEST_F(ABadFile, WithAnySingleBitFlippedCanBeSavedAgain)
 {
     write_preferences(usedPreferences());
     const auto whole = contents();
@@ -86,7 +86,7 @@ TEST_F(ABadFile, WithAnyOneBitTurnedCanBeSavedAgain)
     }
 }
 
-TEST_F(ABadFile, WithNumbersThatAreNoneCanBeSaved)
+TEST_F(ABadFile, WithInvalidNumbersCanBeSaved)
 {
     using Limits = std::numeric_limits<double>;
     PropertyList::Array gains { Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), Limits::max(),
@@ -98,7 +98,7 @@ TEST_F(ABadFile, WithNumbersThatAreNoneCanBeSaved)
     EXPECT_TRUE(canBeSaved());
 }
 
-TEST_F(ABadFile, WithBytesThatAreNoTextKeepsItsOtherSettingsAndCanBeSaved)
+TEST_F(ABadFile, WithInvalidTextKeepsItsOtherSettingsAndCanBeSaved)
 {
     write(binaryFile({ dictionaryOf(1, 2), stringOf("SELECTED_PRESET"), stringOf("B\xe4sse") }));
     EXPECT_EQ(*get_preferences().find(selectedPresetKey), PropertyList("B\uFFFDsse"));
@@ -139,7 +139,7 @@ TEST_F(ABadFile, OfPartsInEveryOddTypeKeepsThemWhenASwitchIsFlipped)
     EXPECT_EQ(values.at(4).asSet()->elements.size(), 2u);
 }
 
-TEST_F(ABadFile, NestedDeepCountsAsNone)
+TEST_F(ABadFile, NestedTooDeeplyCountsAsMissing)
 {
     constexpr int depth = 10'000;
     write("<plist><dict><key>PRESETS</key>" + repeat("<array>", depth) + repeat("</array>", depth)
@@ -155,7 +155,7 @@ TEST_F(ABadFile, NestedDeepCountsAsNone)
     EXPECT_TRUE(canBeSaved());
 }
 
-TEST_F(ABadFile, OfReferencesThatDoubleWithoutEndCountsAsNone)
+TEST_F(ABadFile, OfReferencesThatDoubleTooOftenCountsAsMissing)
 {
     std::vector<std::string> objects { dictionaryOf(1, 2), stringOf("PRESETS") };
     for (int place = 2; place < 100; ++place)
@@ -166,7 +166,7 @@ TEST_F(ABadFile, OfReferencesThatDoubleWithoutEndCountsAsNone)
     EXPECT_TRUE(canBeSaved());
 }
 
-TEST_F(ABadFile, ThatIsADirectoryCountsAsNoneAndStays)
+TEST_F(ABadFile, ThatIsADirectoryCountsAsMissingAndStays)
 {
     fs::create_directory(file());
     EXPECT_TRUE(isFresh());
@@ -175,7 +175,7 @@ TEST_F(ABadFile, ThatIsADirectoryCountsAsNoneAndStays)
     EXPECT_TRUE(isFresh());
 }
 
-TEST_F(ABadFile, ThatIsAPipeCountsAsNoneAndStays)
+TEST_F(ABadFile, ThatIsAPipeCountsAsMissingAndStays)
 {
     ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
     EXPECT_TRUE(isFresh());
@@ -184,7 +184,7 @@ TEST_F(ABadFile, ThatIsAPipeCountsAsNoneAndStays)
     EXPECT_TRUE(isFresh());
 }
 
-TEST_F(ABadFile, InAFolderThatIsNoneCountsAsNone)
+TEST_F(ABadFile, InAPathThatIsNotAFolderCountsAsMissing)
 {
     const auto folder = file().parent_path();
     fs::remove(folder);
@@ -195,7 +195,7 @@ TEST_F(ABadFile, InAFolderThatIsNoneCountsAsNone)
     EXPECT_TRUE(isFresh());
 }
 
-TEST_F(ABadFile, BehindALinkThatLeadsToItselfCountsAsNone)
+TEST_F(ABadFile, BehindALinkToItselfCountsAsMissing)
 {
     fs::create_symlink(file(), file());
     EXPECT_TRUE(isFresh());
@@ -224,7 +224,7 @@ TEST(AnUnusualFile, KeepsItsPresetsWhenThereAreTooManyForOneMore)
     EXPECT_TRUE(root.read(preferencesPath) == before);
 }
 
-TEST(AnUnusualFile, HoldsNamesOfAllSorts)
+TEST(AnUnusualFile, SupportsNamesOfAllKinds)
 {
     const TemporaryRoot root;
     PropertyList::Dictionary presets;

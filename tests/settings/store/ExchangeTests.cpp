@@ -65,7 +65,7 @@ TEST_P(AFileWritten, IsReadHere)
 INSTANTIATE_TEST_SUITE_P(OnEach, AFileWritten, testing::Values("desktop", "device"));
 
 // Ensures that the file that the other platform reads is the one that this platform writes.
-TEST(AFileWrittenHere, IsTheOneThatIsReadElsewhere)
+TEST(AFileWrittenHere, IsTheOneThatTheOtherPlatformReads)
 {
     const TestPlatform platform;
     const auto data = dataWithPropertyList(everyType(), NSPropertyListFormat::BinaryFormat_v1_0, 0);

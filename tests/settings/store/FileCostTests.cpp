@@ -205,7 +205,7 @@ TEST_F(AFileThatCosts, StaysWithinBoundsWithReferencesThatDouble)
     }
 }
 
-TEST_F(AFileThatCosts, StaysWithinBoundsWithContainersAsDeepAsTheyMayBe)
+TEST_F(AFileThatCosts, StaysWithinBoundsWithContainersOfTheMaximumDepth)
 {
     constexpr int depth = 511;
     std::vector<std::string> objects;

@@ -129,7 +129,7 @@ TEST_F(AFailedWrite, ToAFullDiskKeepsTheFile)
     });
 }
 
-TEST_F(AFailedWrite, ToAFullDiskThatReservesNothingKeepsTheFile)
+TEST_F(AFailedWrite, ToAFullDiskWithoutReservationKeepsTheFile)
 {
     onASmallDisk([this] {
         ASSERT_TRUE(fill(filler()));
@@ -159,7 +159,7 @@ TEST_F(AFailedWrite, ToAFullDiskLeavesNoFileWhereThereWasNone)
     });
 }
 
-TEST_F(AFailedWrite, OfAShorterFileToAFullDiskIsNone)
+TEST_F(AFailedWrite, OfAShorterFileToAFullDiskSucceeds)
 {
     onASmallDisk([] {
         write_preferences(preferencesWithLongName());
@@ -209,7 +209,7 @@ bool becomeAnOrdinaryUser(const fs::path& root)
     return chown(root.c_str(), nobody, nobody) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
 }
 
-TEST(AnUnreadableFile, CountsAsNoneAndIsReadOnceItMayBe)
+TEST(AnUnreadableFile, CountsAsMissingAndIsReadOncePermitted)
 {
     const TemporaryRoot root;
     const PropertyList::Dictionary preferences { { enabledKey, false } };
@@ -226,7 +226,7 @@ TEST(AnUnreadableFile, CountsAsNoneAndIsReadOnceItMayBe)
     });
 }
 
-TEST(AnUnwritableFile, KeepsWhatItHolds)
+TEST(AnUnwritableFile, KeepsItsContents)
 {
     const TemporaryRoot root;
     const PropertyList::Dictionary preferences { { enabledKey, false } };

@@ -31,14 +31,14 @@ protected:
 using ReadingThePreferences = Preferences;
 using WritingThePreferences = Preferences;
 
-TEST_F(ReadingThePreferences, GivesFreshOnesWithoutAFileAndWritesNone)
+TEST_F(ReadingThePreferences, ReturnsDefaultsWithoutAFileAndWritesNone)
 {
     expectFresh("no file");
     EXPECT_EQ(platform.preferencesFile(), "");
     EXPECT_THAT(platform.takeTrace(), ElementsAre());
 }
 
-TEST_F(ReadingThePreferences, GivesFreshOnesForAFileThatIsNoDictionary)
+TEST_F(ReadingThePreferences, ReturnsDefaultsForAFileThatIsNotADictionary)
 {
     platform.writePreferencesFile(std::string());
     expectFresh("an empty file");
@@ -50,7 +50,7 @@ TEST_F(ReadingThePreferences, GivesFreshOnesForAFileThatIsNoDictionary)
     expectFresh("a string at the top");
 }
 
-TEST_F(ReadingThePreferences, GivesFreshOnesForATruncatedFileAndLeavesItAlone)
+TEST_F(ReadingThePreferences, ReturnsDefaultsForATruncatedFileAndLeavesItAlone)
 {
     write_preferences({ { "ENABLED", true }, { "PREAMP", -4.5f } });
     const auto whole = platform.preferencesFile();
@@ -63,7 +63,7 @@ TEST_F(ReadingThePreferences, GivesFreshOnesForATruncatedFileAndLeavesItAlone)
     expectFresh("a file without its last byte");
 }
 
-TEST_F(ReadingThePreferences, AddsNothingToWhatTheFileHolds)
+TEST_F(ReadingThePreferences, AddsNothingToTheFilesContents)
 {
     platform.writePreferencesFile(PropertyList::Dictionary { { "ENABLED", false } });
     const auto preferences = get_preferences();
@@ -99,7 +99,7 @@ TEST_F(ReadingThePreferences, GivesContainersThatCanBeChanged)
     EXPECT_THAT(floatsIn(get_preferences(), "PEAKING_EQ_VALUES"), ElementsAre(1, 2));
 }
 
-TEST_F(WritingThePreferences, MakesTheFileWithWhatFreshOnesHoldAndTheChange)
+TEST_F(WritingThePreferences, CreatesTheFileWithTheDefaultsAndTheChange)
 {
     auto preferences = get_preferences();
     preferences.set("ENABLED", false);
@@ -134,7 +134,7 @@ TEST_F(WritingThePreferences, LeavesTheFileAloneWhenThereIsNothingToSerialize)
     EXPECT_THAT(platform.takeTrace(), ElementsAre());
 }
 
-TEST_F(WritingThePreferences, ReplacesAnUnreadableFileByFreshOnes)
+TEST_F(WritingThePreferences, ReplacesAnUnreadableFileByTheDefaults)
 {
     platform.writePreferencesFile(std::string("bplist00 of which nothing is left"));
     auto preferences = get_preferences();

@@ -63,7 +63,7 @@ TEST(TheBuiltinPresets, AreSinglePrecisionNumbers)
     }
 }
 
-TEST(TheBuiltinPresets, HaveTheGainsThatTheyAreKnownBy)
+TEST(TheBuiltinPresets, HaveTheirKnownGains)
 {
     EXPECT_EQ(gainsOf("Flat"), std::vector<float>(10, 0.0f));
     EXPECT_THAT(gainsOf("Full bass"),
@@ -111,7 +111,7 @@ TEST(TheBuiltinPresets, MatchTheTableInDecibels)
     }
 }
 
-TEST(TheBuiltinPresets, AreBuiltAnewForEveryCaller)
+TEST(TheBuiltinPresets, AreCreatedForEveryCaller)
 {
     auto changed = builtin_presets();
     changed.remove("Flat");
