@@ -36,13 +36,13 @@ Options readOptions(const QStringList& arguments)
     const auto version = parser.addVersionOption();
     const QCommandLineOption root(
         "root", "Keep the settings in DIR instead of the user's data directory.", "DIR");
-    const QCommandLineOption headless("headless", "Open no window. Time passes only as a script says.");
-    const QCommandLineOption script("script",
-        "Do what the gesture script in FILE says (- for standard input) and print a trace.", "FILE");
+    const QCommandLineOption headless("headless", "Open no window. Time only passes when a script waits.");
+    const QCommandLineOption script(
+        "script", "Run the gesture script in FILE (- for standard input) and print a trace.", "FILE");
     const QCommandLineOption live(
-        "live", "Carry out the commands, URLs and mails of a script; without it they are only traced.");
-    const QCommandLineOption snapshot("snapshot", "Write a picture of the pane before ending.", "FILE.png");
-    const QCommandLineOption scale("scale", "Draw N device pixels a point.", "N");
+        "live", "Execute the commands, URLs and mails of a script; without it they are only traced.");
+    const QCommandLineOption snapshot("snapshot", "Write a picture of the pane at the end.", "FILE.png");
+    const QCommandLineOption scale("scale", "Draw N device pixels per point.", "N");
     parser.addOptions({ root, headless, script, live, snapshot, scale });
 
     if (!parser.parse(arguments))

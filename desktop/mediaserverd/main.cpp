@@ -29,17 +29,17 @@ namespace {
 
 constexpr auto usage = R"(Usage: mediaserverd [--print] [--root DIR] [--silent]
 
-Equalizes what programs play through PipeWire. Answers the equalizer's live
-messages on the session bus, and rereads the preferences when they changed.
+Equalizes the sound that programs play through PipeWire. Answers the equalizer's
+live messages on the session bus, and reads changed preferences again.
 
   --print      print a line of JSON whenever one of these changes: "vals", the
-               gains in dB, preamp first; "connected", whether there is a
-               PipeWire; "output", the device that is played to; "layout", the
+               gains in dB, preamp first; "connected", whether PipeWire
+               is available; "output", the output device; "layout", the
                channels; "rate", in Hz; "headroom", the preamp plus the highest
                gain in dB: above 0, full-scale sound may be limited; "limited",
-               how many blocks of sound were
-  --root DIR   the folder that holds the device's files
-  --silent     leave the sound alone
+               the number of blocks limited so far
+  --root DIR   the folder with the device's files
+  --silent     do not change the sound
   --help       show this text
   --version    show the version
 )";
@@ -225,5 +225,5 @@ int main(int argumentCount, char** arguments)
     server.sound.reset();
     if (status < 0)
         return fail(std::strerror(-status));
-    return status == EXIT_SUCCESS ? EXIT_SUCCESS : fail("the session bus went away");
+    return status == EXIT_SUCCESS ? EXIT_SUCCESS : fail("the connection to the session bus was lost");
 }

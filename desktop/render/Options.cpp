@@ -15,15 +15,14 @@ constexpr auto usage = R"(Usage: brimsound-render IN OUT (--preset NAME | --gain
 Writes the sound file IN to OUT as the equalizer would play it. OUT has the
 format, rate, channels and length of IN.
 
-  --preset NAME    take the gains of a preset, built in or saved in the pane
+  --preset NAME    use the gains of a preset, built in or saved in the pane
   --gains LIST     ten gains in dB from -12 to 12: 60, 170, 310, 600 Hz,
                    1, 3, 6, 12, 14, 16 kHz
-  --preamp auto    turn down (or up) by the highest gain; so it is with a preset
-  --preamp DB      from -12 to 12; 0 with --gains
-  --no-limiter     let samples go beyond full scale, or clip in a file that
-                   cannot hold more
-  --root DIR       the folder that holds the device's files, saved presets
-                   among them
+  --preamp auto    minus the highest gain; the default with --preset
+  --preamp DB      from -12 to 12; the default with --gains is 0
+  --no-limiter     let samples exceed full scale, or clip in a format that
+                   does not support this
+  --root DIR       the folder with the device's files, including saved presets
   --help           show this text
   --version        show the version
 )";

@@ -36,10 +36,10 @@ testing::AssertionResult releaseArrives(RunningProgram& pane, MediaServer& serve
     for (const auto* line : { "touch 3", "drag 3 ", "lift 3", "wait 0" })
         pane.say(std::string(line) + (line[0] == 'd' ? std::to_string(gain) : ""));
     if (pane.next("write").is_null() || pane.next("notify").is_null())
-        return testing::AssertionFailure() << "the release was not told";
+        return testing::AssertionFailure() << "the release was not announced";
     const auto gains = storedGains();
     if (gains.size() != 11 || gains[3] != gain)
-        return testing::AssertionFailure() << "the file does not hold the gains";
+        return testing::AssertionFailure() << "the file does not contain the gains";
     if (!comesToPlay(server, gains))
         return testing::AssertionFailure() << "the media server does not play the file's gains";
     return testing::AssertionSuccess();

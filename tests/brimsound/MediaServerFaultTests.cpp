@@ -176,7 +176,7 @@ TEST_F(APaneWhoseMediaServer, SendsAHugeReplyDoesNotKeepIt)
 {
     constexpr std::size_t answerSize = 48 << 20;
     if (isSanitized())
-        GTEST_SKIP() << "AddressSanitizer keeps what is given back";
+        GTEST_SKIP() << "AddressSanitizer does not return freed memory";
     server.reset();
     const auto process = pane.process().processIdentifier();
     const auto before = residentBytes(process);

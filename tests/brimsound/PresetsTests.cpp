@@ -144,7 +144,7 @@ TEST_F(AScriptOfPresets, ClosesWhenAFingerComesDownOnTheDimmedArea)
 {
     const auto run = playScript(root, "press \"Presets\"\nfinger down 20 300\nstate\n");
     EXPECT_EQ(run.status, 0) << run.errors;
-    EXPECT_EQ(lastState(run).at("panel"), "hidden") << "before it goes up";
+    EXPECT_EQ(lastState(run).at("panel"), "hidden") << "before the finger is lifted";
 }
 
 TEST_F(AScriptOfPresets, SavesUnderANameThatIsConfirmedWithAPointer)

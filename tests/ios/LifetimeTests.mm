@@ -118,7 +118,7 @@ TEST_F(LivingTogether, APaneThatClosesLeavesNothingBehind)
         center = [ios::nativeOf(*pane.controller().center()) retain];
     });
     EXPECT_EQ(_activeController, nullptr);
-    EXPECT_EQ([center retainCount], 1u) << "the one taken here";
+    EXPECT_EQ([center retainCount], 1u) << "only this test's reference is left";
     [center release];
 }
 
@@ -128,7 +128,7 @@ TEST_F(LivingTogether, AnAlertDeliversItsAnswerAfterThePaneIsClosed)
     platform.takeTrace();
     inOneTurn([&] { EXPECT_TRUE(platform.answerAlert(1)); });
     EXPECT_THAT(platform.takeTrace(), testing::Contains("shell killall mediaserverd"));
-    EXPECT_EQ(_activeController, nullptr) << "the alert held it";
+    EXPECT_EQ(_activeController, nullptr) << "the alert retained it until now";
 }
 
 TEST_F(LivingTogether, AMailIsDismissedAfterThePaneIsClosed)
@@ -140,7 +140,7 @@ TEST_F(LivingTogether, AMailIsDismissedAfterThePaneIsClosed)
     EXPECT_TRUE(platform.composedMail());
     inOneTurn([&] { platform.cancelMail(); });
     EXPECT_FALSE(platform.composedMail());
-    EXPECT_EQ(_activeController, nullptr) << "the composer held it";
+    EXPECT_EQ(_activeController, nullptr) << "the composer retained it until now";
 }
 
 TEST_F(LivingTogether, APaneThatShowedPresetsLeavesTheirCycleAlone)

@@ -122,7 +122,7 @@ TEST_F(AMediaServer, RefusesGainsThatAreNotElevenFiniteNumbers)
     EXPECT_TRUE(error);
 
     send(someGains);
-    EXPECT_EQ(server.nextLine(), someGainsPrinted) << "a refused message changed the gains";
+    EXPECT_EQ(server.nextLine(), someGainsPrinted) << "a rejected message changed the gains";
 }
 
 TEST_F(AMediaServer, RefusesOtherMessages)

@@ -392,7 +392,7 @@ TEST_F(ARow, ReadsGainsAsNumbersOfAnyKind)
     const auto cell = pane.cellNamed("Typed");
     EXPECT_THAT(gainsOf(backgroundCurve(*cell)), ElementsAre(6, -6, 1, 0, 3, 4.5f, 0, -0.5f, 10, 9));
     EXPECT_EQ(gainsOf(pressedCurve(*cell)), gainsOf(backgroundCurve(*cell)));
-    EXPECT_THAT(pane.trace(), SizeIs(2)) << "what the reading logs, and nothing of any gain";
+    EXPECT_THAT(pane.trace(), SizeIs(2)) << "the log lines of reading the list, and none about gains";
 }
 
 TEST_F(ARow, HasItsPressedLooksAsLargeAsItselfWhenItAppears)
@@ -468,7 +468,7 @@ TEST_F(ARow, WithTooFewGainsShowsNoneForTheRestAndIsLoggedEachTime)
         const auto cell = pane.cellNamed("Short");
         EXPECT_THAT(gainsOf(backgroundCurve(*cell)), ElementsAre(3, 6.5f, 9, 1, 0, 0, 0, 0, 0, 0));
     }
-    EXPECT_THAT(pane.trace(), IsEmpty()) << "not at each row";
+    EXPECT_THAT(pane.trace(), IsEmpty()) << "not logged for each row";
     EXPECT_EQ(platform.preferencesFile(), file);
     pane.showPresets();
     EXPECT_THAT(pane.trace(), Contains(complaint).Times(1));
@@ -599,7 +599,7 @@ TEST_F(ChoosingAPreset, PassesZeroForAMissingGain)
     pane.choose("Short");
     EXPECT_THAT(
         floatsIn(storedPreferences(), peakingEqValuesKey), ElementsAre(3, 6.5f, 9, 0, 0, 0, 0, 0, 0, 0));
-    EXPECT_THAT(storedGains("Short"), ElementsAre(3, 6.5f, 9)) << "the file keeps what it had";
+    EXPECT_THAT(storedGains("Short"), ElementsAre(3, 6.5f, 9)) << "the file is unchanged";
 
     pane.showPresets();
     pane.choose("Odd");

@@ -245,7 +245,7 @@ protected:
 TEST_P(APaneInALowWindow, ShowsThePresetsWithoutScrolling)
 {
     const PresetPane pane(platform, GetParam());
-    ASSERT_EQ(pane.controller().sliders(), nullptr) << "the slider row is off view";
+    ASSERT_EQ(pane.controller().sliders(), nullptr) << "the slider row is out of view";
     auto& table = pane.controller().table();
     pane.showPresets();
     platform.layOut();
@@ -355,7 +355,7 @@ TEST_F(ThePanel, FadesOverHalfASecondAndIgnoresTouchesMeanwhile)
     EXPECT_GT(shownAlpha(pane.root()), 0);
     platform.passTime(0.06);
     EXPECT_EQ(shownAlpha(pane.root()), 0);
-    EXPECT_EQ(pane.root().superview(), &platform.topmostView()) << "it stays where it is";
+    EXPECT_EQ(pane.root().superview(), &platform.topmostView()) << "it stays in the view tree";
 }
 
 TEST_F(ThePanel, ShownWhileItFadesIsFullyVisibleAtOnce)

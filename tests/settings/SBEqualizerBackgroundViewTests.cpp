@@ -212,7 +212,7 @@ TEST(ASaturation, PalesTheBarsWithoutGainsToo)
 {
     const auto view = curve();
     view->setSaturation(0.3f);
-    EXPECT_THAT(colorsOf(*view), Each(yellow)) << "nothing is redrawn at once";
+    EXPECT_THAT(colorsOf(*view), Each(yellow)) << "the bars do not change yet";
     view->setGains(nullptr);
     EXPECT_THAT(colorsOf(*view), Each(ElementsAre(1, 1, DoubleNear(static_cast<double>(1 - 0.3f), 1e-6), 1)));
 }
@@ -242,10 +242,10 @@ TEST(ASaturation, JustAboveMinusAHalfDropsAFixedColor)
     const auto view = curve();
     view->setColor(blueColor());
     view->setSaturation(std::nextafter(-0.5f, 0.0f));
-    EXPECT_THAT(colorsOf(*view), Each(blue)) << "nothing is redrawn at once";
+    EXPECT_THAT(colorsOf(*view), Each(blue)) << "the bars do not change yet";
     view->setGains(rising.data());
     EXPECT_NE(colorsOf(*view)[0], blue);
-    EXPECT_NE(colorsOf(*view)[0], (Components { 0, 1, 0, 1 })) << "and is in force";
+    EXPECT_NE(colorsOf(*view)[0], (Components { 0, 1, 0, 1 })) << "and is applied";
 }
 
 TEST(ASaturation, CanBeRemovedAgain)
@@ -323,7 +323,7 @@ TEST(AFixedColor, IsRetainedOnceHoweverOftenItIsSet)
     // Shows that the view's own copy is compared, not the color of the bars.
     view->subviews()[0]->setBackgroundColor(UIColor::whiteColor());
     view->setColor(color);
-    EXPECT_EQ(color->retainCount() + 1, held) << "the one bar let go of it, and nobody took it up";
+    EXPECT_EQ(color->retainCount() + 1, held) << "the bar released it, and no other object retained it";
     EXPECT_EQ(componentsOf(*view->subviews()[0]), (Components { 1, 1, 1, 1 }));
 }
 
@@ -452,8 +452,8 @@ TEST(AnimatedGains, MoveTheBarsOverHalfASecond)
     const auto view = curve(from.data());
     const auto& bar = *view->subviews()[3];
     view->setGainsAnimated(to.data(), Animated::Yes);
-    EXPECT_EQ(bar.frame(), CGRectMake(30, 0, 10, 50)) << "the bar is where it will be";
-    EXPECT_EQ(shownFrame(bar), CGRectMake(30, 50, 10, 0)) << "and seen where it was";
+    EXPECT_EQ(bar.frame(), CGRectMake(30, 0, 10, 50)) << "the bar already has its new frame";
+    EXPECT_EQ(shownFrame(bar), CGRectMake(30, 50, 10, 0)) << "and is displayed at its old frame";
 
     platform.passTime(0.25);
     EXPECT_NEAR(shownFrame(bar).size.height, 25, 0.5);

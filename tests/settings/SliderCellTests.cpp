@@ -177,7 +177,7 @@ TEST_F(TheSliderRow, IsBuiltOnceAndComesBackWhenTheTableReusesIt)
         EXPECT_FALSE(slider->superview() == &again->contentView());
     EXPECT_EQ(static_cast<BRSliderCell&>(*again).sliders(), nullptr);
     again->layoutSubviews();
-    EXPECT_EQ(again->contentView().subviews().size(), 1u) << "the cell's own label and nothing else";
+    EXPECT_EQ(again->contentView().subviews().size(), 1u) << "only the cell's own label";
 }
 
 TEST_F(TheSliderRow, StretchesTheSlidersWithTheCellAndKeepsTheCaptions)

@@ -78,7 +78,7 @@ TEST(TheHashOfAnImage, TruncatesItsSizeInPoints)
     ASSERT_EQ(image->size(), (CGSize { 10.7, 3.2 }));
     EXPECT_EQ(md5Hash(*image), md5Hash(*imageOf(10, 3, gray(10, 3))));
     EXPECT_NE(md5Hash(*image), md5Hash(*imageOf(11, 4, gray(11, 4))));
-    EXPECT_EQ(md5Hash(*imageAtScale(10, 107, 9, gray(107, 9))), hashOfNoBytes) << "not one point high";
+    EXPECT_EQ(md5Hash(*imageAtScale(10, 107, 9, gray(107, 9))), hashOfNoBytes) << "less than one point high";
 }
 
 TEST(TheHashOfAnImage, LeavesTheImageAsItIs)
@@ -170,7 +170,7 @@ TEST(TheNegativeOfAnImage, HasOnePixelAPoint)
     ASSERT_EQ(image->size(), (CGSize { 6, 4 }));
     const auto result = negative(*image);
     EXPECT_EQ(result->scale(), 1);
-    EXPECT_EQ(result->size(), (CGSize { 6, 4 })) << "half the pixels along each side, and as large";
+    EXPECT_EQ(result->size(), (CGSize { 6, 4 })) << "half the pixels in each direction, and the same size";
 }
 
 TEST(TheNegativeOfAnImage, TruncatesItsSizeInPoints)
@@ -352,7 +352,7 @@ TEST(TintingAnImage, OfAFractionalSizeKeepsItsUpperLeftCorner)
     EXPECT_EQ(filled->size(), (CGSize { 11, 4 }));
     EXPECT_THAT(pixelOf(*filled, 0, 0), ElementsAre(255, 255, 255, 255));
     EXPECT_THAT(pixelOf(*filled, 9, 2), ElementsAre(255, 255, 255, 255));
-    EXPECT_LT(pixelOf(*filled, 10, 0)[3], 255) << "covered in part";
+    EXPECT_LT(pixelOf(*filled, 10, 0)[3], 255) << "partly covered";
     EXPECT_LT(pixelOf(*filled, 0, 3)[3], 255);
 }
 

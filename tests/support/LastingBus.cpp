@@ -42,7 +42,7 @@ void LastingBus::start()
                         "--print-address=1", "--address=unix:path=" + socket().string() },
         desktop::ChildProcess::Output::Piped);
     if (!_daemon->readLine(std::chrono::seconds(10)))
-        throw std::runtime_error("dbus-daemon told no address");
+        throw std::runtime_error("dbus-daemon printed no address");
 }
 
 void LastingBus::kill()

@@ -10,7 +10,7 @@ class SoundEngine::Implementation { };
 SoundEngine::SoundEngine(sd_event*, const Settings&, Reports reports)
 {
     if (const auto problem = std::move(reports.problem))
-        problem("this build has no PipeWire: sound is played as it is");
+        problem("this build has no PipeWire: sound is not equalized");
 }
 
 SoundEngine::~SoundEngine() = default;

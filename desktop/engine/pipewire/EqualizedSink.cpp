@@ -140,7 +140,7 @@ void EqualizedSink::open(Side& side, pw_core* core, const char* name, pw_propert
     side.owner = this;
     side.stream.reset(pw_stream_new(core, name, properties));
     if (!side.stream)
-        throw std::runtime_error("PipeWire takes no stream");
+        throw std::runtime_error("PipeWire cannot create a stream");
 }
 
 void EqualizedSink::connect(

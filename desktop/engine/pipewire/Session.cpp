@@ -190,7 +190,7 @@ bool Session::yieldToAnother()
         _sink.reset();
     }
     if (yields && !_yields && _reports.problem)
-        _reports.problem("another equalizer is in this PipeWire: waiting for its end");
+        _reports.problem("another equalizer uses this PipeWire: waiting until it ends");
     _yields = yields;
     return yields;
 }

@@ -38,7 +38,7 @@ Context makeContext(pw_loop* loop)
         pw_properties_set(properties, PW_KEY_CONFIG_NAME, "client-rt.conf");
     Context context(pw_context_new(loop, properties, 0));
     if (!context)
-        throw std::runtime_error("PipeWire's client library does not start");
+        throw std::runtime_error("PipeWire's client library cannot be started");
     return context;
 }
 
@@ -56,7 +56,7 @@ public:
     {
         connect();
         if (!_session)
-            tellProblem("PipeWire cannot be reached: sound is played as it is until it can");
+            tellProblem("PipeWire cannot be reached: sound is not equalized until it can");
     }
     Implementation(const Implementation&) = delete;
     Implementation& operator=(const Implementation&) = delete;
@@ -117,7 +117,7 @@ private:
         _session.reset();
         if (_reports.connected)
             _reports.connected(false);
-        tellProblem("PipeWire went away: waiting for its return");
+        tellProblem("the connection to PipeWire was lost: reconnecting");
         tryLater();
     }
 

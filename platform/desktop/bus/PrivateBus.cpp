@@ -17,7 +17,7 @@ PrivateBus::PrivateBus()
 {
     const auto address = _daemon.readLine(std::chrono::seconds(10));
     if (!address)
-        throw std::runtime_error("cannot start a session bus: dbus-daemon told no address");
+        throw std::runtime_error("cannot start a session bus: dbus-daemon printed no address");
     _address = *address;
     if (const char* before = std::getenv(addressVariable))
         _addressBefore = before;

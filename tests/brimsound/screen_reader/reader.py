@@ -81,7 +81,7 @@ class Reader:
         try:
             self.wait_until(condition)
         except TimeoutError:
-            raise AssertionError(f"{what} was not heard, but {self._events}") from None
+            raise AssertionError(f"{what} was not received, but {self._events}") from None
 
     def window(self):
         """Waits for the pane's window and returns it."""

@@ -78,7 +78,7 @@ TEST_F(AGraph, FindsTheOlderSinkOfAnotherClient)
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, ""));
     sink(50, "brimsound", "30");
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1050")) << "its own";
-    EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1055")) << "its own before this one";
+    EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1055")) << "its own earlier one";
     sink(60, "brimsound", "31");
     EXPECT_FALSE(graph.hasOlderSink("brimsound", 30, "1050"));
     EXPECT_TRUE(graph.hasOlderSink("brimsound", 30, "1070"));
@@ -100,7 +100,7 @@ TEST(ALayout, IsStereoWithoutChannelPositionsOrWithTooManyChannels)
     EXPECT_EQ(layoutFor({ "AUX0", "AUX1", "AUX2" }), stereo);
     EXPECT_EQ(layoutFor({ "FL", "somewhere" }), stereo);
     EXPECT_EQ(layoutFor(ChannelNames(9, "FL")), stereo);
-    EXPECT_EQ(layoutFor({}), std::nullopt) << "not known yet";
+    EXPECT_EQ(layoutFor({}), std::nullopt) << "the channels are unknown";
 }
 
 } // namespace brimsound::engine

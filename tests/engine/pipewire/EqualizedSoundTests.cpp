@@ -252,7 +252,7 @@ TEST_F(EqualizedSound, KeepsItsChannelsWhileThereIsNoDevice)
     ASSERT_TRUE(system.waitForDefault("brimsound"));
     system.plugIn("surround");
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "surround" }));
-    EXPECT_EQ(nodeOf("brimsound"), sink) << "it was made anew";
+    EXPECT_EQ(nodeOf("brimsound"), sink) << "the sink was replaced";
 }
 
 TEST_F(EqualizedSound, ChangesItsChannelsWithTheDeviceAndIsNeverLouder)

@@ -108,7 +108,7 @@ TEST_F(AFaultyDesktop, IsEqualizedAgainAfterPipeWireWasKilled)
     player.reset();
     system.killPipeWire();
     EXPECT_FALSE(engine->next("connected").get<bool>());
-    EXPECT_TRUE(send(preamp(preampDecibels))) << "it does not answer";
+    EXPECT_TRUE(send(preamp(preampDecibels))) << "the server does not answer";
     system.startPipeWire();
     EXPECT_TRUE(engine->next("connected").get<bool>());
     ASSERT_TRUE(system.waitForTargets("brimsound.output", { "hw1" }));
@@ -180,7 +180,8 @@ TEST_F(AFaultyDesktop, AnswersWithoutPipeWireAndReportsItOnce)
     EXPECT_EQ(engine->next("vals")[0], -6);
     EXPECT_EQ(engine->next("vals")[0], -3);
     const auto socket = "runtime_dir:" + (system.folder() / "run").string();
-    ASSERT_TRUE(eventually([&] { return countOf(socket, contentsOf(log)) >= 4; })) << "it does not try again";
+    ASSERT_TRUE(eventually([&] { return countOf(socket, contentsOf(log)) >= 4; }))
+        << "the server does not try again";
     EXPECT_THAT(
         contentsOf(errors), testing::MatchesRegex("mediaserverd: PipeWire cannot be reached[^\n]*\n"));
     EXPECT_TRUE(send(preamp(-12)));
@@ -277,8 +278,8 @@ TEST_F(AFaultyDesktop, EqualizesEachOfTwentyStreams)
         hw1->next(48000);
     }
     const auto heard = hw1->samples(start);
-    EXPECT_GT(loudestAt(heard, 1000), amplitude * 0.063 * 2) << "nothing played";
-    EXPECT_GT(loudestAt(heard, 3000), amplitude * 0.063 * 2) << "nothing played";
+    EXPECT_GT(loudestAt(heard, 1000), amplitude * 0.063 * 2) << "there is no sound";
+    EXPECT_GT(loudestAt(heard, 3000), amplitude * 0.063 * 2) << "there is no sound";
     EXPECT_LT(loudestAt(heard, 1000), amplitude * 0.631 * 1.122);
     EXPECT_LT(loudestAt(heard, 3000), amplitude * 0.631 * 1.122);
 }

@@ -69,7 +69,7 @@ TEST_F(ListeningToSpeech, FollowsASliderThatIsDragged)
     // The sink's monitor has the sound before the filters.
     const Recorder before("brimsound");
     const Recorder after("hw1");
-    ASSERT_TRUE(eventually([&] { return level(before.next(4800)) > 0.01; })) << "nobody speaks";
+    ASSERT_TRUE(eventually([&] { return level(before.next(4800)) > 0.01; })) << "there is no speech";
 
     // Flat gains do not change the sound, so that both recordings can be aligned.
     const auto spokenFrom = before.position();

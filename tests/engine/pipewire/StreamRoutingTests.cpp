@@ -73,7 +73,7 @@ TEST_F(Routing, MovesANewStreamOnceAndByName)
 {
     appears(plain());
     EXPECT_THAT(routing.takeWrites(), ElementsAre(move(stream)));
-    EXPECT_THAT(routing.takeWrites(), IsEmpty()) << "before the metadata has told it";
+    EXPECT_THAT(routing.takeWrites(), IsEmpty()) << "before the metadata is reported";
     targets("target.object", "brimsound");
     appears(plain());
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
@@ -84,7 +84,7 @@ TEST_F(Routing, MovesStreamsThatWereThereBeforeTheSink)
     StreamRouting late;
     late.streamChanged(stream, plain());
     late.metadataReady();
-    EXPECT_THAT(late.takeWrites(), IsEmpty()) << "there is nowhere to move it";
+    EXPECT_THAT(late.takeWrites(), IsEmpty()) << "there is no sink yet";
     late.setOwnNodes(StreamRouting::OwnNodes { sink, "1040", output });
     EXPECT_THAT(late.takeWrites(), ElementsAre(move(stream)));
 }
@@ -196,7 +196,7 @@ TEST_F(Routing, ForgetsStreamsThatEnded)
     routing.streamRemoved(stream);
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
     appears(plain());
-    EXPECT_THAT(routing.takeWrites(), ElementsAre(move(stream))) << "another stream of the same number";
+    EXPECT_THAT(routing.takeWrites(), ElementsAre(move(stream))) << "another stream with the same id";
 }
 
 TEST_F(Routing, MovesAStreamAgainWhoseKeysWereAllDeleted)

@@ -150,7 +150,7 @@ TEST_F(ATable, ReusesTheCellsThatScrolledOff)
     EXPECT_FALSE([first isSelected]);
     [table setContentOffset:CGPointMake(0, 0)];
     [table layoutIfNeeded];
-    EXPECT_TRUE([cell(0, 0) isSelected]) << "the row still is";
+    EXPECT_TRUE([cell(0, 0) isSelected]) << "the row is still selected";
     EXPECT_EQ([cell(0, 0) frame], CGRectMake(0, 0, 320, 100));
 }
 
@@ -162,7 +162,7 @@ TEST_F(ATable, AsksForItsRowsAgainWhenItIsReloaded)
     [table layoutIfNeeded];
     EXPECT_EQ([[table subviews] count], 2u);
     EXPECT_EQ(cell(1, 1), nil);
-    EXPECT_EQ(source->cellsMade, 4) << "the others are used again";
+    EXPECT_EQ(source->cellsMade, 4) << "the other cells are reused";
 }
 
 TEST_F(ATable, IsNotLeftScrolledBeyondItsEnd)
@@ -205,7 +205,7 @@ TEST_F(ATable, MovesTheRowsBelowADeletedOneUp)
     EXPECT_EQ(cell(1, 1), below);
     EXPECT_EQ([below frame], CGRectMake(0, 150, 320, 50));
     EXPECT_EQ(brimsound::doubles::shownFrame(below), CGRectMake(0, 200, 320, 50));
-    EXPECT_EQ(source->cellsAskedFor, askedFor + 1) << "for the one that came on view at the foot";
+    EXPECT_EQ(source->cellsAskedFor, askedFor + 1) << "for the row that came into view at the bottom";
     EXPECT_EQ(brimsound::doubles::shownFrame(cell(1, 2)), CGRectMake(0, 250, 320, 50));
     brimsound::doubles::advanceClock(0.31);
     EXPECT_EQ(brimsound::doubles::shownFrame(below), [below frame]);

@@ -116,7 +116,7 @@ TEST(ABinaryFile, HoldsEachEqualValueOnce)
 {
     const PropertyList::Array same { 1, 1, "a", "a", 1.5f, 1.5f, true, true, PropertyList::Uid { 1 },
         PropertyList::Uid { 1 } };
-    EXPECT_EQ(writing(same).at(8 + 1 + 10), '\x10') << "no array of ten references";
+    EXPECT_EQ(writing(same).at(8 + 1 + 10), '\x10') << "not an array of ten references";
     const auto file = writing(same);
     EXPECT_EQ(file.at(file.size() - 32 + 15), '\6') << "not the array and five others";
 
@@ -202,7 +202,7 @@ TEST(ABinaryFile, WithAWrongTrailerIsInvalid)
     // The magic number would be read as a text.
     auto early = good;
     early[trailer - 1] = 0;
-    EXPECT_EQ(reading(early), std::nullopt) << "an object in the magic";
+    EXPECT_EQ(reading(early), std::nullopt) << "an object within the magic number";
     auto other = good;
     other[7] = '1';
     EXPECT_EQ(reading(other), std::nullopt) << "of another version";

@@ -117,7 +117,7 @@ TEST_F(HandingOverAMail, OpensADraftWhenTheMailClientFails)
 {
     desktop.addProgram(mailto, "false %u");
     if (std::system("xdg-email nobody@example.com >/dev/null 2>&1") == 0)
-        GTEST_SKIP() << "this xdg-email ends with success whatever the mail program does";
+        GTEST_SKIP() << "this xdg-email reports success whatever the mail program does";
     addMailClientFor(messages);
     EXPECT_TRUE(handOver(report(), reason)) << reason;
     EXPECT_EQ(kind(), "message");

@@ -58,7 +58,7 @@ protected:
     void SetUp() override
     {
         if (dlsym(RTLD_DEFAULT, "__asan_init"))
-            GTEST_SKIP() << "AddressSanitizer takes memory of its own";
+            GTEST_SKIP() << "AddressSanitizer needs additional memory";
     }
 
     /// Tries files of increasing size, up to the largest that is accepted.
