@@ -112,7 +112,7 @@ TEST_F(APaneWhoseMediaServer, HangsBlocksEachSendForOneSecond)
     EXPECT_TRUE(releaseArrives(pane, *server, 4));
 }
 
-TEST_F(APaneWhoseMediaServer, RefusesTheGainsLogsWhatItSays)
+TEST_F(APaneWhoseMediaServer, RejectsTheGainsLogsItsError)
 {
     server.reset();
     {

@@ -203,7 +203,7 @@ TEST_F(AScriptOfPresets, WorksInAWindowTooShortForTheSliders)
     EXPECT_EQ(lastState(run).at("selected"), "Rock");
 }
 
-TEST_F(AScriptOfPresets, WorksAgainWhenTheSlidersAreOffView)
+TEST_F(AScriptOfPresets, WorksAgainWhenTheSlidersAreOutOfView)
 {
     // The switch is on already, so this only scrolls the pane to it.
     const auto run = playScript(root,

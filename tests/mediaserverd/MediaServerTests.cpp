@@ -242,7 +242,7 @@ TEST_F(AMediaServer, EndsCleanlyOnSigterm)
     }
 }
 
-TEST_F(AMediaServer, EndsWithAnErrorWhenTheBusGoesAway)
+TEST_F(AMediaServer, EndsWithAnErrorWhenTheBusEnds)
 {
     tests::MediaServer server;
     bus.stop();

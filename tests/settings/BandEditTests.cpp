@@ -34,7 +34,7 @@ protected:
 using TouchingASlider = BandEdit;
 using DraggingABand = BandEdit;
 using DraggingThePreamp = BandEdit;
-using LettingGoOfASlider = BandEdit;
+using ReleasingASlider = BandEdit;
 using SendingToTheMediaServer = BandEdit;
 /// Applies a preset as the preset panel does.
 void applyPreset(BrimsoundSettingsListController& controller, const PropertyList& gains)
@@ -74,7 +74,7 @@ TEST_F(TouchingASlider, WithoutMovingItStillSavesOnRelease)
     EXPECT_THAT(pane.trace(), ElementsAre(equalizerSend, writesFile, postsFinished));
 }
 
-TEST_F(DraggingABand, ShowsTheValueWithOneDecimalUntilItIsLetGo)
+TEST_F(DraggingABand, ShowsTheValueWithOneDecimalUntilItIsReleased)
 {
     storeAutoPreamp(false);
     const Pane pane(platform);
@@ -205,7 +205,7 @@ TEST_F(DraggingThePreamp, SendsItsOwnValueAndRecomputesNothing)
     EXPECT_THAT(pane.color(3), ElementsAre(1, testing::DoubleNear(7.0 / 12, 1e-6), 0, 1));
 }
 
-TEST_F(LettingGoOfASlider, WritesTheFileThenTellsEveryoneOnce)
+TEST_F(ReleasingASlider, WritesTheFileThenTellsEveryoneOnce)
 {
     const Pane pane(platform);
     pane.touch(3);
@@ -218,7 +218,7 @@ TEST_F(LettingGoOfASlider, WritesTheFileThenTellsEveryoneOnce)
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
 }
 
-TEST_F(LettingGoOfASlider, IsNotMistakenForAChangeByAnotherProcess)
+TEST_F(ReleasingASlider, IsNotMistakenForAChangeByAnotherProcess)
 {
     const Pane pane(platform);
     pane.touch(3);
@@ -230,7 +230,7 @@ TEST_F(LettingGoOfASlider, IsNotMistakenForAChangeByAnotherProcess)
     EXPECT_EQ(_notificationsToSkip, 0u);
 }
 
-TEST_F(LettingGoOfASlider, OutsideOrCanceledOrDoneEditingSavesAsWell)
+TEST_F(ReleasingASlider, OutsideOrCanceledOrDoneEditingSavesAsWell)
 {
     const Pane pane(platform);
     pane.liftOutside(3);
@@ -243,7 +243,7 @@ TEST_F(LettingGoOfASlider, OutsideOrCanceledOrDoneEditingSavesAsWell)
     EXPECT_THAT(pane.trace(), ElementsAre(writesFile, postsFinished));
 }
 
-TEST_F(LettingGoOfASlider, RestoresBothCaptionsForABand)
+TEST_F(ReleasingASlider, RestoresBothCaptionsForABand)
 {
     const Pane pane(platform);
     pane.drag(3, 4.5f);
@@ -253,7 +253,7 @@ TEST_F(LettingGoOfASlider, RestoresBothCaptionsForABand)
     EXPECT_EQ(pane.label(0).text(), "Pre");
 }
 
-TEST_F(LettingGoOfASlider, RestoresOnlyItsOwnCaptionForThePreamp)
+TEST_F(ReleasingASlider, RestoresOnlyItsOwnCaptionForThePreamp)
 {
     const Pane pane(platform);
     pane.touch(3);
@@ -263,7 +263,7 @@ TEST_F(LettingGoOfASlider, RestoresOnlyItsOwnCaptionForThePreamp)
     EXPECT_EQ(pane.label(3).text(), "0.0");
 }
 
-TEST_F(LettingGoOfASlider, KeepsTheSelectedPresetForThePreampAndDropsItForABand)
+TEST_F(ReleasingASlider, KeepsTheSelectedPresetForThePreampAndDropsItForABand)
 {
     store({ { "SELECTED_PRESET", "Rock" }, { "ENABLED", false } });
     const Pane pane(platform);
@@ -274,7 +274,7 @@ TEST_F(LettingGoOfASlider, KeepsTheSelectedPresetForThePreampAndDropsItForABand)
     EXPECT_EQ(*storedPreferences().find("ENABLED"), PropertyList(false));
 }
 
-TEST_F(LettingGoOfASlider, StoresNoGainsInAFileThatHasNone)
+TEST_F(ReleasingASlider, StoresNoGainsInAFileThatHasNone)
 {
     store({ { "ENABLED", true } });
     const Pane pane(platform);
@@ -284,7 +284,7 @@ TEST_F(LettingGoOfASlider, StoresNoGainsInAFileThatHasNone)
     EXPECT_EQ(floatForKey(storedPreferences(), "PREAMP"), -4.5f);
 }
 
-TEST_F(LettingGoOfASlider, StoresRealNumbers)
+TEST_F(ReleasingASlider, StoresRealNumbers)
 {
     store(preferencesWith({ 0, 0, 0, 0, 0, 0, 0, 0, 0, 0 }));
     const Pane pane(platform);
@@ -296,7 +296,7 @@ TEST_F(LettingGoOfASlider, StoresRealNumbers)
     EXPECT_TRUE(stored.find("PREAMP")->asReal());
 }
 
-TEST_F(LettingGoOfASlider, NeverLengthensTheStoredGains)
+TEST_F(ReleasingASlider, NeverLengthensTheStoredGains)
 {
     store(preferencesWith({ 0, 0, 0, 0 }));
     const Pane pane(platform);
@@ -310,7 +310,7 @@ TEST_F(LettingGoOfASlider, NeverLengthensTheStoredGains)
     EXPECT_THAT(floatsIn(storedPreferences(), "PEAKING_EQ_VALUES"), ElementsAre());
 }
 
-TEST_F(LettingGoOfASlider, LeavesSurplusStoredGainsAsTheyAre)
+TEST_F(ReleasingASlider, LeavesSurplusStoredGainsAsTheyAre)
 {
     store(preferencesWith({ 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9 }));
     const Pane pane(platform);
@@ -321,7 +321,7 @@ TEST_F(LettingGoOfASlider, LeavesSurplusStoredGainsAsTheyAre)
         floatsIn(storedPreferences(), "PEAKING_EQ_VALUES"), ElementsAre(1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 9, 9));
 }
 
-TEST_F(LettingGoOfASlider, KeepsGainsThatAreNoArrayAsTheyAre)
+TEST_F(ReleasingASlider, KeepsGainsThatAreNoArrayAsTheyAre)
 {
     store({ { "PEAKING_EQ_VALUES", "flat" } });
     const Pane pane(platform);
@@ -329,7 +329,7 @@ TEST_F(LettingGoOfASlider, KeepsGainsThatAreNoArrayAsTheyAre)
     EXPECT_EQ(*storedPreferences().find("PEAKING_EQ_VALUES"), PropertyList("flat"));
 }
 
-TEST_F(LettingGoOfASlider, DoesNotDependOnTheMediaServer)
+TEST_F(ReleasingASlider, DoesNotDependOnTheMediaServer)
 {
     const Pane pane(platform);
     platform.stopMediaServer();

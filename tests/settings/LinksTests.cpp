@@ -147,7 +147,7 @@ TEST_F(TheIssueReport, IsDismissedWhetherSentOrCanceled)
     EXPECT_THAT(platform.takeTrace(), ElementsAre("mail Brimsound 1.5.5"));
 }
 
-TEST_F(ACommand, GivesAllItsOutputWhateverItsStatus)
+TEST_F(ACommand, ReturnsAllItsOutputWhateverItsStatus)
 {
     platform.carryOutCommands();
     EXPECT_EQ(output("printf 'one\\ntwo'; exit 3"), "one\ntwo");
@@ -155,7 +155,7 @@ TEST_F(ACommand, GivesAllItsOutputWhateverItsStatus)
     EXPECT_EQ(output("no-such-command-anywhere 2>/dev/null"), "");
 }
 
-TEST_F(ACommand, GivesLinesLongerThanItsBufferWhole)
+TEST_F(ACommand, ReturnsLinesLongerThanItsBuffer)
 {
     platform.carryOutCommands();
     for (const std::size_t length : { 1022u, 1023u, 1024u, 2046u, 5000u }) {
@@ -164,7 +164,7 @@ TEST_F(ACommand, GivesLinesLongerThanItsBufferWhole)
     }
 }
 
-TEST_F(ACommand, GivesMegabytes)
+TEST_F(ACommand, ReturnsMegabytes)
 {
     platform.carryOutCommands();
     EXPECT_EQ(output("yes brimsound | head -c 4000000").size(), 4000000u);

@@ -852,7 +852,7 @@ TEST_F(SavingAPreset, UnderANameThatIsThereReplacesItInItsPlace)
     EXPECT_THAT(storedGains("Rock"), ElementsAre(7, 0, 0, 0, 0, 0, 0, 0, 0, 0));
 }
 
-TEST_F(SavingAPreset, TakesAnyNameAsItWasTyped)
+TEST_F(SavingAPreset, AcceptsAnyNameAsItWasTyped)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);
@@ -913,7 +913,7 @@ TEST_F(SavingAPreset, IsAnnouncedEvenIfTheFileCannotBeWritten)
 
 class DeletingAPreset : public ThePresetList { };
 
-TEST_F(DeletingAPreset, TakesItOutOfTheFileAndTheList)
+TEST_F(DeletingAPreset, RemovesItFromTheFileAndTheList)
 {
     storePresets(twoPresets());
     const PresetPane pane(platform);

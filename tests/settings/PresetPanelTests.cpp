@@ -396,7 +396,7 @@ protected:
     }
 };
 
-TEST_F(TheCancelBar, TurnsWhiteUnderAFingerAndClosesThePanelWhenItIsLetGo)
+TEST_F(TheCancelBar, TurnsWhiteUnderAFingerAndClosesThePanelOnRelease)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -409,7 +409,7 @@ TEST_F(TheCancelBar, TurnsWhiteUnderAFingerAndClosesThePanelWhenItIsLetGo)
     EXPECT_EQ(pane.root().alpha(), 0);
 }
 
-TEST_F(TheCancelBar, LetGoOutsideKeepsThePanel)
+TEST_F(TheCancelBar, ReleasedOutsideKeepsThePanel)
 {
     const PresetPane pane(platform);
     pane.showPresets();
@@ -510,7 +510,7 @@ TEST_F(NameEntry, EndsWithTheCancelBarAndSavesNothing)
     EXPECT_EQ(platform.preferencesFile(), "");
 }
 
-TEST_F(NameEntry, LosesTheKeyboardWhenTheCancelBarIsLetGoOutside)
+TEST_F(NameEntry, LosesTheKeyboardWhenTheCancelBarIsReleasedOutside)
 {
     const PresetPane pane(platform);
     pane.showPresets();

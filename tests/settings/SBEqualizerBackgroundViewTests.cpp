@@ -126,7 +126,7 @@ TEST(ABar, IsAsWideAsATenthOfTheView)
     }
 }
 
-TEST(ABar, AddsTwelveInSinglePrecisionAndGoesOnInDouble)
+TEST(ABar, AddsTwelveInSinglePrecisionAndContinuesInDouble)
 {
     // In double precision the sum would not be rounded.
     const auto gains = all(0.1f);

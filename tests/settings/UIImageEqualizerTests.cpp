@@ -58,7 +58,7 @@ TEST(TheHashOfAnImage, DependsOnEveryByteOfTheUpperHalfAndOnNoOther)
     }
 }
 
-TEST(TheHashOfAnImage, TakesOnePixelAPoint)
+TEST(TheHashOfAnImage, UsesOnePixelPerPoint)
 {
     // Every point is a square of four equal pixels, so their mean is the same.
     const auto points = pattern(6, 4);
@@ -89,7 +89,7 @@ TEST(TheHashOfAnImage, LeavesTheImageAsItIs)
     EXPECT_EQ(md5Hash(*image), hash);
 }
 
-TEST(ScalingAnImage, GivesTheSizeInPointsAtTheScreensScale)
+TEST(ScalingAnImage, ReturnsTheSizeInPointsAtTheScreensScale)
 {
     const auto scaled = scaleToSize(*imageOf(6, 4, pattern(6, 4)), { 9, 20 });
     ASSERT_TRUE(scaled);
@@ -164,7 +164,7 @@ TEST(TheNegativeOfAnImage, IsUprightAndOfEveryPixel)
     EXPECT_EQ(bytesOf(*result), inverted);
 }
 
-TEST(TheNegativeOfAnImage, HasOnePixelAPoint)
+TEST(TheNegativeOfAnImage, HasOnePixelPerPoint)
 {
     const auto image = imageAtScale(2, 12, 8, pattern(12, 8));
     ASSERT_EQ(image->size(), (CGSize { 6, 4 }));
@@ -272,7 +272,7 @@ TEST(FillingAnImage, KeepsItUprightAndLeavesTheImageAsItIs)
     EXPECT_EQ(bytesOf(*image), upper);
 }
 
-TEST(FillingAnImage, HasOnePixelAPointWhateverTheScreensScale)
+TEST(FillingAnImage, HasOnePixelPerPointWhateverTheScreensScale)
 {
     const auto filled = fillWithColor(*imageAtScale(2, 12, 8, pattern(12, 8)), *UIColor::whiteColor());
     EXPECT_EQ(filled->scale(), 1);
@@ -316,7 +316,7 @@ TEST(DarkeningAnImage, LeavesWhiteAsItIsAndBlackensWithBlack)
     }));
 }
 
-TEST(DarkeningAnImage, GivesScaleOneAndTheSameSizeUpright)
+TEST(DarkeningAnImage, ReturnsScaleOneAndTheSameSizeUpright)
 {
     const auto image = imageAtScale(2, 12, 8, pixels(12, 8, [](auto, std::size_t y) {
         return y < 4 ? Bytes { 200, 10, 90, 255 } : Bytes { 0, 0, 0, 0 };
@@ -328,7 +328,7 @@ TEST(DarkeningAnImage, GivesScaleOneAndTheSameSizeUpright)
     EXPECT_THAT(pixelOf(*dark, 5, 3), ElementsAre(0, 0, 0, 0));
 }
 
-TEST(TintingAnImage, TakesAnyModeByItsNumber)
+TEST(TintingAnImage, AcceptsAnyModeByItsNumber)
 {
     const auto image = imageOf(1, 1, { 200, 100, 0, 255 });
     const auto tinted = [&](int mode) {

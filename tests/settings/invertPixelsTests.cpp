@@ -80,7 +80,7 @@ TEST(InvertingPixels, FollowsTheFormulaWhereSomeHaveMoreColorThanAlpha)
     expectFormulaForMany(5000, 1400);
 }
 
-TEST(InvertingPixels, TakesTheBytesInTheOrderOfMemory)
+TEST(InvertingPixels, UsesTheBytesInTheOrderOfMemory)
 {
     auto pixels
         = std::vector { std::bit_cast<std::uint32_t>(std::array<std::uint8_t, 4> { 200, 100, 0, 255 }) };

@@ -183,7 +183,7 @@ TEST(SlidersBeyondTheirEnds, AreClampedToTheirEnds)
     }
 }
 
-TEST(ASliderThatIsNoNumber, CountsAsZero)
+TEST(ASliderThatIsNaN, CountsAsZero)
 {
     const auto nan = std::numeric_limits<double>::quiet_NaN();
     const auto targets = EqualizerDesign(48000).solve(all(nan), nan);

@@ -35,7 +35,7 @@ TEST(AHandover, HasNothingToReadBeforeTheFirstWrite)
     EXPECT_EQ(buffer.read(), nullptr);
 }
 
-TEST(AHandover, GivesEachValueOnce)
+TEST(AHandover, ReturnsEachValueOnce)
 {
     TripleBuffer<int> buffer;
     buffer.write(7);
@@ -46,7 +46,7 @@ TEST(AHandover, GivesEachValueOnce)
     EXPECT_EQ(*value, 7);
 }
 
-TEST(AHandover, GivesTheNewestOfSeveral)
+TEST(AHandover, ReturnsTheNewestOfSeveral)
 {
     TripleBuffer<int> buffer;
     for (int value = 1; value <= 5; ++value)

@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-TEST_F(AGraph, KnowsTheDeviceThatANodeIsLinkedTo)
+TEST_F(AGraph, FindsTheDeviceThatANodeIsLinkedTo)
 {
     sink(50, "hw1");
     sink(60, "hw2");
@@ -44,7 +44,7 @@ TEST_F(AGraph, KnowsTheDeviceThatANodeIsLinkedTo)
     EXPECT_FALSE(graph.deviceOf(41));
 }
 
-TEST_F(AGraph, KnowsNoDeviceThatHasGoneBeforeItsLinks)
+TEST_F(AGraph, IgnoresADeviceThatWasRemovedBeforeItsLinks)
 {
     sink(60, "hw2");
     graph.linkAdded(90, { { "link.output.node", "41" }, { "link.input.node", "60" } });
@@ -52,7 +52,7 @@ TEST_F(AGraph, KnowsNoDeviceThatHasGoneBeforeItsLinks)
     EXPECT_FALSE(graph.deviceOf(41));
 }
 
-TEST_F(AGraph, TellsADevicesChannelsInTheirOrder)
+TEST_F(AGraph, ReturnsADevicesChannelsInOrder)
 {
     sink(50, "hw1");
     port(71, 50, "1", "FR");

@@ -280,7 +280,7 @@ TEST_F(Routing, ForgetsTheDefaultWithTheSessionManager)
     EXPECT_THAT(routing.takeWrites(), IsEmpty());
 }
 
-TEST_F(Routing, LetsTheSessionManagerChooseWhenItKnowsNoDevice)
+TEST_F(Routing, LetsTheSessionManagerChooseWithoutAKnownDevice)
 {
     StreamRouting fresh;
     fresh.setOwnNodes(StreamRouting::OwnNodes { sink, "1040", output });

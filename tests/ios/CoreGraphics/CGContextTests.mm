@@ -76,7 +76,7 @@ TEST_F(AContext, DrawsAPictureWithItsTopRowAtTheTop)
     EXPECT_THAT(pixel(0, 1), ElementsAre(255, 0, 0, 255));
 }
 
-TEST_F(AContext, GivesPicturesThatDoNotChangeWithIt)
+TEST_F(AContext, ReturnsPicturesThatDoNotChangeWithIt)
 {
     const CGImageRef picture = CGBitmapContextCreateImage(context);
     CGContextFillRect(context, CGRectMake(0, 0, 2, 2));

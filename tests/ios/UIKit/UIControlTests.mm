@@ -166,7 +166,7 @@ TEST_F(ATextField, TakesTheKeyboardFromAnotherOne)
     EXPECT_THAT(calls, ElementsAre("ended"));
 }
 
-TEST_F(ATextField, GivesTheKeyboardUpWhenItLeavesTheWindow)
+TEST_F(ATextField, GivesUpTheKeyboardWhenItLeavesTheWindow)
 {
     [field becomeFirstResponder];
     UIView* holder = [[[UIView alloc] init] autorelease];
@@ -180,7 +180,7 @@ TEST_F(ATextField, GivesTheKeyboardUpWhenItLeavesTheWindow)
     EXPECT_FALSE([field isFirstResponder]);
 }
 
-TEST_F(ATextField, GivesTheKeyboardUpWhenItsSuperviewGoes)
+TEST_F(ATextField, GivesUpTheKeyboardWhenItsSuperviewIsRemoved)
 {
     UIView* holder = [[UIView alloc] init];
     [window addSubview:holder];

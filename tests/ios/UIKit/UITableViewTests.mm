@@ -125,7 +125,7 @@ protected:
                                                       style:UITableViewStylePlain];
 };
 
-TEST_F(ATable, HasCellsForTheRowsOnViewOnly)
+TEST_F(ATable, HasCellsOnlyForTheRowsInView)
 {
     EXPECT_EQ([[table subviews] count], 4u);
     EXPECT_EQ([cell(0, 0) frame], CGRectMake(0, 0, 320, 100));

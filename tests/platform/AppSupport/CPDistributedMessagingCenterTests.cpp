@@ -86,7 +86,7 @@ TEST_F(AMessagingCenter, ReportsTheReasonWhenThereIsNoServer)
     EXPECT_EQ(effects.messages().at(0).userInfo, (PropertyList::Dictionary { { "answer", 1 } }));
 }
 
-TEST_F(AMessagingCenter, GivesTheServersErrorInOneLine)
+TEST_F(AMessagingCenter, ReturnsTheServersErrorInOneLine)
 {
     const Server server([](sd_bus_message* message) {
         return sd_bus_reply_method_errorf(message, "test.Error.Refused", "not\nnow");

@@ -42,7 +42,7 @@ struct Reduction {
     std::size_t newHeight;
 };
 
-TEST(DrawingAnImageSmaller, TakesTheMeanOfTheAreaOfEachPixel)
+TEST(DrawingAnImageSmaller, AveragesTheAreaOfEachPixel)
 {
     for (const auto& [width, height, newWidth, newHeight] :
         { Reduction { 12, 8, 6, 4 }, Reduction { 13, 11, 6, 4 }, Reduction { 13, 11, 12, 11 },

@@ -11,7 +11,7 @@ using desktop::resolveDevicePath;
 using tests::TemporaryRoot;
 namespace fs = std::filesystem;
 
-TEST(ADevicePath, LiesUnderTheDeviceRoot)
+TEST(ADevicePath, IsUnderTheDeviceRoot)
 {
     const TemporaryRoot root;
     EXPECT_EQ(resolveDevicePath("/var/mobile/file.plist"), root.path() / "var/mobile/file.plist");
@@ -28,7 +28,7 @@ TEST(ADevicePath, DoesNotLeadOutOfTheDeviceRoot)
         root.path() / "Library/etc");
 }
 
-TEST(ADevicePath, InTheInstalledBundleLeadsToTheResourcesBesideTheProgram)
+TEST(ADevicePath, InTheInstalledBundleRefersToTheProgramsResources)
 {
     const auto resources = fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "share/brimsound";
     const auto bundle = NSBundle::bundleForClass("BrimsoundSettingsListController").bundlePath();

@@ -39,7 +39,7 @@ private:
 
 } // namespace
 
-TEST_F(ABundle, GivesTheDevicePathOfAResource)
+TEST_F(ABundle, ReturnsTheDevicePathOfAResource)
 {
     root.write("/Test.bundle/Pane.plist", "");
     root.write("/Test.bundle/README", "");
@@ -48,7 +48,7 @@ TEST_F(ABundle, GivesTheDevicePathOfAResource)
     EXPECT_EQ(bundle.pathForResource("Pane", "png"), std::nullopt);
 }
 
-TEST_F(ABundle, GivesTheResourceOfTheMostPreferredLanguageThatHasIt)
+TEST_F(ABundle, ReturnsTheResourceOfTheMostPreferredLanguageThatHasIt)
 {
     root.write("/Test.bundle/en.lproj/Texts.strings", save("Save"));
     root.write("/Test.bundle/fr.lproj/Texts.strings", save("Enregistrer"));
@@ -70,7 +70,7 @@ TEST_F(ABundle, FallsBackToEnglishAndThenToItsOwnFolder)
     EXPECT_EQ(saveText(), "Save");
 }
 
-TEST_F(ABundle, GivesTheDefaultTextForWhatIsMissing)
+TEST_F(ABundle, ReturnsTheDefaultForAMissingText)
 {
     EXPECT_EQ(saveText(), "Save as");
     root.write("/Test.bundle/Texts.strings", strings("<key>CANCEL</key><string>Cancel</string>"));

@@ -31,7 +31,7 @@ TEST(ReadingAFile, ReturnsItsBytesUnchanged)
     EXPECT_EQ(dataWithContentsOfFile("/var/empty.plist"), NSData {});
 }
 
-TEST(ReadingAFile, ReturnsNothingForWhatIsNone)
+TEST(ReadingAFile, ReturnsNothingWhenItIsNotARegularFile)
 {
     const tests::TemporaryRoot root;
     ASSERT_EQ(mkfifo((root.path() / "pipe").c_str(), 0600), 0);

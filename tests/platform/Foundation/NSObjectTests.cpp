@@ -70,7 +70,7 @@ TEST(AnObject, RespondsToTheSelectorsOfItsTableOnly)
     EXPECT_EQ(object->methodForSelector("leave"), nullptr);
 }
 
-TEST(CallingAMethodByName, HandsOverItsArgumentsAndGivesItsResult)
+TEST(CallingAMethodByName, PassesItsArgumentsAndReturnsItsResult)
 {
     bool destroyed = false;
     const auto object = make<Greeter>(destroyed);
@@ -101,7 +101,7 @@ TEST(CallingAMethodByName, DoesNothingWhenAnArgumentIsMissingOrOfTheOtherKind)
     EXPECT_EQ(object->greeting(), PropertyList(""));
 }
 
-TEST(CallingAMethodByName, HandsOverNilAsANullPropertyList)
+TEST(CallingAMethodByName, PassesNilAsANullPropertyList)
 {
     bool destroyed = false;
     const auto object = make<Greeter>(destroyed);
@@ -111,7 +111,7 @@ TEST(CallingAMethodByName, HandsOverNilAsANullPropertyList)
     EXPECT_EQ(object->greeting(), PropertyList("nobodynobody"));
 }
 
-TEST(CallingAMethodByName, HandsOverTheStringThatAPropertyListIs)
+TEST(CallingAMethodByName, PassesTheStringInAPropertyList)
 {
     bool destroyed = false;
     const auto object = make<Greeter>(destroyed);

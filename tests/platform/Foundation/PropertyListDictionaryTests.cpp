@@ -56,14 +56,14 @@ TEST(ADictionary, EqualsOneWithTheSameEntriesInAnotherOrder)
     EXPECT_FALSE(dictionary == (PropertyList::Dictionary { { "a", 1 } }));
 }
 
-TEST(ADictionary, GivesAFloatForAKeyAndZeroWithoutOne)
+TEST(ADictionary, ReturnsAFloatForAKeyAndZeroWithoutOne)
 {
     const PropertyList::Dictionary dictionary { { "PREAMP", "3.5" } };
     EXPECT_EQ(floatForKey(dictionary, "PREAMP"), 3.5f);
     EXPECT_EQ(floatForKey(dictionary, "TREBLE"), 0);
 }
 
-TEST(ADictionary, GivesAnArrayADictionaryOrAStringForAKeyThatHoldsOne)
+TEST(ADictionary, ReturnsAnArrayADictionaryOrAStringForAKeyThatHasOne)
 {
     PropertyList::Dictionary dictionary { { "array", PropertyList::Array { 1 } },
         { "dictionary", PropertyList::Dictionary { { "a", 1 } } }, { "string", "text" } };

@@ -127,7 +127,7 @@ TEST_F(ReadingAPropertyListFile, KeepsTheOrderAndTypesOfXML)
     EXPECT_EQ(dictionary.begin()[2].key, "m");
 }
 
-TEST_F(ReadingAPropertyListFile, GivesATopLevelOfAnyType)
+TEST_F(ReadingAPropertyListFile, AcceptsATopLevelOfAnyType)
 {
     EXPECT_EQ(reading("<plist><string>text</string></plist>"), PropertyList("text"));
     EXPECT_EQ(reading("<plist><array/></plist>"), PropertyList(PropertyList::Array {}));
@@ -225,7 +225,7 @@ TEST_F(ReadingAPropertyListFile, ReturnsNothingForAnArrayThatContainsItself)
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 1 }), arrayOf({ 0 }) })), std::nullopt);
 }
 
-TEST_F(ReadingAPropertyListFile, TakesSharedObjects)
+TEST_F(ReadingAPropertyListFile, AcceptsSharedObjects)
 {
     const PropertyList two = PropertyList::Array { true, true };
     EXPECT_EQ(reading(binaryFile({ arrayOf({ 1, 1 }), arrayOf({ 2, 2 }), "\x09" })),

@@ -90,7 +90,7 @@ TEST(MarkupOfAUid, IsADictionaryOfOneKey)
         PropertyList(PropertyList::Dictionary { { "CF$UID", -1 } }));
 }
 
-TEST(Markup, ThatIsNoPropertyListIsNone)
+TEST(Markup, ThatIsNotAPropertyListIsRejected)
 {
     for (const auto* none : { "", "<true/><true/>", "text", "<true>text", "<dict><true/></dict>",
              "<dict><key>a</key></dict>", "<dict><key>a</key><key>b</key><true/></dict>", "<key>a</key>",

@@ -258,7 +258,7 @@ TEST_F(ASwitchRow, IsReadAndWrittenByTheControllerWhenItNamesNoSelectors)
     EXPECT_THAT(pane->calls, ElementsAre("read a", "store a off"));
 }
 
-TEST_F(ASwitchRow, IsNotSelectedByATapBesideTheSwitch)
+TEST_F(ASwitchRow, IsNotSelectedByATapNextToTheSwitch)
 {
     show({ toggle("a", { { "action", "open:" } }) });
     pane->calls.clear();

@@ -43,7 +43,7 @@ private:
 
 } // namespace
 
-TEST(RunningAShellCommand, WaitsForItAndGivesItsStatus)
+TEST(RunningAShellCommand, WaitsForItAndReturnsItsStatus)
 {
     const tests::TemporaryRoot root;
     tests::OutsideEffects effects(Reach::Everything);
@@ -53,7 +53,7 @@ TEST(RunningAShellCommand, WaitsForItAndGivesItsStatus)
     EXPECT_THAT(effects.trace(), ElementsAre("shell " + command));
 }
 
-TEST(ReadingFromAShellCommand, GivesItsOutputAndItsStatus)
+TEST(ReadingFromAShellCommand, ReturnsItsOutputAndItsStatus)
 {
     tests::OutsideEffects effects(Reach::Everything);
     auto* stream = brimsound::popen("printf 'one\\0two'; exit 3", "r");

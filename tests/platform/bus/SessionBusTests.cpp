@@ -65,7 +65,7 @@ TEST_F(ASessionBus, HasOneConnectionToSendAndOneToReceive)
     EXPECT_THAT(bus.descriptors(), Each(Ge(0)));
 }
 
-TEST_F(ASessionBus, KnowsWhetherANameIsOwned)
+TEST_F(ASessionBus, FindsOutWhetherANameIsOwned)
 {
     TestBus testBus;
     EXPECT_FALSE(bus.hasOwner("test.Name"));

@@ -89,7 +89,7 @@ TEST(AChildProcess, EndsWhenItsParentCrashes)
     kill(process, SIGKILL);
 }
 
-TEST(AChildProcess, GivesItsOutputLineByLine)
+TEST(AChildProcess, ReturnsItsOutputLineByLine)
 {
     ChildProcess child({ "printf", "one\ntwo\nhalf" }, ChildProcess::Output::Piped);
     EXPECT_EQ(child.readLine(10s), "one");

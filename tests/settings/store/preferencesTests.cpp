@@ -89,7 +89,7 @@ TEST_F(ReadingThePreferences, KeepsValuesOfUnexpectedTypesAsTheyAre)
     EXPECT_EQ(get_preferences(), odd);
 }
 
-TEST_F(ReadingThePreferences, GivesContainersThatCanBeChanged)
+TEST_F(ReadingThePreferences, ReturnsContainersThatCanBeChanged)
 {
     platform.writePreferencesFile(
         PropertyList::Dictionary { { "PEAKING_EQ_VALUES", PropertyList::Array { 1, 2 } } });
