@@ -1,0 +1,152 @@
+// Tables under test and what fills them.
+#pragma once
+
+#include "toolkit/table/Table.h"
+#include "toolkit/window/Window.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace brimsound::toolkit {
+
+inline void PrintTo(const RowPath& path, std::ostream* out)
+{
+    *out << "row " << path.row << " of section " << path.section;
+}
+
+} // namespace brimsound::toolkit
+
+namespace brimsound::tests {
+
+/// Rows of 44 points in sections. Writes down what a table asks for and tells.
+class Rows : public toolkit::TableSource {
+public:
+    explicit Rows(std::vector<std::size_t> rowsInSections)
+        : counts(std::move(rowsInSections))
+    {
+    }
+
+    std::size_t sectionCount() override { return counts.size(); }
+    std::size_t rowCount(std::size_t section) override { return counts[section]; }
+    double rowHeight(toolkit::RowPath) override { return 44; }
+    std::string header(std::size_t section) override
+    {
+        return section < headers.size() ? headers[section] : std::string();
+    }
+    std::string footer(std::size_t section) override
+    {
+        return section < footers.size() ? footers[section] : std::string();
+    }
+    toolkit::Ref<toolkit::Cell> cell(toolkit::RowPath row) override
+    {
+        ++cellsAskedFor;
+        auto cell = table->takeReusableCell(identifier(row));
+        if (!cell) {
+            cell = toolkit::make<toolkit::Cell>(cellStyle, identifier(row));
+            initialSizes.push_back(cell->bounds().size);
+            if (onCellMade)
+                onCellMade(*cell, row);
+        }
+        return cell;
+    }
+    void willShow(toolkit::Cell& cell, toolkit::RowPath row) override
+    {
+        if (onWillShow)
+            onWillShow(cell, row);
+    }
+    void selected(toolkit::RowPath row) override { selectedRows.push_back(row); }
+    bool canDelete(toolkit::RowPath row) override { return isDeletable && isDeletable(row); }
+    void deleteRow(toolkit::RowPath row) override
+    {
+        deletedRows.push_back(row);
+        if (!removesDeleted)
+            return;
+        --counts[row.section];
+        table->removeRows({ row });
+    }
+
+    /// The table that shows the rows; set by whoever shows them.
+    toolkit::Table* table = nullptr;
+
+    std::vector<std::size_t> counts;
+    std::vector<std::string> headers;
+    std::vector<std::string> footers;
+    std::function<std::string(toolkit::RowPath)> identifier = [](toolkit::RowPath) { return "row"; };
+    toolkit::Cell::Style cellStyle = toolkit::Cell::Style::OneText;
+    std::function<void(toolkit::Cell&, toolkit::RowPath)> onCellMade;
+    std::function<void(toolkit::Cell&, toolkit::RowPath)> onWillShow;
+    std::function<bool(toolkit::RowPath)> isDeletable;
+    /// Whether rows that are deleted leave the table.
+    bool removesDeleted = true;
+
+    std::size_t cellsAskedFor = 0;
+    /// The sizes of the cells that were made, as they were when they were made.
+    std::vector<toolkit::Size> initialSizes;
+    std::vector<toolkit::RowPath> selectedRows;
+    std::vector<toolkit::RowPath> deletedRows;
+};
+
+/// A table that fills a window, laid out.
+class TableInWindow {
+public:
+    TableInWindow(Rows& rows, toolkit::Size size, toolkit::Table::Style style = toolkit::Table::Style::List)
+        : window(toolkit::make<toolkit::Window>(size))
+        , table(toolkit::make<toolkit::Table>(toolkit::Rect { {}, size }, style))
+    {
+        rows.table = table.get();
+        table->setSource(&rows);
+        window->add(*table);
+        window->layOutAll();
+    }
+    TableInWindow(const TableInWindow&) = delete;
+    TableInWindow& operator=(const TableInWindow&) = delete;
+    ~TableInWindow()
+    {
+        window->onInvalidate = nullptr;
+        table->setSource(nullptr);
+    }
+
+    double offset() const { return table->origin().y; }
+    /// The cell of a row in the first section; null when it is not on view.
+    toolkit::Cell* cell(std::size_t row) const { return table->cellOf({ 0, row }); }
+    /// Of all rows on view, from the back to the front.
+    std::vector<toolkit::Cell*> cells() const
+    {
+        std::vector<toolkit::Cell*> cells;
+        for (const auto& child : table->children()) {
+            if (auto* cell = dynamic_cast<toolkit::Cell*>(child.get()))
+                cells.push_back(cell);
+        }
+        return cells;
+    }
+
+    void scrollTo(double newOffset) const
+    {
+        table->scrollTo(newOffset);
+        window->layOutAll();
+    }
+    void reload() const
+    {
+        table->reload();
+        window->layOutAll();
+    }
+    void resize(toolkit::Size size) const
+    {
+        table->setFrame({ {}, size });
+        window->layOutAll();
+    }
+    /// Down and up at once.
+    void tap(toolkit::Point at, toolkit::Pointer pointer = toolkit::Pointer::Finger) const
+    {
+        window->touchDown({ at, pointer });
+        window->touchUp(at);
+    }
+
+    const toolkit::Ref<toolkit::Window> window;
+    const toolkit::Ref<toolkit::Table> table;
+};
+
+} // namespace brimsound::tests

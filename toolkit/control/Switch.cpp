@@ -1,0 +1,103 @@
+#include "toolkit/control/Switch.h"
+
+#include "toolkit/drawing/Knob.h"
+#include "toolkit/drawing/Theme.h"
+
+#include <cmath>
+#include <utility>
+
+namespace brimsound::toolkit {
+
+namespace {
+
+constexpr Size switchSize { 51, 31 };
+constexpr double knobMargin = 2;
+constexpr double slideTime = 0.2;
+/// Between the switch and the ring around it.
+constexpr double focusRingGap = 3;
+/// How far a finger must move sideways, in points, to draw the knob along.
+constexpr double drawDistance = 10;
+
+} // namespace
+
+Switch::Switch()
+    : Control({ {}, switchSize })
+{
+}
+
+void Switch::setOn(bool on, bool animated)
+{
+    if (std::exchange(_on, on) != on)
+        accessibleChanged(AccessibleChange::StateChanged);
+    const double end = on ? 1 : 0;
+    _slide.cancel();
+    if (_knob == end)
+        return;
+    if (!animated) {
+        _knob = end;
+        setNeedsDisplay();
+        return;
+    }
+    _slide.start(slideTime, easeOut, [this, start = _knob, end](double progress) {
+        _knob = start + (end - start) * progress;
+        setNeedsDisplay();
+    });
+}
+
+void Switch::trackingBegan(Point point, Pointer)
+{
+    _drawnFrom = point.x;
+    _wasDrawn = false;
+}
+
+void Switch::trackingMoved(Point point)
+{
+    if (std::abs(point.x - _drawnFrom) < drawDistance)
+        return;
+    _wasDrawn = true;
+    const bool wanted = point.x > _drawnFrom;
+    _drawnFrom = point.x;
+    if (wanted != _on)
+        flip();
+}
+
+void Switch::pressed()
+{
+    if (!std::exchange(_wasDrawn, false))
+        flip();
+}
+
+void Switch::flip()
+{
+    setOn(!_on, true);
+    send(ControlEvent::ValueChanged);
+}
+
+double Switch::overhang() const
+{
+    return knobShadowReach;
+}
+
+FocusRing Switch::focusRing() const
+{
+    const auto ring = inset(bounds(), -focusRingGap, -focusRingGap);
+    return { ring, ring.size.height / 2 };
+}
+
+Accessible Switch::accessible() const
+{
+    auto self = Control::accessible();
+    self.checked = _on;
+    return self;
+}
+
+void Switch::draw(Canvas& canvas) const
+{
+    const auto area = bounds();
+    canvas.fillRoundedRect(area, area.size.height / 2, between(theme::switchOff, theme::switchOn, _knob));
+    const double size = area.size.height - 2 * knobMargin;
+    const double way = area.size.width - size - 2 * knobMargin;
+    drawKnob(canvas, makeRect(area.left() + knobMargin + way * _knob, area.top() + knobMargin, size, size));
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,22 @@
+#include "toolkit/object/Object.h"
+
+#include <utility>
+
+namespace brimsound::toolkit {
+
+void Object::release() const
+{
+    if (--_retainCount != 0)
+        return;
+    if (auto* counterpart = std::exchange(_counterpart, nullptr))
+        _destroy(counterpart);
+    delete this;
+}
+
+void Object::setCounterpart(void* counterpart, void (*destroy)(void*))
+{
+    _counterpart = counterpart;
+    _destroy = destroy;
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,31 @@
+#include "toolkit/table/DeleteButton.h"
+
+#include "toolkit/drawing/Theme.h"
+#include "toolkit/table/Table.h"
+
+namespace brimsound::toolkit {
+
+DeleteButton::DeleteButton()
+    : TitledButton("Delete", { {}, theme::textSize }, nullptr)
+{
+    setClips(true);
+}
+
+void DeleteButton::pressed()
+{
+    // The table may be gone, and the swipe over, by the time that the button is released.
+    auto* table = dynamic_cast<Table*>(parent());
+    if (table && table->swipe().button() == this)
+        table->deleteRow(table->swipe().row());
+}
+
+void DeleteButton::draw(Canvas& canvas) const
+{
+    const auto size = shownFrame().size;
+    canvas.fillRect({ {}, size }, looksPressed() ? theme::destructivePressed : theme::destructive);
+    // The title moves with the edge of the row that uncovers it.
+    canvas.drawLine(
+        title(), makeRect(0, 0, width, size.height), font(), theme::rowBackground, Alignment::Center);
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,50 @@
+// Lines of text.
+#pragma once
+
+#include "toolkit/view/View.h"
+
+#include <optional>
+#include <string>
+
+namespace brimsound::toolkit {
+
+class Label : public View {
+public:
+    using View::View;
+
+    const std::string& text() const { return _text; }
+    void setText(std::string);
+    /// Nothing shows without a font.
+    const std::optional<Font>& font() const { return _font; }
+    void setFont(std::optional<Font>);
+    Color color() const { return _color; }
+    void setColor(Color);
+    /// What the text has while it is highlighted; nothing for the same.
+    std::optional<Color> highlightedColor() const { return _highlightedColor; }
+    void setHighlightedColor(std::optional<Color>);
+    bool isHighlighted() const { return _highlighted; }
+    void setHighlighted(bool);
+    Alignment alignment() const { return _alignment; }
+    void setAlignment(Alignment);
+
+    /// Told when the text or the font changed, which changes the room that it takes.
+    std::function<void()> onChange;
+
+    void draw(Canvas&) const override;
+    Role role() const override { return isRead() && !_text.empty() ? Role::Label : Role::None; }
+    Accessible accessible() const override { return { .role = role(), .name = _text }; }
+
+private:
+    Color shownColor() const { return _highlighted ? _highlightedColor.value_or(_color) : _color; }
+    template <typename Value> void setLook(Value& member, Value value);
+    void changed() const;
+
+    std::string _text;
+    std::optional<Font> _font = Font {};
+    Color _color { 0, 0, 0 };
+    std::optional<Color> _highlightedColor;
+    bool _highlighted = false;
+    Alignment _alignment = Alignment::Left;
+};
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,158 @@
+#include "toolkit/text/TextField.h"
+
+#include "toolkit/drawing/Theme.h"
+#include "toolkit/window/Window.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brimsound::toolkit {
+
+namespace {
+
+constexpr double caretWidth = 2;
+/// The caret's height for a font of size 1.
+constexpr double caretHeight = 1.2;
+const Font returnFont { theme::boldFont, 15 };
+/// Between the text and the return key's title.
+constexpr double returnGap = 8;
+constexpr double pressedAlpha = 0.3;
+
+} // namespace
+
+ReturnKey::ReturnKey(std::string title, std::function<void()> onPress)
+    : TitledButton(std::move(title), returnFont, std::move(onPress))
+{
+}
+
+double ReturnKey::width() const
+{
+    // A little wider than the title, as one that just fits may end in an ellipsis.
+    return returnGap + widthOfLine(title(), returnFont) + 1;
+}
+
+void ReturnKey::show(bool shows)
+{
+    if (std::exchange(_shows, shows) != shows)
+        setNeedsDisplay();
+}
+
+void ReturnKey::draw(Canvas& canvas) const
+{
+    if (!_shows)
+        return;
+    auto place = bounds();
+    place.origin.x += returnGap;
+    place.size.width -= returnGap;
+    const auto color = looksPressed() ? theme::tint.withAlpha(pressedAlpha) : theme::tint;
+    canvas.drawLine(title(), place, font(), color, Alignment::Right);
+}
+
+TextField::TextField(const Rect& frame)
+    : Control(frame)
+    , _returnKey(make<ReturnKey>("Return", [this] { confirm(); }))
+{
+    add(*_returnKey);
+}
+
+void TextField::setText(const std::string& text)
+{
+    if (_text == text)
+        return;
+    accessibleChanged(AccessibleChange::TextWillChange);
+    _text = text;
+    setNeedsDisplay();
+    accessibleChanged(AccessibleChange::TextChanged);
+}
+
+void TextField::setFont(std::optional<Font> font)
+{
+    if (std::exchange(_font, std::move(font)) != _font)
+        setNeedsDisplay();
+}
+
+void TextField::setColor(Color color)
+{
+    _color = color;
+    setNeedsDisplay();
+}
+
+void TextField::setReturnTitle(const std::string& title)
+{
+    _returnKey->rename(title);
+    setNeedsLayout();
+}
+
+void TextField::setEditor(Editor editor)
+{
+    if (std::exchange(_editor, editor) != editor)
+        setNeedsDisplay();
+}
+
+void TextField::pressed()
+{
+    if (auto* around = window())
+        around->focus().giveTo(*this);
+}
+
+bool TextField::keyPressed(Key key, KeyStroke stroke)
+{
+    if (key == Key::Return && stroke == KeyStroke::First)
+        confirm();
+    return true;
+}
+
+void TextField::confirm()
+{
+    const auto kept = keep(this);
+    if (onReturn)
+        onReturn();
+}
+
+Rect TextField::textArea() const
+{
+    auto area = bounds();
+    if (hasKeyboard())
+        area.size.width = std::max(0.0, area.size.width - _returnKey->width());
+    return area;
+}
+
+void TextField::layOut()
+{
+    const auto [width, height] = frame().size;
+    const double keyWidth = std::min(width, _returnKey->width());
+    _returnKey->setFrame(makeRect(width - keyWidth, 0, keyWidth, height));
+}
+
+void TextField::keyboardChanged()
+{
+    _returnKey->show(hasKeyboard());
+}
+
+void TextField::draw(Canvas& canvas) const
+{
+    if (_editor == Editor::Showing || !_font)
+        return;
+    const auto area = textArea();
+    if (!hasKeyboard()) {
+        canvas.drawLine(_text, area, *_font, _color, Alignment::Left);
+        return;
+    }
+    const double width = widthOfLine(_text, *_font);
+    const double caret = std::min(width, area.size.width - caretWidth);
+    const double height = _font->size * caretHeight;
+    canvas.save();
+    canvas.clip(area);
+    // A little wider than the text, as one that just fits may end in an ellipsis.
+    canvas.drawLine(
+        _text, makeRect(caret - width, 0, width + 1, area.size.height), *_font, _color, Alignment::Left);
+    canvas.fillRect(makeRect(caret, (area.size.height - height) / 2, caretWidth, height), theme::tint);
+    canvas.restore();
+}
+
+Accessible TextField::accessible() const
+{
+    return { .role = role(), .name = label(), .value = _text };
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,83 @@
+#include "toolkit/time/Clock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brimsound::toolkit {
+
+namespace {
+
+constexpr double frame = 1.0 / 60;
+
+} // namespace
+
+Clock& Clock::shared()
+{
+    static Clock clock;
+    return clock;
+}
+
+std::uint64_t Clock::after(double delay, std::function<void()> action)
+{
+    _actions.emplace(now() + delay, std::make_pair(++_lastNumber, std::move(action)));
+    if (onChange)
+        onChange();
+    return _lastNumber;
+}
+
+void Clock::cancel(std::uint64_t number)
+{
+    std::erase_if(_actions, [&](const auto& action) { return action.second.first == number; });
+}
+
+void Clock::onEveryFrame(std::function<bool(double)> step)
+{
+    _movements.push_back({ now(), std::move(step) });
+    if (onChange)
+        onChange();
+}
+
+std::optional<double> Clock::untilNextAction() const
+{
+    if (_actions.empty())
+        return std::nullopt;
+    return std::max(0.0, _actions.begin()->first - now());
+}
+
+void Clock::advance(double seconds)
+{
+    const double end = _now + seconds;
+    // An action on the way may set something in motion, so it is gone to the next action when nothing moves.
+    while (isAnimating() || !_actions.empty()) {
+        const double next = isAnimating() ? _now + frame : _actions.begin()->first;
+        if (next >= end)
+            break;
+        moveTo(next);
+    }
+    moveTo(end);
+}
+
+void Clock::moveTo(double time)
+{
+    while (!_actions.empty() && _actions.begin()->first <= time) {
+        auto due = _actions.extract(_actions.begin());
+        _now = std::max(_now, due.key());
+        due.mapped().second();
+    }
+    _now = std::max(_now, time);
+    step();
+}
+
+void Clock::step()
+{
+    // A step may start another movement, so the list is not walked while it is being run. A movement that
+    // was started at the real time may be ahead of a clock that is still catching up.
+    auto movements = std::exchange(_movements, {});
+    std::erase_if(movements,
+        [this](const Movement& movement) { return !movement.step(std::max(0.0, _now - movement.start)); });
+    movements.insert(movements.end(), std::make_move_iterator(_movements.begin()),
+        std::make_move_iterator(_movements.end()));
+    _movements = std::move(movements);
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,69 @@
+#include "toolkit/view/Transition.h"
+
+#include "toolkit/time/Clock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brimsound::toolkit {
+
+namespace {
+
+double changesDuration = 0;
+
+} // namespace
+
+void View::animate(double seconds, const std::function<void()>& changes, std::function<void()> completion)
+{
+    const double outer = std::exchange(changesDuration, std::max(0.0, seconds));
+    changes();
+    changesDuration = outer;
+    if (completion)
+        Clock::shared().after(seconds, std::move(completion));
+}
+
+template <typename Value>
+void Transition::change(View& view, std::optional<Movement<Value>> Transition::*property, const Value& shown)
+{
+    auto& transition = view._transition;
+    if (changesDuration <= 0) {
+        if (transition)
+            ((*transition).*property).reset();
+        return;
+    }
+    if (!transition)
+        transition = std::make_unique<Transition>(view);
+    ((*transition).*property) = Movement<Value> { shown, shown, 0, changesDuration };
+    if (!transition->_animation.isRunning())
+        transition->_animation.run([&moving = *transition](double seconds) { return moving.step(seconds); });
+}
+
+template void Transition::change(View&, std::optional<Movement<Rect>> Transition::*, const Rect&);
+template void Transition::change(View&, std::optional<Movement<double>> Transition::*, const double&);
+template void Transition::change(View&, std::optional<Movement<Color>> Transition::*, const Color&);
+
+template <typename Value>
+void Transition::step(std::optional<Movement<Value>>& movement, const Value& target, double seconds)
+{
+    if (!movement)
+        return;
+    movement->elapsed += seconds;
+    const double progress = movement->elapsed / movement->duration;
+    if (progress >= 1)
+        movement.reset();
+    else
+        movement->shown = between(movement->from, target, easeInOut(std::max(0.0, progress)));
+}
+
+bool Transition::step(double seconds)
+{
+    _view.setNeedsDisplay();
+    step(_frame, _view.frame(), seconds);
+    step(_alpha, _view.alpha(), seconds);
+    step(_background, _view.background().value_or(transparent), seconds);
+    _view.reachChanged();
+    _view.setNeedsDisplay();
+    return isMoving();
+}
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,53 @@
+// Movements of a view from how it looks to how it is.
+#pragma once
+
+#include "toolkit/drawing/Color.h"
+#include "toolkit/geometry/Geometry.h"
+#include "toolkit/time/Animation.h"
+#include "toolkit/view/View.h"
+
+#include <optional>
+
+namespace brimsound::toolkit {
+
+/// What moves about one view while changes of it are animated.
+class Transition {
+public:
+    explicit Transition(View& view)
+        : _view(view)
+    {
+    }
+
+    // The property is about to change. Within View::animate it moves from how it shows now to its new value;
+    // else it changes at once, wherever it was moving.
+    static void frame(View& view) { change(view, &Transition::_frame, view.shownFrame()); }
+    static void alpha(View& view) { change(view, &Transition::_alpha, view.shownAlpha()); }
+    static void background(View& view) { change(view, &Transition::_background, view.shownBackground()); }
+
+    bool isMoving() const { return _frame || _alpha || _background; }
+    Rect frame(const Rect& target) const { return _frame ? _frame->shown : target; }
+    double alpha(double target) const { return _alpha ? _alpha->shown : target; }
+    Color background(const Color& target) const { return _background ? _background->shown : target; }
+
+private:
+    template <typename Value> struct Movement {
+        Value from;
+        Value shown;
+        double elapsed = 0;
+        double duration = 0;
+    };
+
+    template <typename Value>
+    static void change(View&, std::optional<Movement<Value>> Transition::*, const Value& shown);
+    template <typename Value>
+    static void step(std::optional<Movement<Value>>&, const Value& target, double seconds);
+    bool step(double seconds);
+
+    View& _view;
+    std::optional<Movement<Rect>> _frame;
+    std::optional<Movement<double>> _alpha;
+    std::optional<Movement<Color>> _background;
+    Animation _animation;
+};
+
+} // namespace brimsound::toolkit

@@ -1,0 +1,45 @@
+#include "toolkit/window/Overlay.h"
+
+#include <utility>
+
+namespace brimsound::toolkit {
+
+namespace {
+
+constexpr double fadeTime = 0.2;
+/// What an overlay appears with: enough to take touches from the first moment on.
+constexpr double firstAlpha = 0.1;
+
+} // namespace
+
+Overlay::Overlay(double dimming)
+{
+    setBackground(Color { 0, 0, 0, dimming });
+}
+
+void Overlay::appearIn(View& window, bool animated)
+{
+    setFrame(window.bounds());
+    window.add(*this);
+    if (animated)
+        fade(firstAlpha, 1);
+}
+
+void Overlay::disappear(bool animated)
+{
+    _leaving = true;
+    if (animated)
+        fade(alpha(), 0, [this] { removeFromParent(); });
+    else
+        removeFromParent();
+}
+
+void Overlay::fade(double from, double to, std::function<void()> completion)
+{
+    setAlpha(from);
+    _fade.start(
+        fadeTime, linear, [this, from, to](double progress) { setAlpha(from + (to - from) * progress); },
+        std::move(completion));
+}
+
+} // namespace brimsound::toolkit
