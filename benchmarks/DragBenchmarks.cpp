@@ -12,7 +12,7 @@ namespace brimsound::bench {
 
 namespace {
 
-constexpr CGSize windowSize { 320, 568 };
+constexpr toolkit::Size windowSize { 320, 568 };
 constexpr double scale = 2;
 
 double nextValue(double value)
@@ -52,7 +52,7 @@ void paintingADragStep(benchmark::State& state)
         QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(scale);
     QRegion changed;
-    held.window().onInvalidate = [&](const CGRect& part) {
+    held.window().onInvalidate = [&](const toolkit::Rect& part) {
         changed += QRectF(part.origin.x, part.origin.y, part.size.width, part.size.height).toAlignedRect();
     };
     double value = 0;

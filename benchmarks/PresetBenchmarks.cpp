@@ -10,7 +10,7 @@ namespace brimsound::bench {
 
 namespace {
 
-constexpr CGSize windowSize { 320, 568 };
+constexpr toolkit::Size windowSize { 320, 568 };
 constexpr double scale = 2;
 /// The distance of a flick in a sixtieth of a second, in points.
 constexpr double scrollStep = 40;

@@ -1,3 +1,4 @@
+#include "platform/Foundation/NSString.h"
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "settings/BrimsoundSettings.h"
 #include "settings/GainColor.h"
@@ -16,6 +17,15 @@ constexpr auto sliderCellIdentifier = "slidershit";
 
 constexpr CGFloat otherRowHeight = 44;
 constexpr double captionSize = 10;
+
+// How keys and screen readers move a slider, in decibels.
+constexpr double gainStep = 0.1;
+constexpr double largeGainStep = 1;
+
+std::string gainText(double gain)
+{
+    return stringWithFormat("%.1f dB", gain);
+}
 
 RetainPtr<UILabel> makeCaption(const std::string& text, const CGRect& frame)
 {
@@ -98,6 +108,8 @@ void BrimsoundSettingsListController::addStrip(UIView& content, CGFloat stripHei
     const auto slider = makeSlider(sliderFrame(index, stripHeight, content.frame().size.width));
     const auto label = makeCaption(caption, captionFrame(index, stripHeight));
     slider->setAccessibilityLabel(caption);
+    // It names the slider, and shows the value while the slider is held.
+    label->setIsAccessibilityElement(false);
     _sliders->push_back(slider);
     _labels->push_back(label);
 
@@ -115,6 +127,7 @@ RetainPtr<UISlider> BrimsoundSettingsListController::makeSlider(const CGRect& fr
     auto slider = make<UISlider>();
     slider->setMaximumValue(gainLimit);
     slider->setMinimumValue(-gainLimit);
+    slider->setAccessibilityAdjustment({ gainStep, largeGainStep, "dB", gainText });
     slider->addTargetActionForControlEvents(*this, "sliderChanged:",
         UIControlEventTouchDown | UIControlEventTouchDragInside | UIControlEventTouchDragOutside);
     slider->addTargetActionForControlEvents(*this, "sliderStopped:",

@@ -137,9 +137,12 @@ void PlaylistSaver::buildCancelBar()
     cancelLabel->setFont(boldFont());
     cancelLabel->setTextColor(UIColor::whiteColor());
     cancelLabel->setBackgroundColor(UIColor::clearColor());
+    // It names the button over it.
+    cancelLabel->setIsAccessibilityElement(false);
     _cancelView->addSubview(*cancelLabel);
 
     _cancelButton = make<UIButton>(cancelButtonFrame(view().frame()));
+    _cancelButton->setAccessibilityLabel(cancelLabel->text());
     _cancelButton->addTargetActionForControlEvents(*this, "hideEverything:", UIControlEventTouchUpInside);
     _cancelButton->addTargetActionForControlEvents(*this, "touchUpCancel:", UIControlEventTouchUpOutside);
     _cancelButton->addTargetActionForControlEvents(

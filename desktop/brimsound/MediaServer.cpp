@@ -1,8 +1,8 @@
 #include "desktop/brimsound/MediaServer.h"
 
-#include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
+#include "toolkit/time/Clock.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -50,7 +50,7 @@ MediaServer::~MediaServer()
 {
     SessionBus::shared().watchForLoss(messagingCenterName, [] {});
     if (_nextLook)
-        Clock::shared().cancel(*_nextLook);
+        toolkit::Clock::shared().cancel(*_nextLook);
 }
 
 void MediaServer::start(std::chrono::milliseconds patience)
@@ -104,8 +104,8 @@ void MediaServer::startIfMissing()
 void MediaServer::lookAgain()
 {
     if (_nextLook)
-        Clock::shared().cancel(*_nextLook);
-    _nextLook = Clock::shared().after(_pause, [this] {
+        toolkit::Clock::shared().cancel(*_nextLook);
+    _nextLook = toolkit::Clock::shared().after(_pause, [this] {
         _nextLook.reset();
         startIfMissing();
     });

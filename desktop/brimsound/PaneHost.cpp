@@ -1,75 +1,76 @@
 #include "desktop/brimsound/PaneHost.h"
 
 #include "platform/desktop/Preferences/RootController.h"
-#include "platform/desktop/UIKit/NavigationBar.h"
-#include "platform/desktop/UIKit/ViewControllerPeer.h"
+#include "platform/desktop/UIKit/Controller.h"
+#include "platform/desktop/UIKit/HostedView.h"
 #include "settings/Localized.h"
+#include "toolkit/window/TitleBar.h"
 
 namespace brimsound::desktop {
 
 namespace {
 
-/// Fills the window: the title bar at the top, the pane's table below.
-class RootView : public UIView {
-public:
-    RootView()
-        : _bar(make<NavigationBar>(paneTitle()))
-    {
-        addSubview(*_bar);
-    }
+constexpr double barHeight = toolkit::TitleBar::height;
 
-    void setContent(RetainPtr<UIView> content)
-    {
-        // This view may also contain a preset panel, which must not be above a new content view.
-        for (const auto& view : std::vector(subviews())) {
-            if (view != _bar.get())
-                view->removeFromSuperview();
-        }
-        _content = std::move(content);
-        if (_content)
-            addSubview(*_content);
-    }
-
-    void layoutSubviews() override
-    {
-        const auto [width, height] = bounds().size;
-        _bar->setFrame(CGRectMake(0, 0, width, NavigationBar::height));
-        if (_content) {
-            _content->setFrame(
-                CGRectMake(0, NavigationBar::height, width, std::max(0.0, height - NavigationBar::height)));
-        }
-    }
-
-private:
-    RetainPtr<NavigationBar> _bar;
-    RetainPtr<UIView> _content;
-};
-
-/// Resizes its one subview with the window.
-class PaneWindow : public Window {
+/// Resizes its one child with the window.
+class PaneWindow : public toolkit::Window {
 public:
     using Window::Window;
 
-    void layoutSubviews() override
+    void layOut() override
     {
-        for (const auto& view : subviews())
+        for (const auto& view : children())
             view->setFrame(bounds());
     }
 };
 
 } // namespace
 
+/// Fills the window: the title bar at the top, the pane's table below.
+class PaneHost::RootView : public toolkit::View {
+public:
+    RootView()
+        : _bar(toolkit::make<toolkit::TitleBar>(paneTitle()))
+    {
+        add(*_bar);
+    }
+
+    void setContent(toolkit::Ref<toolkit::View> content)
+    {
+        // This view may also contain a preset panel, which must not be above a new content view.
+        for (const auto& view : std::vector(children())) {
+            if (view != _bar.get())
+                view->removeFromParent();
+        }
+        _content = std::move(content);
+        if (_content)
+            add(*_content);
+    }
+
+    void layOut() override
+    {
+        const auto [width, height] = frame().size;
+        _bar->setFrame(toolkit::makeRect(0, 0, width, barHeight));
+        if (_content)
+            _content->setFrame(toolkit::makeRect(0, barHeight, width, std::max(0.0, height - barHeight)));
+    }
+
+private:
+    toolkit::Ref<toolkit::TitleBar> _bar;
+    toolkit::Ref<toolkit::View> _content;
+};
+
 std::string paneTitle()
 {
     return localized("Brimsound", "Brimsound");
 }
 
-PaneHost::PaneHost(CGSize size)
-    : _window(make<PaneWindow>(size))
-    , _root(make<RootView>())
-    , _rootController(makeViewController(_root))
+PaneHost::PaneHost(toolkit::Size size)
+    : _window(toolkit::make<PaneWindow>(size))
+    , _root(toolkit::make<RootView>())
+    , _rootController(makeViewController(*_root))
 {
-    _window->addSubview(*_root);
+    _window->add(*_root);
     open();
 }
 
@@ -83,14 +84,14 @@ void PaneHost::open()
 {
     if (_controller)
         return;
-    const auto size = _window->bounds().size;
+    const auto size = cgSize(_window->bounds().size);
     const auto controller = make<BrimsoundSettingsListController>();
-    if (!controller->initForContentSize({ size.width, std::max(0.0, size.height - NavigationBar::height) }))
+    if (!controller->initForContentSize({ size.width, std::max(0.0, size.height - barHeight) }))
         return;
     setRootController(*controller, *_rootController);
     _controller = controller;
-    static_cast<RootView&>(*_root).setContent(retain<UIView>(&controller->table()));
-    _window->layOut();
+    _root->setContent(toolkit::keep(&nativeView(controller->table())));
+    _window->layOutAll();
 }
 
 void PaneHost::close()
@@ -104,7 +105,7 @@ void PaneHost::releasePane()
     // Their answers would go to a pane that no longer exists.
     _window->alerts().dismissAll();
     _rootController->dismissViewControllerAnimatedCompletion(Animated::No, {});
-    static_cast<RootView&>(*_root).setContent(nullptr);
+    _root->setContent(nullptr);
     // The pane and the panel retain each other.
     if (_controller && _controller->saver())
         _controller->saver()->setDelegate(nullptr);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop/UIKit/Window.h"
 #include "settings/BrimsoundSettings.h"
+#include "toolkit/window/Window.h"
 
 namespace brimsound::desktop {
 
@@ -9,12 +9,12 @@ namespace brimsound::desktop {
 class PaneHost {
 public:
     /// Opens the pane in a window of that size in points.
-    explicit PaneHost(CGSize);
+    explicit PaneHost(toolkit::Size);
     PaneHost(const PaneHost&) = delete;
     PaneHost& operator=(const PaneHost&) = delete;
     ~PaneHost();
 
-    Window& window() const { return *_window; }
+    toolkit::Window& window() const { return *_window; }
     /// Null while the pane is closed.
     BrimsoundSettingsListController* controller() const { return _controller.get(); }
 
@@ -26,10 +26,12 @@ public:
     void close();
 
 private:
+    class RootView;
+
     void releasePane();
 
-    RetainPtr<Window> _window;
-    RetainPtr<UIView> _root;
+    toolkit::Ref<toolkit::Window> _window;
+    toolkit::Ref<RootView> _root;
     RetainPtr<UIViewController> _rootController;
     RetainPtr<BrimsoundSettingsListController> _controller;
 };

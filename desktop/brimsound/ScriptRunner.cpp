@@ -5,23 +5,21 @@
 #include "platform/desktop/MessageUI/ComposeView.h"
 #include "platform/desktop/Preferences/SpecifierCell.h"
 #include "platform/desktop/Qt/Snapshot.h"
-#include "platform/desktop/UIKit/AlertPeer.h"
-#include "platform/desktop/UIKit/Press.h"
-#include "platform/desktop/UIKit/ScrollPeer.h"
-#include "platform/desktop/UIKit/SliderPeer.h"
-#include "platform/desktop/UIKit/TablePeer.h"
-#include "platform/desktop/UIKit/TextFieldPeer.h"
-#include "platform/desktop/UIKit/ViewControllerPeer.h"
+#include "platform/desktop/UIKit/Controller.h"
+#include "platform/desktop/UIKit/HostedView.h"
 #include "platform/desktop/bus/DarwinNotifyPost.h"
+#include "toolkit/alert/Alert.h"
+#include "toolkit/table/Table.h"
+#include "toolkit/text/TextField.h"
 
 #include <algorithm>
 
 namespace brimsound::desktop {
 
+using toolkit::Cell, toolkit::Control, toolkit::Point, toolkit::Pointer, toolkit::Slider;
+
 namespace {
 
-/// How far below a slider a finger is outside, in points. Controls accept touches within a smaller margin.
-constexpr double outsideDistance = 200;
 constexpr std::size_t lastSlider = 10;
 /// How far a swipe moves a row to the left, in points: more than the width of its button.
 constexpr double swipeDistance = 120;
@@ -37,6 +35,22 @@ double lengthFrom(const std::string& word)
     if (length < 1 || length > largestWindow)
         throw ScriptError("\"" + word + "\" is not a length in points");
     return length;
+}
+
+/// What a reader finds first in the bar; the bar itself when nothing in it can be got at.
+toolkit::View& buttonIn(toolkit::View& bar)
+{
+    const auto found = bar.accessibleChildren();
+    return found.empty() ? bar : *found.front();
+}
+
+Control::Side sideFrom(const std::vector<std::string>& words, std::size_t place, const char* usage)
+{
+    if (words.size() <= place)
+        return Control::Side::Inside;
+    if (words[place] != "outside")
+        throw ScriptError(std::string("it is ") + usage);
+    return Control::Side::Outside;
 }
 
 } // namespace
@@ -81,7 +95,7 @@ const std::vector<ScriptRunner::Command>& ScriptRunner::commands()
 }
 
 ScriptRunner::ScriptRunner(
-    PaneHost& host, MainLoop& loop, Trace& trace, double scale, std::function<void(CGSize)> resize)
+    PaneHost& host, MainLoop& loop, Trace& trace, double scale, std::function<void(toolkit::Size)> resize)
     : _host(host)
     , _loop(loop)
     , _trace(trace)
@@ -115,25 +129,25 @@ BrimsoundSettingsListController& ScriptRunner::pane() const
     return *_host.controller();
 }
 
-UISlider& ScriptRunner::slider(const std::string& word) const
+Slider& ScriptRunner::slider(const std::string& word) const
 {
     const auto index = indexFrom(word, lastSlider);
-    _host.window().layOut();
+    _host.window().layOutAll();
     const auto* sliders = pane().sliders();
     if (!sliders)
         throw ScriptError("the sliders are not on view");
-    return *(*sliders)[index];
+    return nativeOf<Slider>(*(*sliders)[index]);
 }
 
-UISlider& ScriptRunner::heldSlider(const std::string& word) const
+Slider& ScriptRunner::heldSlider(const std::string& word) const
 {
     auto& named = slider(word);
-    if (!_held || &slider(*_held) != &named || !peerOf(named).isTracking)
+    if (!_held || &slider(*_held) != &named || !named.isHeld())
         throw ScriptError("slider " + word + " is not touched");
     return named;
 }
 
-void ScriptRunner::pressAt(CGPoint point)
+void ScriptRunner::pressAt(Point point)
 {
     if (_host.window().isTouched())
         throw ScriptError("a finger is down already");
@@ -149,7 +163,7 @@ void ScriptRunner::finger(const Words& words)
         throw ScriptError("it is finger down X Y, finger move X Y, finger up or finger cancel");
     auto& window = _host.window();
     if (action == "down") {
-        const CGPoint place { numberFrom(words[1]), numberFrom(words[2]) };
+        const Point place { numberFrom(words[1]), numberFrom(words[2]) };
         pressAt(place);
         window.touchDown({ place, Pointer::Finger });
         return;
@@ -169,37 +183,24 @@ void ScriptRunner::finger(const Words& words)
 void ScriptRunner::touch(const Words& words)
 {
     auto& touched = slider(words[0]);
-    scrollIntoView(touched);
-    const auto place = convertToWindow(peerOf(touched).thumbCentre(touched.value()), touched);
-    if (hitTest(_host.window(), place) != &touched)
+    if (_host.window().isTouched())
+        throw ScriptError("a finger is down already");
+    if (!touched.begin())
         throw ScriptError("slider " + words[0] + " is covered");
-    pressAt(place);
     _held = words[0];
-    // A mouse press reaches the slider at once. A finger would wait to see whether the user scrolls.
-    _host.window().touchDown({ place, Pointer::Mouse });
 }
 
 void ScriptRunner::drag(const Words& words)
 {
-    if (words.size() == 3 && words[2] != "outside")
-        throw ScriptError("it is drag N V [outside]");
+    const auto side = sideFrom(words, 2, "drag N V [outside]");
     const double value = numberFrom(words[1]);
-    auto& dragged = heldSlider(words[0]);
-    _finger = convertToWindow(peerOf(dragged).thumbCentre(value), dragged);
-    if (words.size() == 3)
-        _finger.y += outsideDistance;
-    _host.window().touchMove(_finger);
+    heldSlider(words[0]).set(value, side);
 }
 
 void ScriptRunner::lift(const Words& words)
 {
-    if (words.size() == 2 && words[1] != "outside")
-        throw ScriptError("it is lift N [outside]");
-    auto& lifted = heldSlider(words[0]);
-    _finger = convertToWindow(peerOf(lifted).thumbCentre(lifted.value()), lifted);
-    if (words.size() == 2)
-        _finger.y += outsideDistance;
-    _host.window().touchUp(_finger);
+    const auto side = sideFrom(words, 1, "lift N [outside]");
+    heldSlider(words[0]).commit(side);
 }
 
 void ScriptRunner::cancel(const Words& words)
@@ -208,24 +209,25 @@ void ScriptRunner::cancel(const Words& words)
     _host.window().touchCancel();
 }
 
-UITableViewCell& ScriptRunner::rowOf(const PSSpecifier& specifier) const
+Cell& ScriptRunner::rowOf(const PSSpecifier& specifier) const
 {
     return cellAt(pane().table(), indexPathOf(pane(), specifier));
 }
 
-UITableViewCell& ScriptRunner::cellAt(UITableView& table, const NSIndexPath& path) const
+Cell& ScriptRunner::cellAt(UITableView& view, const NSIndexPath& path) const
 {
-    _host.window().layOut();
-    scrollPeerOf(table).scrollIntoView(peerOf(table).rowRect(path));
-    _host.window().layOut();
-    return *table.cellForRowAtIndexPath(path);
+    auto& table = nativeOf<toolkit::Table>(view);
+    const toolkit::RowPath row { path.section, path.row };
+    _host.window().layOutAll();
+    table.scrollToRow(row);
+    return *table.cellOf(row);
 }
 
-void ScriptRunner::tap(UIView& view, const std::string& name) const
+void ScriptRunner::tap(toolkit::View& view, const std::string& name) const
 {
     if (_host.window().isTouched())
         throw ScriptError("a finger is down already");
-    if (!desktop::press(view))
+    if (!view.activate())
         throw ScriptError("\"" + name + "\" is covered");
 }
 
@@ -236,9 +238,10 @@ void ScriptRunner::flipSwitch(const Words& words)
     for (const auto& specifier : pane().specifiers()) {
         if (!isOfType(*specifier, switchCellType) || stringProperty(*specifier, "key") != words[0])
             continue;
-        auto& toggle = *static_cast<SpecifierCell&>(rowOf(*specifier)).toggle();
+        const auto& toggle
+            = *static_cast<SpecifierCell&>(objectOf<UITableViewCell>(rowOf(*specifier))).toggle();
         if (toggle.isOn() != (words[1] == "on"))
-            tap(toggle, words[0]);
+            tap(nativeView(toggle), words[0]);
         return;
     }
     throw ScriptError("there is no switch \"" + words[0] + "\"");
@@ -248,12 +251,12 @@ void ScriptRunner::press(const Words& words)
 {
     const auto* panel = pane().saver();
     if (panel && panelStateOf(panel) != PanelState::Hidden && panel->cancelText() == words[0]) {
-        tap(*panel->cancelView(), words[0]);
+        tap(buttonIn(nativeView(*panel->cancelView())), words[0]);
         return;
     }
-    const auto* field = dynamic_cast<UITextField*>(_host.window().focus().view());
-    if (field && peerOf(*field).returnKey->title() == words[0]) {
-        tap(*peerOf(*field).returnKey, words[0]);
+    const auto* field = dynamic_cast<toolkit::TextField*>(_host.window().focus().view());
+    if (field && field->returnKey().title() == words[0]) {
+        tap(field->returnKey(), words[0]);
         return;
     }
     for (const auto& specifier : pane().specifiers()) {
@@ -283,7 +286,7 @@ NSIndexPath ScriptRunner::presetRow(const std::string& name) const
     return { 1, static_cast<std::size_t>(found - presets.begin()) };
 }
 
-UITableViewCell& ScriptRunner::rowInPresetList(const NSIndexPath& path) const
+Cell& ScriptRunner::rowInPresetList(const NSIndexPath& path) const
 {
     return cellAt(*presetList().tableView(), path);
 }
@@ -306,26 +309,26 @@ void ScriptRunner::type(const Words& words)
 
 void ScriptRunner::pressReturn(const Words&)
 {
-    if (!_host.window().keyPressed(Key::Return))
+    if (!_host.window().keyPressed(toolkit::Key::Return, toolkit::KeyStroke::First))
         throw ScriptError("nothing takes Return");
 }
 
 void ScriptRunner::swipe(const Words& words)
 {
     const auto& cell = rowInPresetList(presetRow(words[0]));
-    const auto [width, height] = cell.bounds().size;
+    const auto [width, height] = cell.frame().size;
     auto& window = _host.window();
-    pressAt(convertToWindow({ width - swipeDistance / 8, height / 2 }, cell));
+    pressAt(cell.toWindow({ width - swipeDistance / 8, height / 2 }));
     window.touchDown({ _finger, Pointer::Mouse });
     for (const double part : { 0.25, 0.75 }) {
         _finger.x -= part * swipeDistance;
         window.touchMove(_finger);
     }
     window.touchUp(_finger);
-    const auto& swiped = peerOf(*presetList().tableView()).swipedRow;
-    if (!swiped)
+    auto* button = nativeOf<toolkit::Table>(*presetList().tableView()).swipe().button();
+    if (!button)
         throw ScriptError("the row of \"" + words[0] + "\" cannot be swiped");
-    tap(*swiped->button, "Delete");
+    tap(*button, "Delete");
 }
 
 void ScriptRunner::dim(const Words&)
@@ -333,7 +336,7 @@ void ScriptRunner::dim(const Words&)
     const auto* panel = pane().saver();
     if (panelStateOf(panel) == PanelState::Hidden)
         throw ScriptError("the presets are not shown");
-    pressAt(convertToWindow({ dimmedMargin, dimmedMargin }, panel->view()));
+    pressAt(nativeView(panel->view()).toWindow({ dimmedMargin, dimmedMargin }));
     _host.window().touchDown({ _finger, Pointer::Mouse });
     // The touch down already closes the panel; the finger is lifted as a user would do.
     _host.window().touchUp(_finger);
@@ -344,7 +347,7 @@ void ScriptRunner::alert(const Words& words)
     const auto* shown = _host.window().alerts().current();
     if (!shown)
         throw ScriptError("no alert is shown");
-    for (const auto& button : peerOf(*shown).buttons) {
+    for (const auto& button : shown->buttons()) {
         if (button->title() != words[0])
             continue;
         tap(*button, words[0]);
@@ -358,10 +361,10 @@ void ScriptRunner::mail(const Words& words)
     if (words[0] != "send" && words[0] != "cancel")
         throw ScriptError("it is mail send or mail cancel");
     const auto* sheet
-        = dynamic_cast<MFMailComposeViewController*>(peerOf(_host.rootController()).presented.get());
+        = dynamic_cast<MFMailComposeViewController*>(nativeController(_host.rootController()).presented());
     if (!sheet)
         throw ScriptError("no mail is being composed");
-    const auto& view = static_cast<ComposeView&>(sheet->view());
+    const auto& view = static_cast<ComposeView&>(*nativeController(*sheet).view());
     tap(words[0] == "send" ? view.sendButton() : view.cancelButton(), words[0]);
 }
 
@@ -382,7 +385,7 @@ void ScriptRunner::wait(const Words& words)
 void ScriptRunner::resize(const Words& words)
 {
     _resize({ lengthFrom(words[0]), lengthFrom(words[1]) });
-    _host.window().layOut();
+    _host.window().layOutAll();
 }
 
 void ScriptRunner::close(const Words&)
@@ -400,7 +403,7 @@ void ScriptRunner::open(const Words&)
 
 void ScriptRunner::state(const Words&)
 {
-    _host.window().layOut();
+    _host.window().layOutAll();
     _trace.stateAsked(stateOf(_host));
 }
 

@@ -5,6 +5,8 @@
 #include "desktop/brimsound/Script.h"
 #include "desktop/brimsound/Trace.h"
 #include "platform/desktop/Qt/MainLoop.h"
+#include "toolkit/control/Slider.h"
+#include "toolkit/table/Cell.h"
 
 #include <functional>
 #include <optional>
@@ -19,7 +21,7 @@ class ScriptRunner {
 public:
     /// All three arguments must outlive the runner. `scale` is for snapshots without a scale of their own.
     /// `resize` sets the window's size in points.
-    ScriptRunner(PaneHost&, MainLoop&, Trace&, double scale, std::function<void(CGSize)> resize);
+    ScriptRunner(PaneHost&, MainLoop&, Trace&, double scale, std::function<void(toolkit::Size)> resize);
 
     /// Executes one line. Throws ScriptError when the line is unknown or cannot be executed. Then nothing was
     /// changed, except that the table may have been scrolled to the touched row.
@@ -54,30 +56,30 @@ private:
     void state(const Words&);
     void snapshot(const Words&);
 
-    void pressAt(CGPoint);
-    /// Touches the center of the view and releases it.
-    void tap(UIView&, const std::string& name) const;
+    void pressAt(toolkit::Point);
+    /// Does what a tap on the view does.
+    void tap(toolkit::View&, const std::string& name) const;
     /// The row of that specifier, scrolled into view.
-    UITableViewCell& rowOf(const PSSpecifier&) const;
+    toolkit::Cell& rowOf(const PSSpecifier&) const;
     /// A row's cell, scrolled into view.
-    UITableViewCell& cellAt(UITableView&, const NSIndexPath&) const;
+    toolkit::Cell& cellAt(UITableView&, const NSIndexPath&) const;
     BrimsoundSettingsListController& pane() const;
     /// The preset panel, with its list visible.
     PlaylistSaver& presetList() const;
     /// The position of that preset's row.
     NSIndexPath presetRow(const std::string& name) const;
     /// A row of the preset list, scrolled into view.
-    UITableViewCell& rowInPresetList(const NSIndexPath&) const;
-    UISlider& slider(const std::string& word) const;
+    toolkit::Cell& rowInPresetList(const NSIndexPath&) const;
+    toolkit::Slider& slider(const std::string& word) const;
     /// The touched slider. Throws ScriptError unless the word names it.
-    UISlider& heldSlider(const std::string& word) const;
+    toolkit::Slider& heldSlider(const std::string& word) const;
 
     PaneHost& _host;
     MainLoop& _loop;
     Trace& _trace;
     const double _scale;
-    const std::function<void(CGSize)> _resize;
-    CGPoint _finger;
+    const std::function<void(toolkit::Size)> _resize;
+    toolkit::Point _finger;
     /// The word that named the slider in `touch`.
     std::optional<std::string> _held;
 };

@@ -25,7 +25,7 @@ namespace {
 using namespace brimsound;
 using namespace brimsound::desktop;
 
-constexpr CGSize firstSize { 320, 568 };
+constexpr toolkit::Size firstSize { 320, 568 };
 constexpr QSize smallestSize { 280, 240 };
 constexpr double scaleWithoutScreen = 2;
 
@@ -109,7 +109,7 @@ int run(int argc, char** argv, const Options& options)
     }
     const double scale = headless ? options.scale.value_or(scaleWithoutScreen) : widget->devicePixelRatioF();
     setScreenScale(scale);
-    const auto resize = [&](CGSize size) {
+    const auto resize = [&](toolkit::Size size) {
         if (widget)
             widget->resize(QSizeF(size.width, size.height).toSize());
         else

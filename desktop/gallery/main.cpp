@@ -2,6 +2,8 @@
 #include "desktop/gallery/CurveSheet.h"
 #include "desktop/gallery/ImageSheet.h"
 #include "platform/desktop/Qt/Snapshot.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/drawing/Theme.h"
 
 #include <QApplication>
 
@@ -24,11 +26,11 @@ bool draw(const QString& path)
     const auto below = images->bounds().size;
     curves->setFrame({ { margin, margin }, size });
     images->setFrame({ { margin, size.height + 2 * margin }, below });
-    const auto window = make<Window>(
-        CGSize { std::max(size.width, below.width) + 2 * margin, size.height + below.height + 3 * margin });
-    window->setBackgroundColor(UIColor::colorWithWhiteAlpha(0.937, 1));
-    window->addSubview(*curves);
-    window->addSubview(*images);
+    const auto window = toolkit::make<toolkit::Window>(toolkit::Size {
+        std::max(size.width, below.width) + 2 * margin, size.height + below.height + 3 * margin });
+    window->setBackground(toolkit::theme::background);
+    window->add(nativeView(*curves));
+    window->add(nativeView(*images));
     return writeSnapshot(*window, scale, path);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace brimsound {
 
@@ -11,5 +12,16 @@ using UIAccessibilityTraits = std::uint64_t;
 inline constexpr UIAccessibilityTraits UIAccessibilityTraitNone = 0;
 /// The selected one in its group.
 inline constexpr UIAccessibilityTraits UIAccessibilityTraitSelected = 1u << 3;
+
+/// How keys and screen readers change the value of a control, and how the latter say it.
+struct UIAccessibilityAdjustment {
+    /// What one step changes the value by, and a large one.
+    double step = 0;
+    double largeStep = 0;
+    /// Said after the number by readers that say the number: "dB".
+    std::string unit;
+    /// The value in words, with its unit.
+    std::string (*valueText)(double value) = nullptr;
+};
 
 } // namespace brimsound

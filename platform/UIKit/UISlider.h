@@ -26,6 +26,9 @@ public:
     RetainPtr<UIColor> minimumTrackTintColor() const;
     void setMinimumTrackTintColor(RetainPtr<UIColor>);
 
+    /// How keys and screen readers operate the slider. Initially they do not know any steps.
+    void setAccessibilityAdjustment(const UIAccessibilityAdjustment&);
+
     /// The image drawn as the thumb, owned by the slider; null on a platform that does not provide it.
     UIImage* currentThumbImage() const;
 };

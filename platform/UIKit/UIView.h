@@ -74,6 +74,10 @@ public:
     /// The view's name for screen readers; empty (the initial value) for a view whose own text is used.
     std::string accessibilityLabel() const;
     void setAccessibilityLabel(const std::string&);
+    /// Whether screen readers read a view that shows text. Set to false for a label that only names another
+    /// view.
+    bool isAccessibilityElement() const;
+    void setIsAccessibilityElement(bool);
     /// Initially none.
     UIAccessibilityTraits accessibilityTraits() const;
     void setAccessibilityTraits(UIAccessibilityTraits);

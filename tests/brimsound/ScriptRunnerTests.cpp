@@ -86,7 +86,7 @@ protected:
     MainLoop loop { MainLoop::Time::Virtual };
     // Tall enough to show the sliders.
     PaneHost host { { 320, 1000 } };
-    ScriptRunner runner { host, loop, trace, 1, [](CGSize) {} };
+    ScriptRunner runner { host, loop, trace, 1, [](toolkit::Size) {} };
 };
 
 TEST_F(AGesture, MovesAndEndsInsideOfTheSlider)

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "desktop/brimsound/PaneHost.h"
-#include "platform/desktop/UIKit/SliderPeer.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/control/Slider.h"
 
 #include <cstddef>
 
@@ -10,25 +11,24 @@ namespace brimsound::tests {
 /// A pane scrolled to its sliders, with a finger on the slider of the second band.
 class HeldSlider {
 public:
-    explicit HeldSlider(CGSize windowSize)
+    explicit HeldSlider(toolkit::Size windowSize)
         : _host(windowSize)
     {
-        _host.window().layOut();
-        auto& slider = this->slider();
-        _host.window().touchDown({ placeFor(slider.value()), desktop::Pointer::Mouse });
+        _host.window().layOutAll();
+        _host.window().touchDown({ placeFor(slider().value()), toolkit::Pointer::Mouse });
     }
 
-    UISlider& slider() { return *(*_host.controller()->sliders())[2]; }
-    desktop::Window& window() { return _host.window(); }
+    toolkit::Slider& slider()
+    {
+        return desktop::nativeOf<toolkit::Slider>(*(*_host.controller()->sliders())[2]);
+    }
+    toolkit::Window& window() { return _host.window(); }
 
     /// In dB.
     void dragTo(double value) { _host.window().touchMove(placeFor(value)); }
 
 private:
-    CGPoint placeFor(double value)
-    {
-        return desktop::convertToWindow(desktop::peerOf(slider()).thumbCentre(value), slider());
-    }
+    toolkit::Point placeFor(double value) { return slider().toWindow(slider().thumbCenter(value)); }
 
     desktop::PaneHost _host;
 };

@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::chrono::microseconds longestWait = std::chrono::seconds(1);
 
-struct MessagingCenterPeer : Peer {
-    explicit MessagingCenterPeer(const std::string& centerName)
+struct MessagingCenter : toolkit::Object {
+    explicit MessagingCenter(const std::string& centerName)
         : name(centerName)
         , path(desktop::messagingCenterPath(centerName))
     {
@@ -28,7 +28,7 @@ struct MessagingCenterPeer : Peer {
 };
 
 // Returns a negative errno on failure. `error` then holds the error that came as the reply, if one did.
-int call(const MessagingCenterPeer& center, const std::string& name, const PropertyList::Dictionary& userInfo,
+int call(const MessagingCenter& center, const std::string& name, const PropertyList::Dictionary& userInfo,
     PropertyList::Dictionary& reply, sd_bus_error& error)
 {
     using Clock = std::chrono::steady_clock;
@@ -77,7 +77,7 @@ CPDistributedMessagingCenter::CPDistributedMessagingCenter(Peer* peer)
 
 RetainPtr<CPDistributedMessagingCenter> CPDistributedMessagingCenter::centerNamed(const std::string& name)
 {
-    return adopt(new CPDistributedMessagingCenter(new MessagingCenterPeer(name)));
+    return adopt(new CPDistributedMessagingCenter(desktop::peer(new MessagingCenter(name))));
 }
 
 PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveReplyName(
@@ -85,7 +85,7 @@ PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveRepl
 {
     PropertyList::Dictionary reply;
     desktop::BusError failure;
-    if (call(static_cast<MessagingCenterPeer&>(peer()), name, userInfo, reply, failure) < 0) {
+    if (call(desktop::nativeOf<MessagingCenter>(*this), name, userInfo, reply, failure) < 0) {
         error = errorOf(failure);
         reply = {};
         desktop::effects().messageSent(name, userInfo, &*error);

@@ -13,8 +13,8 @@ namespace {
 
 class Context : public CGContext {
 public:
-    explicit Context(CGContextPeer* peer)
-        : CGContext(peer)
+    explicit Context(CGContextPeer* native)
+        : CGContext(desktop::peer(native))
     {
     }
 };
@@ -82,7 +82,7 @@ void CGContextPeer::fillRect(const CGRect& rect)
 
 CGContextPeer& peerOf(const CGContext& context)
 {
-    return static_cast<CGContextPeer&>(context.peer());
+    return nativeOf<CGContextPeer>(context);
 }
 
 RetainPtr<CGContext> makeContext(std::size_t width, std::size_t height, double scale)
@@ -90,7 +90,8 @@ RetainPtr<CGContext> makeContext(std::size_t width, std::size_t height, double s
     auto bitmap = Bitmap::make(width, height);
     if (!bitmap)
         return nullptr;
-    return make<Context>(new CGContextPeer(std::move(bitmap), Axes { .scaleX = scale, .scaleY = scale }));
+    return brimsound::make<Context>(
+        new CGContextPeer(std::move(bitmap), Axes { .scaleX = scale, .scaleY = scale }));
 }
 
 } // namespace desktop
@@ -112,7 +113,7 @@ RetainPtr<CGContext> CGBitmapContextCreate(
         return nullptr;
     const desktop::Pixels pixels { static_cast<std::uint8_t*>(data), width, height, bytesPerRow };
     const desktop::Axes upwards { .scaleY = -1, .originY = static_cast<double>(height) };
-    return make<desktop::Context>(new desktop::CGContextPeer(pixels, upwards));
+    return brimsound::make<desktop::Context>(new desktop::CGContextPeer(pixels, upwards));
 }
 
 RetainPtr<CGImage> CGBitmapContextCreateImage(CGContextRef context)

@@ -20,7 +20,7 @@ struct Axes {
     double row(double y) const { return originY + scaleY * y; }
 };
 
-struct CGContextPeer : Peer {
+struct CGContextPeer : toolkit::Object {
     /// On memory of the caller's.
     CGContextPeer(const Pixels&, const Axes&);
     /// On a bitmap of its own.

@@ -14,7 +14,7 @@ namespace desktop {
 
 namespace {
 
-struct CGImagePeer : Peer {
+struct CGImagePeer : toolkit::Object {
     explicit CGImagePeer(std::shared_ptr<const Bitmap> pixels)
         : bitmap(std::move(pixels))
     {
@@ -26,7 +26,7 @@ struct CGImagePeer : Peer {
 class Image : public CGImage {
 public:
     explicit Image(std::shared_ptr<const Bitmap> bitmap)
-        : CGImage(new CGImagePeer(std::move(bitmap)))
+        : CGImage(desktop::peer(new CGImagePeer(std::move(bitmap))))
     {
     }
 };
@@ -40,7 +40,7 @@ RetainPtr<CGImage> makeCGImage(std::shared_ptr<const Bitmap> bitmap)
 
 const Bitmap& bitmapOf(const CGImage& image)
 {
-    return *static_cast<const CGImagePeer&>(image.peer()).bitmap;
+    return *nativeOf<CGImagePeer>(image).bitmap;
 }
 
 } // namespace desktop

@@ -6,35 +6,34 @@
 
 namespace brimsound {
 
+using desktop::nativeOf;
+
 NSObject::NSObject()
-    : NSObject(new Peer)
+    : NSObject(desktop::peer(new toolkit::Object))
 {
 }
 
 NSObject::NSObject(Peer* peer)
     : _peer(peer)
 {
+    nativeOf(*this).setCounterpart(this, Peer::destroy);
 }
 
-NSObject::~NSObject()
-{
-    delete _peer;
-}
+NSObject::~NSObject() = default;
 
 void NSObject::retain() const
 {
-    ++_peer->retainCount;
+    nativeOf(*this).retain();
 }
 
 void NSObject::release() const
 {
-    if (--_peer->retainCount == 0)
-        delete this;
+    nativeOf(*this).release();
 }
 
 std::size_t NSObject::retainCount() const
 {
-    return _peer->retainCount;
+    return nativeOf(*this).retainCount();
 }
 
 const Method* NSObject::methodForSelector(std::string_view selector) const

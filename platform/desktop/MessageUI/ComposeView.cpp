@@ -1,18 +1,24 @@
 #include "platform/desktop/MessageUI/ComposeView.h"
 
 #include "platform/Foundation/NSString.h"
-#include "platform/desktop/UIKit/NavigationBar.h"
-#include "platform/desktop/UIKit/Theme.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
+#include "toolkit/drawing/Theme.h"
+#include "toolkit/window/TitleBar.h"
 
 namespace brimsound::desktop {
 
+using toolkit::Alignment, toolkit::Canvas, toolkit::Font, toolkit::makeRect;
+namespace theme = toolkit::theme;
+
 namespace {
 
-constexpr double barHeight = NavigationBar::height;
+constexpr double barHeight = toolkit::TitleBar::height;
 constexpr double rowHeight = 44;
 constexpr double buttonWidth = 84;
 constexpr double captionWidth = 84;
+
+const Font plainFont { {}, theme::textSize };
+const Font boldFont { theme::boldFont, theme::textSize };
+const Font rowFont { {}, 15 };
 
 std::string sizeText(std::size_t bytes)
 {
@@ -31,71 +37,64 @@ std::string joined(const std::vector<std::string>& addresses)
     return text;
 }
 
-struct ComposePeer : ViewPeer {
-    explicit ComposePeer(const Mail& shown)
-        : mail(shown)
-    {
-    }
-
-    const Mail& mail;
-
-    void draw(Canvas& canvas) const override
-    {
-        const double width = frame.size.width;
-        const double line = canvas.hairline();
-        canvas.fillRect(boundsOf(*this), theme::rowBackground);
-        canvas.fillRect(CGRectMake(0, 0, width, barHeight), theme::barBackground);
-        canvas.fillRect(CGRectMake(0, barHeight - line, width, line), theme::barSeparator);
-        const auto bold = UIFont::fontWithNameSize("HelveticaNeue-SemiBold", theme::textSize);
-        canvas.drawLine("New Message", CGRectMake(buttonWidth, 0, width - 2 * buttonWidth, barHeight), *bold,
-            theme::text, NSTextAlignment::Center);
-
-        double y = barHeight;
-        drawRow(canvas, y, "To:", joined(mail.to));
-        drawRow(canvas, y, "Subject:", mail.subject);
-        for (const auto& attachment : mail.attachments)
-            drawRow(canvas, y, "Attached:", attachment.fileName + ", " + sizeText(attachment.data.size()));
-    }
-
-    Accessible accessible() const override
-    {
-        std::string texts = "To: " + joined(mail.to) + "\nSubject: " + mail.subject;
-        for (const auto& attachment : mail.attachments)
-            texts += "\nAttached: " + attachment.fileName + ", " + sizeText(attachment.data.size());
-        return { .role = AccessibleRole::Dialog, .name = "New Message", .description = texts };
-    }
-
-    void drawRow(Canvas& canvas, double& y, const std::string& caption, const std::string& text) const
-    {
-        static const auto font = UIFont::systemFontOfSize(15);
-        const double left = theme::rowMargin;
-        const double width = frame.size.width - 2 * left;
-        canvas.drawLine(caption, CGRectMake(left, y, captionWidth, rowHeight), *font, theme::secondaryText,
-            NSTextAlignment::Left);
-        canvas.drawLine(text, CGRectMake(left + captionWidth, y, width - captionWidth, rowHeight), *font,
-            theme::text, NSTextAlignment::Left);
-        y += rowHeight;
-        canvas.fillRect(
-            CGRectMake(left, y - canvas.hairline(), width + left, canvas.hairline()), theme::separator);
-    }
-};
+std::string textOf(const MailAttachment& attachment)
+{
+    return attachment.fileName + ", " + sizeText(attachment.data.size());
+}
 
 } // namespace
 
 ComposeView::ComposeView(const Mail& mail, std::function<void()> onCancel, std::function<void()> onSend)
-    : UIView(new ComposePeer(mail))
-    , _cancel(make<TextButton>("Cancel", UIFont::systemFontOfSize(theme::textSize), std::move(onCancel)))
-    , _send(make<TextButton>(
-          "Send", UIFont::fontWithNameSize("HelveticaNeue-SemiBold", theme::textSize), std::move(onSend)))
+    : _mail(mail)
+    , _cancel(toolkit::make<toolkit::TextButton>("Cancel", plainFont, std::move(onCancel)))
+    , _send(toolkit::make<toolkit::TextButton>("Send", boldFont, std::move(onSend)))
 {
-    addSubview(*_cancel);
-    addSubview(*_send);
+    add(*_cancel);
+    add(*_send);
 }
 
-void ComposeView::layoutSubviews()
+void ComposeView::layOut()
 {
-    _cancel->setFrame(CGRectMake(0, 0, buttonWidth, barHeight));
-    _send->setFrame(CGRectMake(bounds().size.width - buttonWidth, 0, buttonWidth, barHeight));
+    _cancel->setFrame(makeRect(0, 0, buttonWidth, barHeight));
+    _send->setFrame(makeRect(frame().size.width - buttonWidth, 0, buttonWidth, barHeight));
+}
+
+void ComposeView::draw(Canvas& canvas) const
+{
+    const double width = frame().size.width;
+    const double line = canvas.hairline();
+    canvas.fillRect(bounds(), theme::rowBackground);
+    canvas.fillRect(makeRect(0, 0, width, barHeight), theme::barBackground);
+    canvas.fillRect(makeRect(0, barHeight - line, width, line), theme::barSeparator);
+    canvas.drawLine("New Message", makeRect(buttonWidth, 0, width - 2 * buttonWidth, barHeight), boldFont,
+        theme::text, Alignment::Center);
+
+    double y = barHeight;
+    drawRow(canvas, y, "To:", joined(_mail.to));
+    drawRow(canvas, y, "Subject:", _mail.subject);
+    for (const auto& attachment : _mail.attachments)
+        drawRow(canvas, y, "Attached:", textOf(attachment));
+}
+
+void ComposeView::drawRow(
+    Canvas& canvas, double& y, const std::string& caption, const std::string& text) const
+{
+    const double left = theme::rowMargin;
+    const double width = frame().size.width - 2 * left;
+    canvas.drawLine(
+        caption, makeRect(left, y, captionWidth, rowHeight), rowFont, theme::secondaryText, Alignment::Left);
+    canvas.drawLine(text, makeRect(left + captionWidth, y, width - captionWidth, rowHeight), rowFont,
+        theme::text, Alignment::Left);
+    y += rowHeight;
+    canvas.fillRect(makeRect(left, y - canvas.hairline(), width + left, canvas.hairline()), theme::separator);
+}
+
+toolkit::Accessible ComposeView::accessible() const
+{
+    std::string texts = "To: " + joined(_mail.to) + "\nSubject: " + _mail.subject;
+    for (const auto& attachment : _mail.attachments)
+        texts += "\nAttached: " + textOf(attachment);
+    return { .role = role(), .name = "New Message", .description = texts };
 }
 
 } // namespace brimsound::desktop

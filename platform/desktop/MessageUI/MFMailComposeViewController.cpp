@@ -2,7 +2,7 @@
 
 #include "platform/Foundation/NSLog.h"
 #include "platform/desktop/MessageUI/ComposeView.h"
-#include "platform/desktop/MessageUI/ComposerPeer.h"
+#include "platform/desktop/MessageUI/Composer.h"
 #include "platform/desktop/MessageUI/MailClient.h"
 #include "platform/desktop/effects/Effects.h"
 
@@ -17,24 +17,19 @@ constexpr long sendFailed = 1;
 
 } // namespace
 
-ComposerPeer& peerOf(const MFMailComposeViewController& composer)
+Composer::Composer()
 {
-    return static_cast<ComposerPeer&>(composer.peer());
+    setView(toolkit::make<ComposeView>(
+        _mail, [this] { cancel(); }, [this] { send(); }));
 }
 
-ComposerPeer::ComposerPeer()
-{
-    view = make<ComposeView>(
-        mail, [this] { cancel(); }, [this] { send(); });
-}
-
-void ComposerPeer::send()
+void Composer::send()
 {
     if (_isFinished)
         return;
-    effects().mailSent(mail);
+    effects().mailSent(_mail);
     std::string reason;
-    if (reach() == Reach::ObserverOnly || handOver(mail, reason)) {
+    if (reach() == Reach::ObserverOnly || handOver(_mail, reason)) {
         finish(MFMailComposeResult::Sent, nullptr);
         return;
     }
@@ -43,25 +38,33 @@ void ComposerPeer::send()
     finish(MFMailComposeResult::Failed, &error);
 }
 
-void ComposerPeer::cancel()
+void Composer::cancel()
 {
     finish(MFMailComposeResult::Cancelled, nullptr);
 }
 
-void ComposerPeer::finish(MFMailComposeResult result, const NSError* error)
+void Composer::finish(MFMailComposeResult result, const NSError* error)
 {
     // The buttons still react while the sheet fades out.
     if (std::exchange(_isFinished, true))
         return;
-    const auto kept = brimsound::retain(composer);
-    if (delegate)
-        delegate->mailComposeControllerDidFinishWithResultError(*composer, result, error);
+    const auto composer = brimsound::retain(&objectOf<MFMailComposeViewController>(*this));
+    if (_delegate)
+        _delegate->mailComposeControllerDidFinishWithResultError(*composer, result, error);
 }
 
 } // namespace desktop
 
-using desktop::ComposerPeer;
-using desktop::peerOf;
+using desktop::Composer;
+
+namespace {
+
+Composer& native(const MFMailComposeViewController& composer)
+{
+    return desktop::nativeOf<Composer>(composer);
+}
+
+} // namespace
 
 MFMailComposeViewController::MFMailComposeViewController(Peer* peer)
     : UIViewController(peer)
@@ -69,30 +72,29 @@ MFMailComposeViewController::MFMailComposeViewController(Peer* peer)
 }
 
 MFMailComposeViewController::MFMailComposeViewController()
-    : MFMailComposeViewController(new ComposerPeer)
+    : MFMailComposeViewController(desktop::peer(new Composer))
 {
-    peerOf(*this).composer = this;
 }
 
 void MFMailComposeViewController::setMailComposeDelegate(MFMailComposeViewControllerDelegate* delegate)
 {
-    peerOf(*this).delegate = delegate;
+    native(*this).setDelegate(delegate);
 }
 
 void MFMailComposeViewController::setSubject(const std::string& subject)
 {
-    peerOf(*this).mail.subject = subject;
+    native(*this).mail().subject = subject;
 }
 
 void MFMailComposeViewController::setToRecipients(const std::vector<std::string>& recipients)
 {
-    peerOf(*this).mail.to = recipients;
+    native(*this).mail().to = recipients;
 }
 
 void MFMailComposeViewController::addAttachmentDataMimeTypeFileName(
     NSData data, const std::string& mimeType, const std::string& fileName)
 {
-    peerOf(*this).mail.attachments.push_back({ fileName, mimeType, std::move(data) });
+    native(*this).mail().attachments.push_back({ fileName, mimeType, std::move(data) });
 }
 
 } // namespace brimsound

@@ -15,8 +15,8 @@ using namespace desktop;
 
 namespace {
 
-struct ListControllerPeer : Peer {
-    explicit ListControllerPeer(std::string name)
+struct ListController : toolkit::Object {
+    explicit ListController(std::string name)
         : className(std::move(name))
     {
     }
@@ -27,9 +27,9 @@ struct ListControllerPeer : Peer {
     UIViewController* rootController = nullptr;
 };
 
-ListControllerPeer& peerOf(const PSListController& controller)
+ListController& native(const PSListController& controller)
 {
-    return static_cast<ListControllerPeer&>(controller.peer());
+    return desktop::nativeOf<ListController>(controller);
 }
 
 /// The specifiers of one section. Rows before the first group form a section without header and footer.
@@ -56,14 +56,14 @@ std::vector<Section> sectionsOf(const PSListController::Specifiers& specifiers)
 } // namespace
 
 PSListController::PSListController(const std::string& className)
-    : NSObject(new ListControllerPeer(className))
+    : NSObject(desktop::peer(new ListController(className)))
 {
 }
 
 PSListController::~PSListController()
 {
     // The presentation may keep the table longer than its controller exists.
-    if (const auto& table = peerOf(*this).table) {
+    if (const auto& table = native(*this).table) {
         table->setDataSource(nullptr);
         table->setDelegate(nullptr);
     }
@@ -74,7 +74,7 @@ PSListController* PSListController::initForContentSize(CGSize size)
     const auto isLength = [](CGFloat length) { return std::isfinite(length) && length >= 0; };
     if (!isLength(size.width) || !isLength(size.height))
         return nullptr;
-    peerOf(*this).contentSize = size;
+    native(*this).contentSize = size;
     return this;
 }
 
@@ -88,7 +88,7 @@ const PSListController::Specifiers& PSListController::specifiers()
 PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget(
     const std::string& name, NSObject& target)
 {
-    const auto bundle = NSBundle::bundleForClass(peerOf(*this).className);
+    const auto bundle = NSBundle::bundleForClass(native(*this).className);
     const auto path = bundle.pathForResource(name, "plist");
     const auto plist = path ? readPropertyListFile(*path) : std::nullopt;
     const auto* root = plist ? plist->asDictionary() : nullptr;
@@ -114,23 +114,23 @@ PSListController::Specifiers PSListController::loadSpecifiersFromPlistNameTarget
 
 UITableView& PSListController::table()
 {
-    auto& peer = peerOf(*this);
-    if (!peer.table) {
-        peer.table = make<UITableView>(CGRect { {}, peer.contentSize }, UITableViewStyle::Grouped);
-        peer.table->setDataSource(this);
-        peer.table->setDelegate(this);
+    auto& self = native(*this);
+    if (!self.table) {
+        self.table = make<UITableView>(CGRect { {}, self.contentSize }, UITableViewStyle::Grouped);
+        self.table->setDataSource(this);
+        self.table->setDelegate(this);
     }
-    return *peer.table;
+    return *self.table;
 }
 
 UIViewController& PSListController::rootController() const
 {
-    return *peerOf(*this).rootController;
+    return *native(*this).rootController;
 }
 
 void desktop::setRootController(PSListController& controller, UIViewController& root)
 {
-    peerOf(controller).rootController = &root;
+    native(controller).rootController = &root;
 }
 
 NSIndexPath desktop::indexPathOf(PSListController& controller, const PSSpecifier& specifier)

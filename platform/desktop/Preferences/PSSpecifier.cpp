@@ -6,8 +6,8 @@ namespace brimsound {
 
 namespace {
 
-struct SpecifierPeer : Peer {
-    SpecifierPeer(std::string specifierName, NSObject& specifierTarget, PropertyList::Dictionary all)
+struct SpecifierObject : toolkit::Object {
+    SpecifierObject(std::string specifierName, NSObject& specifierTarget, PropertyList::Dictionary all)
         : name(std::move(specifierName))
         , target(specifierTarget)
         , properties(std::move(all))
@@ -19,15 +19,15 @@ struct SpecifierPeer : Peer {
     const PropertyList::Dictionary properties;
 };
 
-const SpecifierPeer& peerOf(const PSSpecifier& specifier)
+const SpecifierObject& native(const PSSpecifier& specifier)
 {
-    return static_cast<SpecifierPeer&>(specifier.peer());
+    return desktop::nativeOf<SpecifierObject>(specifier);
 }
 
 } // namespace
 
 PSSpecifier::PSSpecifier(const std::string& name, NSObject& target, PropertyList::Dictionary properties)
-    : PSSpecifier(new SpecifierPeer(name, target, std::move(properties)))
+    : PSSpecifier(desktop::peer(new SpecifierObject(name, target, std::move(properties))))
 {
 }
 
@@ -38,17 +38,17 @@ PSSpecifier::PSSpecifier(Peer* peer)
 
 std::string PSSpecifier::name() const
 {
-    return peerOf(*this).name;
+    return native(*this).name;
 }
 
 NSObject& PSSpecifier::target() const
 {
-    return peerOf(*this).target;
+    return native(*this).target;
 }
 
 PropertyList PSSpecifier::propertyForKey(std::string_view key) const
 {
-    const auto* property = peerOf(*this).properties.find(key);
+    const auto* property = native(*this).properties.find(key);
     return property ? *property : PropertyList();
 }
 

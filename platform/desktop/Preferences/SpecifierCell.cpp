@@ -1,37 +1,30 @@
 #include "platform/desktop/Preferences/SpecifierCell.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/ImagePeer.h"
-#include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/Color.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/drawing/Theme.h"
 
 #include <array>
 
 namespace brimsound::desktop {
 
+namespace theme = toolkit::theme;
+
 namespace {
 
 /// The chevron of a link row.
-struct ChevronPeer : ViewPeer {
-    ChevronPeer() { frame.size = { 8, 13 }; }
+class Chevron : public toolkit::View {
+public:
+    Chevron()
+        : View(toolkit::makeRect(0, 0, 8, 13))
+    {
+    }
 
-    void draw(Canvas& canvas) const override
+    void draw(toolkit::Canvas& canvas) const override
     {
         canvas.strokeLine({ { 1, 1 }, { 6.5, 6.5 }, { 1, 12 } }, 2, theme::chevron);
     }
 };
-
-class Chevron : public UIView {
-public:
-    Chevron()
-        : UIView(new ChevronPeer)
-    {
-    }
-};
-
-RetainPtr<UIColor> uiColor(const Color& color)
-{
-    return UIColor::colorWithRedGreenBlueAlpha(color.red, color.green, color.blue, color.alpha);
-}
 
 void storeValue(PSListController& controller, PSSpecifier& specifier, const PropertyList& value)
 {
@@ -78,8 +71,10 @@ SpecifierCell::SpecifierCell(const std::string& cellType, PSListController& cont
         _toggle = make<UISwitch>();
         _toggle->addTargetActionForControlEvents(*this, "toggled:", UIControlEventValueChanged);
         setAccessoryView(_toggle);
+        // It names the switch, with which it is read.
+        textLabel().setIsAccessibilityElement(false);
     } else if (cellType == linkCellType) {
-        setAccessoryView(make<Chevron>());
+        setAccessoryView(adopt(viewOf(new Chevron)));
     }
     if (cellType == buttonCellType)
         textLabel().setTextColor(uiColor(theme::tint));
@@ -92,8 +87,10 @@ void SpecifierCell::show(PSSpecifier& specifier)
 {
     _specifier = brimsound::retain(&specifier);
     textLabel().setText(specifier.name());
-    if (_toggle)
-        _toggle->setOn(currentValue(_controller, specifier).boolValue(), Animated::No);
+    if (!_toggle)
+        return;
+    _toggle->setAccessibilityLabel(specifier.name());
+    _toggle->setOn(currentValue(_controller, specifier).boolValue(), Animated::No);
 }
 
 std::span<const Method> SpecifierCell::methods() const

@@ -2,12 +2,14 @@
 
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/Qt/ViewInterface.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
+#include "toolkit/window/Window.h"
 
 #include <QAccessibleWidget>
 #include <QGuiApplication>
 
 namespace brimsound::desktop {
+
+using toolkit::AccessibleChange, toolkit::Role, toolkit::View, toolkit::Window;
 
 namespace {
 
@@ -68,11 +70,10 @@ QAccessibleInterface* makeRoot(const QString&, QObject* object)
 }
 
 /// What a text field says that can be got at and has no editor, which would tell for itself.
-QString textOf(const UIView& view)
+QString textOf(const View& view)
 {
-    const auto self = peerOf(view).accessible();
-    const bool tells = self.role == AccessibleRole::TextField && isReachable(view);
-    return tells ? QString::fromStdString(self.value) : QString();
+    const bool tells = view.role() == Role::TextField && view.isReachable();
+    return tells ? QString::fromStdString(view.accessible().value) : QString();
 }
 
 void remove(QAccessibleInterface* interface)
@@ -96,7 +97,7 @@ Accessibility::~Accessibility()
     QAccessible::removeActivationObserver(this);
     setListening(false);
     for (const auto& [view, interface] : _interfaces) {
-        peerOf(*view).onDestroyed = nullptr;
+        const_cast<View*>(view)->onDestroyed = nullptr;
         remove(interface);
     }
     // The widget lives on for a moment, without its views.
@@ -104,11 +105,11 @@ Accessibility::~Accessibility()
         remove(root);
 }
 
-QAccessibleInterface* Accessibility::interfaceOf(UIView& view)
+QAccessibleInterface* Accessibility::interfaceOf(View& view)
 {
     if (const auto known = _interfaces.find(&view); known != _interfaces.end())
         return known->second;
-    auto& onDestroyed = peerOf(view).onDestroyed;
+    auto& onDestroyed = view.onDestroyed;
     // Another widget may have shown the window before.
     if (const auto other = std::exchange(onDestroyed, nullptr))
         other();
@@ -119,33 +120,33 @@ QAccessibleInterface* Accessibility::interfaceOf(UIView& view)
     return interface;
 }
 
-void Accessibility::forget(const UIView& view)
+void Accessibility::forget(const View& view)
 {
     if (auto entry = _interfaces.extract(&view))
         remove(entry.mapped());
 }
 
-QAccessibleInterface* Accessibility::parentOf(const UIView& view)
+QAccessibleInterface* Accessibility::parentOf(const View& view)
 {
-    auto* parent = accessibleParent(view);
+    auto* parent = view.accessibleParent();
     return parent ? interfaceOf(*parent) : QAccessible::queryAccessibleInterface(&_widget);
 }
 
 void Accessibility::setListening(bool listening)
 {
     if (listening)
-        _window.onAccessibleChange = [this](UIView& view, AccessibleChange what) { changed(view, what); };
+        _window.onAccessibleChange = [this](View& view, AccessibleChange what) { changed(view, what); };
     else
         _window.onAccessibleChange = nullptr;
 }
 
-void Accessibility::changed(UIView& view, AccessibleChange what)
+void Accessibility::changed(View& view, AccessibleChange what)
 {
     const auto send = [this](QAccessibleEvent&& event) { deliver(&event); };
     const auto sendForEach = [&](QAccessible::Event type) {
-        if (!isReachable(view))
+        if (!view.isReachable())
             return;
-        if (peerOf(view).accessible().role != AccessibleRole::None) {
+        if (view.role() != Role::None) {
             send({ interfaceOf(view), type });
             return;
         }
@@ -180,24 +181,22 @@ void Accessibility::changed(UIView& view, AccessibleChange what)
         break;
     case AccessibleChange::FocusMoved:
         // A text field gets an editor, which tells for itself.
-        if (const auto role = peerOf(view).accessible().role;
-            role != AccessibleRole::None && role != AccessibleRole::TextField)
+        if (const auto role = view.role(); role != Role::None && role != Role::TextField)
             send({ interfaceOf(view), QAccessible::Focus });
         break;
     }
 }
 
-void Accessibility::sendStateOf(UIView& view)
+void Accessibility::sendStateOf(View& view)
 {
-    const auto self = peerOf(view).accessible();
-    if (self.role == AccessibleRole::Switch) {
+    if (view.role() == Role::Switch) {
         QAccessible::State changedState;
         changedState.checked = true;
         QAccessibleStateChangeEvent event(interfaceOf(view), changedState);
         deliver(&event);
-    } else if (self.role == AccessibleRole::Row) {
-        QAccessibleEvent event(
-            interfaceOf(view), self.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+    } else if (view.role() == Role::Row) {
+        QAccessibleEvent event(interfaceOf(view),
+            view.accessible().selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
         deliver(&event);
     }
 }

@@ -1,7 +1,7 @@
 // Makes the views visible to screen readers.
 #pragma once
 
-#include "platform/desktop/UIKit/Accessible.h"
+#include "toolkit/view/View.h"
 
 #include <QAccessible>
 
@@ -10,27 +10,30 @@
 
 class QWidget;
 
+namespace brimsound::toolkit {
+class Window;
+}
+
 namespace brimsound::desktop {
 
 class ViewInterface;
-class Window;
 
 /// Hands out an interface for each view of a window that somebody asks about. An interface lives as long as
 /// its view, or as long as this; it has the same id all the time. The widget's own interface is the root.
 class Accessibility : public QAccessible::ActivationObserver {
 public:
     /// The widget shows the window; both outlive this.
-    Accessibility(QWidget&, Window&);
+    Accessibility(QWidget&, toolkit::Window&);
     Accessibility(const Accessibility&) = delete;
     Accessibility& operator=(const Accessibility&) = delete;
     ~Accessibility() override;
 
     QWidget& widget() const { return _widget; }
-    Window& window() const { return _window; }
+    toolkit::Window& window() const { return _window; }
 
-    QAccessibleInterface* interfaceOf(UIView&);
+    QAccessibleInterface* interfaceOf(toolkit::View&);
     /// The interface of the nearest view around the view that has one, the root for want of any.
-    QAccessibleInterface* parentOf(const UIView&);
+    QAccessibleInterface* parentOf(const toolkit::View&);
 
     void accessibilityActiveChanged(bool active) override { setListening(active); }
 
@@ -39,13 +42,13 @@ public:
 
 private:
     void setListening(bool);
-    void changed(UIView&, AccessibleChange);
-    void sendStateOf(UIView&);
-    void forget(const UIView&);
+    void changed(toolkit::View&, toolkit::AccessibleChange);
+    void sendStateOf(toolkit::View&);
+    void forget(const toolkit::View&);
 
     QWidget& _widget;
-    Window& _window;
-    std::unordered_map<const UIView*, ViewInterface*> _interfaces;
+    toolkit::Window& _window;
+    std::unordered_map<const toolkit::View*, ViewInterface*> _interfaces;
 };
 
 } // namespace brimsound::desktop

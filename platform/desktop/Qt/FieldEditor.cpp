@@ -2,7 +2,7 @@
 
 #include "platform/desktop/Qt/Fonts.h"
 #include "platform/desktop/Qt/QtCanvas.h"
-#include "platform/desktop/UIKit/TextFieldPeer.h"
+#include "toolkit/drawing/Theme.h"
 
 #include <QKeyEvent>
 
@@ -15,10 +15,10 @@ namespace {
 /// What a line edit keeps free at either side of its text, in points.
 constexpr double sideMargin = 2;
 
-bool isMoving(const UIView& view)
+bool isMoving(const toolkit::View& view)
 {
-    for (const auto* ancestor = &view; ancestor; ancestor = ancestor->superview()) {
-        if (peerOf(*ancestor).animation)
+    for (const auto* ancestor = &view; ancestor; ancestor = ancestor->parent()) {
+        if (ancestor->isMoving())
             return true;
     }
     return false;
@@ -26,21 +26,20 @@ bool isMoving(const UIView& view)
 
 } // namespace
 
-FieldEditor::FieldEditor(QWidget& around, UITextField& field)
+FieldEditor::FieldEditor(QWidget& around, toolkit::TextField& field)
     : QLineEdit(&around)
-    , _field(retain(&field))
+    , _field(toolkit::keep(&field))
 {
-    auto& peer = peerOf(field);
-    peer.hasEditor = true;
-    setAccessibleName(QString::fromStdString(peer.accessibilityLabel));
+    field.setEditor(toolkit::TextField::Editor::Hidden);
+    setAccessibleName(QString::fromStdString(field.label()));
     setFrame(false);
-    if (peer.font)
-        setFont(qFont(*peer.font));
+    if (field.font())
+        setFont(qFont(*field.font()));
     auto colors = palette();
     colors.setColor(QPalette::Base, Qt::transparent);
-    colors.setColor(QPalette::Text, qColor(colorOf(peer.textColor)));
-    colors.setColor(QPalette::Highlight, qColor(theme::tint.withAlpha(0.3)));
-    colors.setColor(QPalette::HighlightedText, qColor(colorOf(peer.textColor)));
+    colors.setColor(QPalette::Text, qColor(field.color()));
+    colors.setColor(QPalette::Highlight, qColor(toolkit::theme::tint.withAlpha(0.3)));
+    colors.setColor(QPalette::HighlightedText, qColor(field.color()));
     setPalette(colors);
     follow();
     connect(this, &QLineEdit::textChanged, this,
@@ -49,9 +48,7 @@ FieldEditor::FieldEditor(QWidget& around, UITextField& field)
 
 FieldEditor::~FieldEditor()
 {
-    auto& peer = peerOf(*_field);
-    peer.hasEditor = false;
-    setNeedsDisplay(*_field);
+    _field->setEditor(toolkit::TextField::Editor::None);
 }
 
 void FieldEditor::liftLengthLimit()
@@ -61,8 +58,8 @@ void FieldEditor::liftLengthLimit()
 
 void FieldEditor::follow()
 {
-    const auto area = peerOf(*_field).textArea();
-    const auto origin = convertToWindow(area.origin, *_field);
+    const auto area = _field->textArea();
+    const auto origin = _field->toWindow(area.origin);
     setGeometry(QRectF(origin.x, origin.y, area.size.width, area.size.height)
                     .adjusted(-sideMargin, 0, sideMargin, 0)
                     .toRect());
@@ -78,7 +75,8 @@ bool FieldEditor::isDrawing() const
 
 void FieldEditor::setFieldDraws(bool draws)
 {
-    peerOf(*_field).isDrawnByEditor = !draws;
+    using Editor = toolkit::TextField::Editor;
+    _field->setEditor(draws ? Editor::Hidden : Editor::Showing);
 }
 
 void FieldEditor::paintEvent(QPaintEvent* event)

@@ -1,7 +1,7 @@
 // The desktop's own editing of a text field.
 #pragma once
 
-#include "platform/UIKit/UITextField.h"
+#include "toolkit/text/TextField.h"
 
 #include <QLineEdit>
 
@@ -12,10 +12,10 @@ namespace brimsound::desktop {
 /// up to the widget around it.
 class FieldEditor : public QLineEdit {
 public:
-    FieldEditor(QWidget& around, UITextField&);
+    FieldEditor(QWidget& around, toolkit::TextField&);
     ~FieldEditor() override;
 
-    const UITextField& field() const { return *_field; }
+    const toolkit::TextField& field() const { return *_field; }
 
     /// Lets more be typed than Qt's 32,767 characters. Qt tells readers of the caret then: one that hears of
     /// it before the editor has the keyboard does not say what the field is.
@@ -33,7 +33,7 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 
 private:
-    const RetainPtr<UITextField> _field;
+    const toolkit::Ref<toolkit::TextField> _field;
 };
 
 } // namespace brimsound::desktop

@@ -57,14 +57,14 @@ bool isPlatformFamily(const QString& family)
 
 } // namespace
 
-QFont qFont(const UIFont& font)
+QFont qFont(const toolkit::Font& font)
 {
-    const auto face = faceNamed(font.fontName());
+    const auto face = faceNamed(font.name);
     QFont result;
     result.setFamilies(isPlatformFamily(face.family) ? standIns() : QStringList { face.family } + standIns());
     result.setWeight(face.weight);
     result.setItalic(face.italic);
-    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pointSize()))));
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size))));
     result.setHintingPreference(QFont::PreferVerticalHinting);
     return result;
 }

@@ -1,7 +1,7 @@
 #include "platform/desktop/Qt/MainLoop.h"
 
-#include "platform/desktop/UIKit/Clock.h"
 #include "platform/desktop/bus/SessionBus.h"
+#include "toolkit/time/Clock.h"
 
 #include <QEventLoop>
 
@@ -33,8 +33,9 @@ MainLoop::MainLoop(Time time)
     _timer.setSingleShot(true);
     _timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&_timer, &QTimer::timeout, &_timer, [this] { tick(); });
-    Clock::shared().realTime = [this] { return static_cast<double>(_elapsed.nsecsElapsed()) * 1e-9; };
-    Clock::shared().onChange = [this] { scheduleTick(); };
+    toolkit::Clock::shared().realTime
+        = [this] { return static_cast<double>(_elapsed.nsecsElapsed()) * 1e-9; };
+    toolkit::Clock::shared().onChange = [this] { scheduleTick(); };
 
     _busTimer.setSingleShot(true);
     QObject::connect(&_busTimer, &QTimer::timeout, &_busTimer, [this] { lookForBus(); });
@@ -48,8 +49,8 @@ MainLoop::~MainLoop()
 {
     if (_time == Time::Virtual)
         return;
-    Clock::shared().realTime = nullptr;
-    Clock::shared().onChange = nullptr;
+    toolkit::Clock::shared().realTime = nullptr;
+    toolkit::Clock::shared().onChange = nullptr;
     SessionBus::shared().onPending = nullptr;
     SessionBus::shared().onReconnect = nullptr;
 }
@@ -58,7 +59,7 @@ void MainLoop::wait(double seconds)
 {
     SessionBus::shared().drain();
     if (_time == Time::Virtual) {
-        Clock::shared().advance(seconds);
+        toolkit::Clock::shared().advance(seconds);
     } else {
         QEventLoop loop;
         QTimer::singleShot(milliseconds(seconds), &loop, &QEventLoop::quit);
@@ -92,13 +93,13 @@ void MainLoop::lookForBus()
 
 void MainLoop::tick()
 {
-    Clock::shared().catchUp();
+    toolkit::Clock::shared().catchUp();
     scheduleTick();
 }
 
 void MainLoop::scheduleTick()
 {
-    const auto& clock = Clock::shared();
+    const auto& clock = toolkit::Clock::shared();
     if (clock.isAnimating()) {
         // Events that come faster than frames must not put the next frame off again and again.
         if (!_timer.isActive() || _timer.remainingTimeAsDuration() > frame)

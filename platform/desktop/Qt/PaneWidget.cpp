@@ -2,7 +2,6 @@
 
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/UIKit/Screen.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -16,6 +15,8 @@
 
 namespace brimsound::desktop {
 
+using toolkit::Key, toolkit::KeyStroke, toolkit::Point, toolkit::Pointer;
+
 namespace {
 
 /// Points that one notch of a wheel scrolls.
@@ -23,7 +24,7 @@ constexpr double notchDistance = 60;
 /// The wheel's angle for one notch, in the eighths of a degree that Qt counts in.
 constexpr double notchAngle = 120;
 
-CGPoint cgPoint(QPointF point)
+Point toolkitPoint(QPointF point)
 {
     return { point.x(), point.y() };
 }
@@ -78,7 +79,7 @@ bool isText(const QString& text)
 
 } // namespace
 
-PaneWidget::PaneWidget(Window& window)
+PaneWidget::PaneWidget(toolkit::Window& window)
     : _window(window)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -86,7 +87,7 @@ PaneWidget::PaneWidget(Window& window)
     setFocusPolicy(Qt::StrongFocus);
     const auto size = window.bounds().size;
     resize(QSizeF(size.width, size.height).toSize());
-    _window.onInvalidate = [this](const CGRect& part) { repaintPart(part); };
+    _window.onInvalidate = [this](const toolkit::Rect& part) { repaintPart(part); };
     // Later, as it may be told from within the painting or from within the editor.
     _window.onFocusMoved = [this] { QTimer::singleShot(0, this, [this] { lendEditor(); }); };
 }
@@ -97,7 +98,7 @@ PaneWidget::~PaneWidget()
     _window.onFocusMoved = nullptr;
 }
 
-void PaneWidget::repaintPart(const CGRect& part)
+void PaneWidget::repaintPart(const toolkit::Rect& part)
 {
     update(QRectF(part.origin.x, part.origin.y, part.size.width, part.size.height).toAlignedRect());
 }
@@ -106,7 +107,7 @@ void PaneWidget::paintEvent(QPaintEvent* event)
 {
     // Everything is painted again whenever the window comes to a screen of another scale.
     setScreenScale(devicePixelRatioF());
-    _window.layOut();
+    _window.layOutAll();
     if (_editor) {
         _editor->follow();
         _editor->setFieldDraws(!_editor->isDrawing());
@@ -114,7 +115,7 @@ void PaneWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setClipRect(event->rect());
     QtCanvas canvas(painter, devicePixelRatioF());
-    drawTree(_window, canvas);
+    _window.drawTree(canvas);
     // A picture of the window shows no editor.
     if (_editor)
         _editor->setFieldDraws(true);
@@ -123,7 +124,7 @@ void PaneWidget::paintEvent(QPaintEvent* event)
 void PaneWidget::resizeEvent(QResizeEvent* event)
 {
     const QSizeF size = event->size();
-    _window.setFrame(CGRectMake(0, 0, size.width(), size.height()));
+    _window.setFrame(toolkit::makeRect(0, 0, size.width(), size.height()));
 }
 
 bool PaneWidget::event(QEvent* event)
@@ -149,7 +150,7 @@ bool PaneWidget::event(QEvent* event)
 void PaneWidget::touchEvent(const QTouchEvent& event)
 {
     for (const auto& point : event.points()) {
-        const auto location = cgPoint(point.position());
+        const auto location = toolkitPoint(point.position());
         if (point.state() == QEventPoint::Pressed && _finger < 0 && !_mouse) {
             _finger = point.id();
             _window.touchDown({ location, Pointer::Finger });
@@ -167,13 +168,13 @@ void PaneWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || isMadeUp(*event) || _finger >= 0)
         return;
     _mouse = true;
-    _window.touchDown({ cgPoint(event->position()), Pointer::Mouse });
+    _window.touchDown({ toolkitPoint(event->position()), Pointer::Mouse });
 }
 
 void PaneWidget::mouseMoveEvent(QMouseEvent* event)
 {
     if (_mouse && !isMadeUp(*event))
-        _window.touchMove(cgPoint(event->position()));
+        _window.touchMove(toolkitPoint(event->position()));
 }
 
 void PaneWidget::mouseReleaseEvent(QMouseEvent* event)
@@ -181,7 +182,7 @@ void PaneWidget::mouseReleaseEvent(QMouseEvent* event)
     if (!_mouse || event->button() != Qt::LeftButton || isMadeUp(*event))
         return;
     _mouse = false;
-    _window.touchUp(cgPoint(event->position()));
+    _window.touchUp(toolkitPoint(event->position()));
 }
 
 void PaneWidget::wheelEvent(QWheelEvent* event)
@@ -189,7 +190,7 @@ void PaneWidget::wheelEvent(QWheelEvent* event)
     const auto pixels = event->pixelDelta();
     const QPointF distance
         = pixels.isNull() ? QPointF(event->angleDelta()) * (notchDistance / notchAngle) : QPointF(pixels);
-    _window.scroll(cgPoint(event->position()), { -distance.x(), -distance.y() });
+    _window.scroll(toolkitPoint(event->position()), { -distance.x(), -distance.y() });
 }
 
 void PaneWidget::keyPressEvent(QKeyEvent* event)
@@ -218,7 +219,7 @@ void PaneWidget::focusInEvent(QFocusEvent* event)
     // that.
     QTimer::singleShot(0, this, [this] {
         if (auto* part = _window.focus().part())
-            accessibleChanged(*part, AccessibleChange::FocusMoved);
+            part->accessibleChanged(toolkit::AccessibleChange::FocusMoved);
     });
 }
 
@@ -230,7 +231,7 @@ void PaneWidget::focusOutEvent(QFocusEvent* event)
 
 void PaneWidget::lendEditor()
 {
-    auto* field = dynamic_cast<UITextField*>(_window.focus().view());
+    auto* field = dynamic_cast<toolkit::TextField*>(_window.focus().view());
     if (_editor && &_editor->field() == field)
         return;
     if (_editor) {

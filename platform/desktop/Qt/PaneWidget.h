@@ -3,7 +3,7 @@
 
 #include "platform/desktop/Qt/Accessibility.h"
 #include "platform/desktop/Qt/FieldEditor.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "toolkit/window/Window.h"
 
 #include <QTouchEvent>
 #include <QWidget>
@@ -16,7 +16,7 @@ namespace brimsound::desktop {
 /// widget.
 class PaneWidget : public QWidget {
 public:
-    explicit PaneWidget(Window&);
+    explicit PaneWidget(toolkit::Window&);
     ~PaneWidget() override;
 
     Accessibility& accessibility() { return _accessibility; }
@@ -37,11 +37,11 @@ protected:
 
 private:
     void touchEvent(const QTouchEvent&);
-    void repaintPart(const CGRect&);
+    void repaintPart(const toolkit::Rect&);
     /// Lays an editor over the text field that has the keyboard, and takes it away from another.
     void lendEditor();
 
-    Window& _window;
+    toolkit::Window& _window;
     Accessibility _accessibility { *this, _window };
     std::unique_ptr<FieldEditor> _editor;
     /// The finger or the mouse that holds the touch; the others are ignored.

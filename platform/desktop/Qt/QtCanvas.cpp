@@ -11,9 +11,11 @@
 
 namespace brimsound::desktop {
 
+using toolkit::Alignment, toolkit::Color, toolkit::Font, toolkit::Point, toolkit::Rect;
+
 namespace {
 
-QRectF qRect(const CGRect& rect)
+QRectF qRect(const Rect& rect)
 {
     return { rect.origin.x, rect.origin.y, rect.size.width, rect.size.height };
 }
@@ -24,20 +26,20 @@ float shownComponent(double component)
     return component > 0 ? static_cast<float>(std::min(component, 1.0)) : 0.0f;
 }
 
-Qt::Alignment qAlignment(NSTextAlignment alignment)
+Qt::Alignment qAlignment(Alignment alignment)
 {
     switch (alignment) {
-    case NSTextAlignment::Center:
+    case Alignment::Center:
         return Qt::AlignHCenter;
-    case NSTextAlignment::Right:
+    case Alignment::Right:
         return Qt::AlignRight;
-    case NSTextAlignment::Left:
+    case Alignment::Left:
         break;
     }
     return Qt::AlignLeft;
 }
 
-double fittingRadius(double radius, const CGRect& rect)
+double fittingRadius(double radius, const Rect& rect)
 {
     return std::min({ radius, rect.size.width / 2, rect.size.height / 2 });
 }
@@ -68,22 +70,22 @@ void QtCanvas::restore()
     painter().restore();
 }
 
-void QtCanvas::translate(double dx, double dy)
+void QtCanvas::translate(Point by)
 {
-    painter().translate(dx, dy);
+    painter().translate(by.x, by.y);
 }
 
-void QtCanvas::clip(const CGRect& rect)
+void QtCanvas::clip(const Rect& rect)
 {
     painter().setClipRect(qRect(rect), Qt::IntersectClip);
 }
 
-bool QtCanvas::showsAnythingIn(const CGRect& rect) const
+bool QtCanvas::showsAnythingIn(const Rect& rect) const
 {
     return painter().clipBoundingRect().intersects(qRect(rect));
 }
 
-void QtCanvas::beginGroup(const CGRect& rect, double alpha, double cornerRadius)
+void QtCanvas::beginGroup(const Rect& rect, double alpha, double cornerRadius)
 {
     auto group = std::make_unique<Group>();
     group->rect = qRect(rect);
@@ -125,19 +127,19 @@ void QtCanvas::endGroup()
     painter().restore();
 }
 
-void QtCanvas::fillRect(const CGRect& rect, const Color& color)
+void QtCanvas::fillRect(const Rect& rect, const Color& color)
 {
     painter().fillRect(qRect(rect), qColor(color));
 }
 
-void QtCanvas::fillPixels(const CGRect& rect, const Color& color)
+void QtCanvas::fillPixels(const Rect& rect, const Color& color)
 {
     painter().setRenderHint(QPainter::Antialiasing, false);
     fillRect(rect, color);
     painter().setRenderHint(QPainter::Antialiasing);
 }
 
-void QtCanvas::fillRoundedRect(const CGRect& rect, double radius, const Color& color)
+void QtCanvas::fillRoundedRect(const Rect& rect, double radius, const Color& color)
 {
     if (radius <= 0) {
         fillRect(rect, color);
@@ -149,7 +151,7 @@ void QtCanvas::fillRoundedRect(const CGRect& rect, double radius, const Color& c
     painter().drawRoundedRect(qRect(rect), fitting, fitting);
 }
 
-void QtCanvas::strokeRoundedRect(const CGRect& rect, double radius, double width, const Color& color)
+void QtCanvas::strokeRoundedRect(const Rect& rect, double radius, double width, const Color& color)
 {
     const double fitting = fittingRadius(radius, rect);
     painter().setPen(QPen(qColor(color), width));
@@ -157,14 +159,14 @@ void QtCanvas::strokeRoundedRect(const CGRect& rect, double radius, double width
     painter().drawRoundedRect(qRect(rect), fitting, fitting);
 }
 
-void QtCanvas::fillEllipse(const CGRect& rect, const Color& color)
+void QtCanvas::fillEllipse(const Rect& rect, const Color& color)
 {
     painter().setPen(Qt::NoPen);
     painter().setBrush(qColor(color));
     painter().drawEllipse(qRect(rect));
 }
 
-void QtCanvas::strokeLine(const std::vector<CGPoint>& points, double width, const Color& color)
+void QtCanvas::strokeLine(const std::vector<Point>& points, double width, const Color& color)
 {
     QPolygonF line;
     for (const auto& point : points)
@@ -173,13 +175,13 @@ void QtCanvas::strokeLine(const std::vector<CGPoint>& points, double width, cons
     painter().drawPolyline(line);
 }
 
-void QtCanvas::drawBitmap(const Bitmap& bitmap, const CGRect& rect)
+void QtCanvas::drawPixels(const toolkit::Pixels& pixels, const Rect& rect)
 {
-    painter().drawImage(qRect(rect), qImage(bitmap));
+    painter().drawImage(qRect(rect), qImage(pixels));
 }
 
-void QtCanvas::drawLine(const std::string& text, const CGRect& rect, const UIFont& font, const Color& color,
-    NSTextAlignment alignment)
+void QtCanvas::drawLine(
+    const std::string& text, const Rect& rect, const Font& font, const Color& color, Alignment alignment)
 {
     const auto face = qFont(font);
     const auto fitting
@@ -191,8 +193,8 @@ void QtCanvas::drawLine(const std::string& text, const CGRect& rect, const UIFon
         fitting);
 }
 
-void QtCanvas::drawParagraph(const std::string& text, const CGRect& rect, const UIFont& font,
-    const Color& color, NSTextAlignment alignment)
+void QtCanvas::drawParagraph(
+    const std::string& text, const Rect& rect, const Font& font, const Color& color, Alignment alignment)
 {
     painter().setFont(qFont(font));
     painter().setPen(qColor(color));

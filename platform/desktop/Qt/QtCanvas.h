@@ -1,7 +1,7 @@
 // A canvas that draws with QPainter.
 #pragma once
 
-#include "platform/desktop/UIKit/Canvas.h"
+#include "toolkit/drawing/Canvas.h"
 
 #include <QColor>
 #include <QImage>
@@ -13,9 +13,9 @@
 namespace brimsound::desktop {
 
 /// The same colour; components outside of their range are brought into it.
-QColor qColor(const Color&);
+QColor qColor(const toolkit::Color&);
 
-class QtCanvas : public Canvas {
+class QtCanvas : public toolkit::Canvas {
 public:
     /// Draws with the painter, which has a clip set and outlives the canvas. `scale` is device pixels a
     /// point.
@@ -23,22 +23,22 @@ public:
 
     void save() override;
     void restore() override;
-    void translate(double dx, double dy) override;
-    void clip(const CGRect&) override;
-    bool showsAnythingIn(const CGRect&) const override;
-    void beginGroup(const CGRect&, double alpha, double cornerRadius) override;
+    void translate(toolkit::Point) override;
+    void clip(const toolkit::Rect&) override;
+    bool showsAnythingIn(const toolkit::Rect&) const override;
+    void beginGroup(const toolkit::Rect&, double alpha, double cornerRadius) override;
     void endGroup() override;
-    void fillRect(const CGRect&, const Color&) override;
-    void fillPixels(const CGRect&, const Color&) override;
-    void fillRoundedRect(const CGRect&, double radius, const Color&) override;
-    void strokeRoundedRect(const CGRect&, double radius, double width, const Color&) override;
-    void fillEllipse(const CGRect&, const Color&) override;
-    void strokeLine(const std::vector<CGPoint>&, double width, const Color&) override;
-    void drawBitmap(const Bitmap&, const CGRect&) override;
-    void drawLine(
-        const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment) override;
-    void drawParagraph(
-        const std::string& text, const CGRect&, const UIFont&, const Color&, NSTextAlignment) override;
+    void fillRect(const toolkit::Rect&, const toolkit::Color&) override;
+    void fillPixels(const toolkit::Rect&, const toolkit::Color&) override;
+    void fillRoundedRect(const toolkit::Rect&, double radius, const toolkit::Color&) override;
+    void strokeRoundedRect(const toolkit::Rect&, double radius, double width, const toolkit::Color&) override;
+    void fillEllipse(const toolkit::Rect&, const toolkit::Color&) override;
+    void strokeLine(const std::vector<toolkit::Point>&, double width, const toolkit::Color&) override;
+    void drawPixels(const toolkit::Pixels&, const toolkit::Rect&) override;
+    void drawLine(const std::string& text, const toolkit::Rect&, const toolkit::Font&, const toolkit::Color&,
+        toolkit::Alignment) override;
+    void drawParagraph(const std::string& text, const toolkit::Rect&, const toolkit::Font&,
+        const toolkit::Color&, toolkit::Alignment) override;
     double hairline() const override { return 1 / _scale; }
 
 private:

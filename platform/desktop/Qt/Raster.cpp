@@ -18,28 +18,25 @@ QImage paintable(const Pixels& pixels)
 
 } // namespace
 
-QImage qImage(const Bitmap& bitmap)
+QImage qImage(const toolkit::Pixels& pixels)
 {
-    const auto& pixels = bitmap.pixels();
-    // By a pointer to what does not change, so that no painter takes it.
-    const uchar* bytes = pixels.bytes;
-    return { bytes, static_cast<int>(pixels.width), static_cast<int>(pixels.height),
+    return { pixels.bytes, static_cast<int>(pixels.width), static_cast<int>(pixels.height),
         static_cast<qsizetype>(pixels.bytesPerRow), QImage::Format_RGBA8888_Premultiplied };
 }
 
-std::shared_ptr<const Bitmap> rasterised(const ImagePeer& image, double scale)
+std::shared_ptr<const Bitmap> rasterized(const toolkit::Image& image, double scale)
 {
-    const auto bitmap = Bitmap::make(static_cast<std::size_t>(std::ceil(image.size.width * scale)),
-        static_cast<std::size_t>(std::ceil(image.size.height * scale)));
+    const auto bitmap = Bitmap::make(static_cast<std::size_t>(std::ceil(image.size().width * scale)),
+        static_cast<std::size_t>(std::ceil(image.size().height * scale)));
     if (!bitmap)
         return nullptr;
     auto picture = paintable(bitmap->pixels());
     QPainter painter(&picture);
     painter.scale(scale, scale);
-    const QRectF bounds(0, 0, image.size.width, image.size.height);
+    const QRectF bounds(0, 0, image.size().width, image.size().height);
     painter.setClipRect(bounds);
     QtCanvas canvas(painter, scale);
-    image.draw(canvas, { {}, image.size });
+    image.draw(canvas, { {}, image.size() });
     return bitmap;
 }
 
@@ -59,7 +56,10 @@ std::shared_ptr<const Bitmap> readPng(std::span<const std::byte> bytes)
 bool writePng(const UIImage& image, const QString& path)
 {
     const auto* picture = image.CGImage();
-    return picture && qImage(bitmapOf(*picture)).save(path, "PNG");
+    if (!picture)
+        return false;
+    const auto& [bytes, width, height, bytesPerRow] = bitmapOf(*picture).pixels();
+    return qImage({ bytes, width, height, bytesPerRow }).save(path, "PNG");
 }
 
 } // namespace brimsound::desktop

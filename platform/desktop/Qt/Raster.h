@@ -1,15 +1,17 @@
 // Bitmaps as Qt knows them.
 #pragma once
 
+#include "platform/UIKit/UIImage.h"
 #include "platform/desktop/UIKit/Raster.h"
+#include "toolkit/drawing/Canvas.h"
 
 #include <QImage>
 #include <QString>
 
 namespace brimsound::desktop {
 
-/// On the bitmap's own pixels, which have to outlive it.
-QImage qImage(const Bitmap&);
+/// On those pixels, which have to outlive it.
+QImage qImage(const toolkit::Pixels&);
 
 /// Writes the image's pixels as a PNG. False when it has none or the file cannot be written.
 bool writePng(const UIImage&, const QString& path);

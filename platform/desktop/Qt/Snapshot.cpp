@@ -1,7 +1,6 @@
 #include "platform/desktop/Qt/Snapshot.h"
 
 #include "platform/desktop/Qt/QtCanvas.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
 
 #include <QPainter>
 
@@ -14,9 +13,9 @@ constexpr double mostPixels = 1e8;
 
 } // namespace
 
-QImage pictureOf(Window& window, double scale)
+QImage pictureOf(toolkit::Window& window, double scale)
 {
-    window.layOut();
+    window.layOutAll();
     const auto size = window.bounds().size;
     if (size.width * scale * size.height * scale > mostPixels)
         return {};
@@ -28,11 +27,11 @@ QImage pictureOf(Window& window, double scale)
     QPainter painter(&picture);
     painter.setClipRect(QRectF(0, 0, size.width, size.height));
     QtCanvas canvas(painter, scale);
-    drawTree(window, canvas);
+    window.drawTree(canvas);
     return picture;
 }
 
-bool writeSnapshot(Window& window, double scale, const QString& path)
+bool writeSnapshot(toolkit::Window& window, double scale, const QString& path)
 {
     return pictureOf(window, scale).save(path, "PNG");
 }

@@ -1,7 +1,7 @@
 // Pictures of the window.
 #pragma once
 
-#include "platform/desktop/UIKit/Window.h"
+#include "toolkit/window/Window.h"
 
 #include <QImage>
 #include <QString>
@@ -10,9 +10,9 @@ namespace brimsound::desktop {
 
 /// Lays the window out and draws all of it, with `scale` device pixels a point. Null when that makes more
 /// than a hundred million pixels, or more than there is memory for.
-QImage pictureOf(Window&, double scale);
+QImage pictureOf(toolkit::Window&, double scale);
 
 /// Writes such a picture as a PNG. False when there is none or the file cannot be written.
-bool writeSnapshot(Window&, double scale, const QString& path);
+bool writeSnapshot(toolkit::Window&, double scale, const QString& path);
 
 } // namespace brimsound::desktop

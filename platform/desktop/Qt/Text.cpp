@@ -1,4 +1,4 @@
-#include "platform/desktop/UIKit/Text.h"
+#include "toolkit/drawing/Font.h"
 
 #include "platform/desktop/Qt/Fonts.h"
 
@@ -8,18 +8,18 @@
 
 #include <cmath>
 
-namespace brimsound::desktop {
+namespace brimsound::toolkit {
 
-double widthOfLine(const std::string& text, const UIFont& font)
+double widthOfLine(const std::string& text, const Font& font)
 {
-    return QFontMetricsF(qFont(font)).horizontalAdvance(QString::fromStdString(text));
+    return QFontMetricsF(desktop::qFont(font)).horizontalAdvance(QString::fromStdString(text));
 }
 
-double heightOfParagraph(const std::string& text, const UIFont& font, double width)
+double heightOfParagraph(const std::string& text, const Font& font, double width)
 {
-    const QFontMetricsF metrics(qFont(font));
+    const QFontMetricsF metrics(desktop::qFont(font));
     const QRectF room(0, 0, width, 1e6);
     return std::ceil(metrics.boundingRect(room, Qt::TextWordWrap, QString::fromStdString(text)).height());
 }
 
-} // namespace brimsound::desktop
+} // namespace brimsound::toolkit

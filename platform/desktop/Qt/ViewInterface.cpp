@@ -1,44 +1,46 @@
 #include "platform/desktop/Qt/ViewInterface.h"
 
 #include "platform/desktop/Qt/Accessibility.h"
-#include "platform/desktop/UIKit/Press.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "toolkit/control/Slider.h"
+#include "toolkit/table/Table.h"
+#include "toolkit/window/Window.h"
 
 #include <QWidget>
 
 namespace brimsound::desktop {
+
+using toolkit::Accessible, toolkit::Role, toolkit::View;
 
 namespace {
 
 /// Qt has no name of its own for it.
 const auto deleteAction = QStringLiteral("Delete");
 
-QAccessible::Role qtRole(AccessibleRole role)
+QAccessible::Role qtRole(Role role)
 {
     switch (role) {
-    case AccessibleRole::None:
+    case Role::None:
         return QAccessible::NoRole;
-    case AccessibleRole::Table:
+    case Role::Table:
         // A list of unlike things; a table to Qt is a grid of cells.
         return QAccessible::Grouping;
-    case AccessibleRole::List:
+    case Role::List:
         return QAccessible::List;
-    case AccessibleRole::Row:
+    case Role::Row:
         return QAccessible::ListItem;
-    case AccessibleRole::Label:
+    case Role::Label:
         return QAccessible::StaticText;
-    case AccessibleRole::Slider:
+    case Role::Slider:
         return QAccessible::Slider;
-    case AccessibleRole::Switch:
+    case Role::Switch:
         return QAccessible::CheckBox;
-    case AccessibleRole::Button:
+    case Role::Button:
         return QAccessible::Button;
-    case AccessibleRole::TextField:
+    case Role::TextField:
         return QAccessible::EditableText;
-    case AccessibleRole::Alert:
+    case Role::Alert:
         return QAccessible::AlertMessage;
-    case AccessibleRole::Dialog:
+    case Role::Dialog:
         return QAccessible::Dialog;
     }
     return QAccessible::NoRole;
@@ -48,16 +50,16 @@ QAccessible::Role qtRole(AccessibleRole role)
 QStringList actionsOf(const Accessible& self)
 {
     switch (self.role) {
-    case AccessibleRole::Button:
-    case AccessibleRole::Row:
+    case Role::Button:
+    case Role::Row:
         return self.deletable ? QStringList { QAccessibleActionInterface::pressAction(), deleteAction }
                               : QStringList { QAccessibleActionInterface::pressAction() };
-    case AccessibleRole::Switch:
+    case Role::Switch:
         return { QAccessibleActionInterface::toggleAction() };
-    case AccessibleRole::Slider:
+    case Role::Slider:
         return { QAccessibleActionInterface::increaseAction(), QAccessibleActionInterface::decreaseAction() };
-    case AccessibleRole::Table:
-    case AccessibleRole::List:
+    case Role::Table:
+    case Role::List:
         return { QAccessibleActionInterface::nextPageAction(),
             QAccessibleActionInterface::previousPageAction() };
     default:
@@ -67,10 +69,10 @@ QStringList actionsOf(const Accessible& self)
 
 } // namespace
 
-QList<QAccessibleInterface*> interfacesIn(Accessibility& accessibility, const UIView& view)
+QList<QAccessibleInterface*> interfacesIn(Accessibility& accessibility, const View& view)
 {
     QList<QAccessibleInterface*> interfaces;
-    for (auto* child : accessibleChildren(view))
+    for (auto* child : view.accessibleChildren())
         interfaces.append(accessibility.interfaceOf(*child));
     return interfaces;
 }
@@ -95,7 +97,7 @@ QAccessibleInterface* focusedAmong(const QList<QAccessibleInterface*>& interface
     return nullptr;
 }
 
-ViewInterface::ViewInterface(Accessibility& accessibility, UIView& view)
+ViewInterface::ViewInterface(Accessibility& accessibility, View& view)
     : _accessibility(accessibility)
     , _view(view)
 {
@@ -103,15 +105,12 @@ ViewInterface::ViewInterface(Accessibility& accessibility, UIView& view)
 
 bool ViewInterface::isValid() const
 {
-    const UIView* ancestor = &_view;
-    while (ancestor && ancestor != &_accessibility.window())
-        ancestor = ancestor->superview();
-    return ancestor != nullptr;
+    return _view.isWithin(_accessibility.window());
 }
 
 Accessible ViewInterface::accessible() const
 {
-    return isValid() ? peerOf(_view).accessible() : Accessible();
+    return isValid() ? _view.accessible() : Accessible();
 }
 
 QWindow* ViewInterface::window() const
@@ -131,7 +130,7 @@ QAccessibleInterface* ViewInterface::child(int index) const
 
 int ViewInterface::childCount() const
 {
-    return isValid() ? static_cast<int>(accessibleChildren(_view).size()) : 0;
+    return isValid() ? static_cast<int>(_view.accessibleChildren().size()) : 0;
 }
 
 int ViewInterface::indexOfChild(const QAccessibleInterface* child) const
@@ -172,14 +171,14 @@ QRect ViewInterface::rect() const
     if (!isValid())
         return {};
     const auto bounds = _view.bounds();
-    const auto origin = convertToWindow(bounds.origin, _view);
+    const auto origin = _view.toWindow(bounds.origin);
     const auto rect = QRectF(origin.x, origin.y, bounds.size.width, bounds.size.height).toAlignedRect();
     return { _accessibility.widget().mapToGlobal(rect.topLeft()), rect.size() };
 }
 
 QAccessible::Role ViewInterface::role() const
 {
-    return qtRole(accessible().role);
+    return isValid() ? qtRole(_view.role()) : QAccessible::NoRole;
 }
 
 QAccessible::State ViewInterface::state() const
@@ -189,31 +188,36 @@ QAccessible::State ViewInterface::state() const
     if (state.invalid)
         return state;
     const auto self = accessible();
-    state.checkable = self.role == AccessibleRole::Switch;
+    state.checkable = self.role == Role::Switch;
     state.checked = self.checked;
-    state.editable = self.role == AccessibleRole::TextField;
-    state.selectable = self.role == AccessibleRole::Row;
+    state.editable = self.role == Role::TextField;
+    state.selectable = self.role == Role::Row;
     state.selected = self.selected;
-    const bool reachable = isReachable(_view);
+    const bool reachable = _view.isReachable();
     state.invisible = !reachable;
-    state.focusable = reachable && self.focusable;
+    state.focusable = reachable && self.role != Role::None && _view.isFocusable();
     state.focused = _accessibility.window().focus().part() == &_view;
-    state.modal = self.role == AccessibleRole::Alert || self.role == AccessibleRole::Dialog;
+    state.modal = self.role == Role::Alert || self.role == Role::Dialog;
     const auto bounds = _view.bounds();
-    const CGRect place { convertToWindow(bounds.origin, _view), bounds.size };
-    state.offscreen = !intersects(place, _accessibility.window().bounds());
+    const toolkit::Rect place { _view.toWindow(bounds.origin), bounds.size };
+    state.offscreen = !toolkit::intersects(place, _accessibility.window().bounds());
     return state;
 }
 
 void* ViewInterface::interface_cast(QAccessible::InterfaceType type)
 {
-    if (type == QAccessible::ValueInterface && accessible().range)
+    if (type == QAccessible::ValueInterface && slider())
         return static_cast<QAccessibleValueInterface*>(this);
-    if (type == QAccessible::TextInterface && accessible().role == AccessibleRole::TextField)
+    if (type == QAccessible::TextInterface && role() == QAccessible::EditableText)
         return static_cast<QAccessibleTextInterface*>(&_fieldText);
     if (type == QAccessible::ActionInterface && !actionNames().isEmpty())
         return static_cast<QAccessibleActionInterface*>(this);
     return nullptr;
+}
+
+toolkit::Slider* ViewInterface::slider() const
+{
+    return isValid() ? dynamic_cast<toolkit::Slider*>(&_view) : nullptr;
 }
 
 QVariant ViewInterface::currentValue() const
@@ -226,8 +230,8 @@ void ViewInterface::setCurrentValue(const QVariant& value)
 {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    if (isNumber && accessible().range)
-        slideTo(static_cast<UISlider&>(_view), number);
+    if (auto* moved = slider(); moved && isNumber)
+        moved->slideTo(number);
 }
 
 QVariant ViewInterface::minimumValue() const
@@ -252,7 +256,7 @@ QStringList ViewInterface::actionNames() const
 {
     const auto self = accessible();
     const auto names = actionsOf(self);
-    return self.focusable ? names + QStringList { setFocusAction() } : names;
+    return self.role != Role::None && _view.isFocusable() ? names + QStringList { setFocusAction() } : names;
 }
 
 void ViewInterface::doAction(const QString& name)
@@ -260,18 +264,16 @@ void ViewInterface::doAction(const QString& name)
     // What an action does may take the view away, and this with it.
     if (!actionNames().contains(name))
         return;
-    const auto self = accessible();
     if (name == setFocusAction())
         _accessibility.window().focus().moveTo(_view);
-    else if (self.range)
-        setCurrentValue(
-            self.range->value + (name == increaseAction() ? self.range->step : -self.range->step));
-    else if (name == deleteAction)
-        deleteRow(static_cast<UITableViewCell&>(_view));
-    else if (self.role == AccessibleRole::Table || self.role == AccessibleRole::List)
-        scrollPages(_view, name == nextPageAction() ? 1 : -1);
+    else if (auto* moved = slider())
+        moved->stepBy(name == increaseAction() ? 1 : -1);
+    else if (auto* scrollView = dynamic_cast<toolkit::ScrollView*>(&_view))
+        scrollView->scrollPages(name == nextPageAction() ? 1 : -1);
+    else if (auto* cell = dynamic_cast<toolkit::Cell*>(&_view); cell && name == deleteAction)
+        cell->deleteRow();
     else
-        press(_view);
+        _view.activate();
 }
 
 } // namespace brimsound::desktop

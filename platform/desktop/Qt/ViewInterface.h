@@ -2,9 +2,13 @@
 #pragma once
 
 #include "platform/desktop/Qt/FieldText.h"
-#include "platform/desktop/UIKit/Accessible.h"
+#include "toolkit/view/View.h"
 
 #include <QAccessibleInterface>
+
+namespace brimsound::toolkit {
+class Slider;
+}
 
 namespace brimsound::desktop {
 
@@ -16,7 +20,7 @@ class ViewInterface : public QAccessibleInterface,
                       public QAccessibleValueInterface,
                       public QAccessibleActionInterface {
 public:
-    ViewInterface(Accessibility&, UIView&);
+    ViewInterface(Accessibility&, toolkit::View&);
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -47,15 +51,17 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    Accessible accessible() const;
+    toolkit::Accessible accessible() const;
+    /// The view as a slider; null when it is none.
+    toolkit::Slider* slider() const;
 
     Accessibility& _accessibility;
-    UIView& _view;
+    toolkit::View& _view;
     FieldText _fieldText { *this };
 };
 
 /// The children of a view as interfaces, in reading order.
-QList<QAccessibleInterface*> interfacesIn(Accessibility&, const UIView&);
+QList<QAccessibleInterface*> interfacesIn(Accessibility&, const toolkit::View&);
 /// The one at a point of the screen; null when there is none.
 QAccessibleInterface* interfaceAt(const QList<QAccessibleInterface*>&, QPoint);
 /// The one that has the keyboard, or in which something has it; null when none has.

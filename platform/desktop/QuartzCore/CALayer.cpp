@@ -1,22 +1,17 @@
 #include "platform/QuartzCore/CALayer.h"
 
-#include "platform/desktop/UIKit/ViewPeer.h"
+#include "platform/desktop/UIKit/HostedView.h"
 
 namespace brimsound {
 
-using desktop::peerOf;
-
 CGFloat CALayer::cornerRadius() const
 {
-    return peerOf(*_view).cornerRadius;
+    return desktop::nativeView(*_view).cornerRadius();
 }
 
 void CALayer::setCornerRadius(CGFloat radius) const
 {
-    if (peerOf(*_view).cornerRadius == radius)
-        return;
-    peerOf(*_view).cornerRadius = radius;
-    desktop::setNeedsDisplay(*_view);
+    desktop::nativeView(*_view).setCornerRadius(radius);
 }
 
 } // namespace brimsound

@@ -1,22 +1,21 @@
-// Plain colour values for drawing.
+// Colors of the platform's interface as the toolkit's, and back.
 #pragma once
 
 #include "platform/UIKit/UIColor.h"
+#include "toolkit/drawing/Color.h"
+
+#include <optional>
 
 namespace brimsound::desktop {
 
-/// Components from 0 to 1, not premultiplied.
-struct Color {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    double alpha = 1;
+using toolkit::Color;
 
-    constexpr Color withAlpha(double newAlpha) const { return { red, green, blue, newAlpha }; }
-    bool operator==(const Color&) const = default;
-};
-
-/// The components of a colour; fully transparent for null.
+/// The components of a color; fully transparent for null.
 Color colorOf(const RetainPtr<UIColor>&);
+
+/// The same; nothing for null.
+std::optional<Color> toolkitColor(const RetainPtr<UIColor>&);
+/// Null for nothing.
+RetainPtr<UIColor> uiColor(const std::optional<Color>&);
 
 } // namespace brimsound::desktop

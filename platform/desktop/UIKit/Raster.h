@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/desktop/CoreGraphics/Bitmap.h"
-#include "platform/desktop/UIKit/ImagePeer.h"
+#include "toolkit/image/Image.h"
 
 #include <cstddef>
 #include <memory>
@@ -12,7 +12,7 @@ namespace brimsound::desktop {
 
 /// The image drawn on a transparent bitmap, its size in points times the scale and rounded up. Null when
 /// there is no such bitmap.
-std::shared_ptr<const Bitmap> rasterised(const ImagePeer&, double scale);
+std::shared_ptr<const Bitmap> rasterized(const toolkit::Image&, double scale);
 
 /// The picture in a PNG file's bytes. Null when they are none.
 std::shared_ptr<const Bitmap> readPng(std::span<const std::byte>);

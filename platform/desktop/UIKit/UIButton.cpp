@@ -1,28 +1,13 @@
 #include "platform/UIKit/UIButton.h"
 
-#include "platform/desktop/UIKit/ControlPeer.h"
+#include "platform/desktop/UIKit/ControlTargets.h"
+#include "toolkit/control/Button.h"
 
 namespace brimsound {
 
-namespace {
-
-struct ButtonPeer : desktop::ControlPeer {
-    desktop::Accessible accessible() const override
-    {
-        // One that lies over no words is no button to anybody who does not see what it is good for.
-        const auto name = desktop::captionOf(static_cast<const UIButton&>(*view));
-        if (name.empty())
-            return {};
-        return { .role = desktop::AccessibleRole::Button, .name = name, .focusable = true };
-    }
-};
-
-} // namespace
-
 UIButton::UIButton(const CGRect& frame)
-    : UIControl(new ButtonPeer)
+    : UIControl(desktop::peer(new desktop::HostedControl<toolkit::Button>(desktop::toolkitRect(frame))))
 {
-    desktop::peerOf(*this).frame = frame;
 }
 
 } // namespace brimsound

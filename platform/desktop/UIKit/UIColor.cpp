@@ -12,13 +12,13 @@ namespace brimsound {
 
 namespace {
 
-struct ColorPeer : Peer {
-    explicit ColorPeer(const desktop::Color& components)
+struct ColorObject : toolkit::Object {
+    explicit ColorObject(const toolkit::Color& components)
         : color(components)
     {
     }
 
-    const desktop::Color color;
+    const toolkit::Color color;
 };
 
 double inRange(double component)
@@ -26,9 +26,9 @@ double inRange(double component)
     return std::clamp(component, 0.0, 1.0);
 }
 
-const desktop::Color& componentsOf(const UIColor& color)
+const toolkit::Color& componentsOf(const UIColor& color)
 {
-    return static_cast<ColorPeer&>(color.peer()).color;
+    return desktop::nativeOf<ColorObject>(color).color;
 }
 
 } // namespace
@@ -41,7 +41,7 @@ UIColor::UIColor(Peer* peer)
 RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
 {
-    return adopt(new UIColor(new ColorPeer({ inRange(red), inRange(green), inRange(blue), inRange(alpha) })));
+    return desktop::uiColor(toolkit::Color { inRange(red), inRange(green), inRange(blue), inRange(alpha) });
 }
 
 // Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
@@ -133,7 +133,17 @@ namespace desktop {
 
 Color colorOf(const RetainPtr<UIColor>& color)
 {
-    return color ? componentsOf(*color) : Color { 0, 0, 0, 0 };
+    return toolkitColor(color).value_or(toolkit::transparent);
+}
+
+std::optional<Color> toolkitColor(const RetainPtr<UIColor>& color)
+{
+    return color ? std::optional(componentsOf(*color)) : std::nullopt;
+}
+
+RetainPtr<UIColor> uiColor(const std::optional<Color>& color)
+{
+    return color ? adopt(&objectOf<UIColor>(*new ColorObject(*color))) : nullptr;
 }
 
 } // namespace desktop

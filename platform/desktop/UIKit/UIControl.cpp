@@ -1,21 +1,43 @@
 #include "platform/UIKit/UIControl.h"
 
-#include "platform/desktop/UIKit/ControlPeer.h"
+#include "platform/desktop/UIKit/ControlTargets.h"
 
 #include <algorithm>
 
 namespace brimsound {
 
-using desktop::ControlPeer;
+using desktop::ControlTargets;
 
 namespace {
 
-/// How far beyond its edges, in points, a control still counts a touch as inside.
-constexpr double touchMargin = 70;
-
-ControlPeer& peerOf(const UIControl& control)
+ControlTargets& targetsOf(const UIControl& control)
 {
-    return static_cast<ControlPeer&>(control.peer());
+    return dynamic_cast<ControlTargets&>(desktop::nativeOf(control));
+}
+
+UIControlEvents bit(toolkit::ControlEvent event)
+{
+    switch (event) {
+    case toolkit::ControlEvent::TouchDown:
+        return UIControlEventTouchDown;
+    case toolkit::ControlEvent::DragInside:
+        return UIControlEventTouchDragInside;
+    case toolkit::ControlEvent::DragOutside:
+        return UIControlEventTouchDragOutside;
+    case toolkit::ControlEvent::DragEnter:
+        return UIControlEventTouchDragEnter;
+    case toolkit::ControlEvent::DragExit:
+        return UIControlEventTouchDragExit;
+    case toolkit::ControlEvent::TouchUpInside:
+        return UIControlEventTouchUpInside;
+    case toolkit::ControlEvent::TouchUpOutside:
+        return UIControlEventTouchUpOutside;
+    case toolkit::ControlEvent::TouchCancel:
+        return UIControlEventTouchCancel;
+    case toolkit::ControlEvent::ValueChanged:
+        return UIControlEventValueChanged;
+    }
+    return 0;
 }
 
 } // namespace
@@ -23,79 +45,42 @@ ControlPeer& peerOf(const UIControl& control)
 UIControl::UIControl(Peer* peer)
     : UIView(peer)
 {
+    desktop::nativeOf<toolkit::Control>(*this).onEvent
+        = [this](toolkit::ControlEvent event) { sendActionsForControlEvents(bit(event)); };
 }
 
 void UIControl::addTargetActionForControlEvents(
     NSObject& target, std::string_view action, UIControlEvents events)
 {
-    auto& targets = peerOf(*this).targets;
-    const auto known = std::ranges::find_if(targets,
-        [&](const ControlPeer::Target& entry) { return entry.object == &target && entry.action == action; });
-    if (known != targets.end())
-        known->events |= events;
-    else
-        targets.push_back({ &target, std::string(action), target.methodForSelector(action), events });
+    targetsOf(*this).add(target, action, events);
 }
 
 void UIControl::sendActionsForControlEvents(UIControlEvents events)
 {
     const auto kept = brimsound::retain(this);
-    const Argument sender = static_cast<NSObject*>(this);
-    const auto& targets = peerOf(*this).targets;
-    // By position: an action may add targets.
-    for (std::size_t i = 0; i < targets.size(); ++i) { // NOLINT(modernize-loop-convert)
-        if ((targets[i].events & events) && targets[i].method)
-            targets[i].method->invoke(*targets[i].object, { &sender, 1 });
-    }
+    targetsOf(*this).send(*this, events);
 }
 
 namespace desktop {
 
-void ControlPeer::touchBegan(const Touch& touch)
+void ControlTargets::add(NSObject& target, std::string_view action, UIControlEvents events)
 {
-    isTracking = true;
-    isTouchInside = true;
-    beginTracking(convertFromWindow(touch.location, *view), touch.pointer);
-    if (isTracking)
-        send(UIControlEventTouchDown);
+    const auto known = std::ranges::find_if(
+        _targets, [&](const Target& entry) { return entry.object == &target && entry.action == action; });
+    if (known != _targets.end())
+        known->events |= events;
+    else
+        _targets.push_back({ &target, std::string(action), target.methodForSelector(action), events });
 }
 
-void ControlPeer::touchMoved(const Touch& touch)
+void ControlTargets::send(UIControl& sender, UIControlEvents events) const
 {
-    if (!isTracking)
-        return;
-    const auto point = convertFromWindow(touch.location, *view);
-    const bool inside = contains(insetBy(boundsOf(*this), -touchMargin, -touchMargin), point);
-    const bool wasInside = std::exchange(isTouchInside, inside);
-    continueTracking(point);
-    // Any of the actions may take the touch away.
-    if (isTracking && inside != wasInside)
-        send(inside ? UIControlEventTouchDragEnter : UIControlEventTouchDragExit);
-    if (isTracking)
-        send(inside ? UIControlEventTouchDragInside : UIControlEventTouchDragOutside);
-}
-
-void ControlPeer::touchEnded(const Touch& touch)
-{
-    if (!std::exchange(isTracking, false))
-        return;
-    const auto point = convertFromWindow(touch.location, *view);
-    const bool inside = contains(insetBy(boundsOf(*this), -touchMargin, -touchMargin), point);
-    endTracking(point, inside);
-    send(inside ? UIControlEventTouchUpInside : UIControlEventTouchUpOutside);
-}
-
-void ControlPeer::touchCancelled()
-{
-    if (!std::exchange(isTracking, false))
-        return;
-    cancelTracking();
-    send(UIControlEventTouchCancel);
-}
-
-void ControlPeer::send(UIControlEvents events)
-{
-    static_cast<UIControl*>(view)->sendActionsForControlEvents(events);
+    const Argument argument = static_cast<NSObject*>(&sender);
+    // By position: an action may add targets.
+    for (std::size_t i = 0; i < _targets.size(); ++i) { // NOLINT(modernize-loop-convert)
+        if ((_targets[i].events & events) && _targets[i].method)
+            _targets[i].method->invoke(*_targets[i].object, { &argument, 1 });
+    }
 }
 
 } // namespace desktop

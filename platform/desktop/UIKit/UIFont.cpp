@@ -1,26 +1,27 @@
 #include "platform/UIKit/UIFont.h"
 
 #include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/UIKit/Font.h"
 #include "platform/desktop/UIKit/Text.h"
+
+#include <utility>
 
 namespace brimsound {
 
 namespace {
 
-struct FontPeer : Peer {
-    FontPeer(std::string fontName, CGFloat pointSize)
-        : name(std::move(fontName))
-        , size(pointSize)
+struct FontObject : toolkit::Object {
+    explicit FontObject(toolkit::Font described)
+        : font(std::move(described))
     {
     }
 
-    const std::string name;
-    const CGFloat size;
+    const toolkit::Font font;
 };
 
-const FontPeer& peerOf(const UIFont& font)
+const toolkit::Font& fontOf(const UIFont& font)
 {
-    return static_cast<FontPeer&>(font.peer());
+    return desktop::nativeOf<FontObject>(font).font;
 }
 
 } // namespace
@@ -32,29 +33,41 @@ UIFont::UIFont(Peer* peer)
 
 RetainPtr<UIFont> UIFont::systemFontOfSize(CGFloat size)
 {
-    return adopt(new UIFont(new FontPeer({}, size)));
+    return desktop::uiFont(toolkit::Font { {}, size });
 }
 
 RetainPtr<UIFont> UIFont::fontWithNameSize(const std::string& name, CGFloat size)
 {
-    if (!desktop::fontExists(name))
-        return nullptr;
-    return adopt(new UIFont(new FontPeer(name, size)));
+    return desktop::fontExists(name) ? desktop::uiFont(toolkit::Font { name, size }) : nullptr;
 }
 
 RetainPtr<UIFont> UIFont::fontWithSize(CGFloat size) const
 {
-    return adopt(new UIFont(new FontPeer(fontName(), size)));
+    return desktop::uiFont(toolkit::Font { fontName(), size });
 }
 
 std::string UIFont::fontName() const
 {
-    return peerOf(*this).name;
+    return fontOf(*this).name;
 }
 
 CGFloat UIFont::pointSize() const
 {
-    return peerOf(*this).size;
+    return fontOf(*this).size;
 }
+
+namespace desktop {
+
+std::optional<toolkit::Font> toolkitFont(const RetainPtr<UIFont>& font)
+{
+    return font ? std::optional(fontOf(*font)) : std::nullopt;
+}
+
+RetainPtr<UIFont> uiFont(const std::optional<toolkit::Font>& font)
+{
+    return font ? adopt(&objectOf<UIFont>(*new FontObject(*font))) : nullptr;
+}
+
+} // namespace desktop
 
 } // namespace brimsound

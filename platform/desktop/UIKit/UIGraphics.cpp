@@ -2,7 +2,7 @@
 
 #include "platform/UIKit/UIScreen.h"
 #include "platform/desktop/CoreGraphics/CGContextPeer.h"
-#include "platform/desktop/UIKit/ImagePeer.h"
+#include "platform/desktop/UIKit/BitmapImage.h"
 
 #include <cmath>
 #include <vector>

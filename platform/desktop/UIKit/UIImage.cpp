@@ -5,6 +5,9 @@
 #include "platform/UIKit/UIScreen.h"
 #include "platform/desktop/CoreGraphics/CGContextPeer.h"
 #include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/Foundation/Peer.h"
+#include "platform/desktop/UIKit/BitmapImage.h"
+#include "platform/desktop/UIKit/Geometry.h"
 #include "platform/desktop/UIKit/Raster.h"
 
 #include <filesystem>
@@ -21,6 +24,11 @@ double scaleInName(const std::string& path)
     if (name.ends_with("@2x"))
         return 2;
     return name.ends_with("@3x") ? 3 : 1;
+}
+
+const desktop::BitmapImage& native(const UIImage& image)
+{
+    return desktop::nativeOf<desktop::BitmapImage>(image);
 }
 
 } // namespace
@@ -44,17 +52,17 @@ RetainPtr<UIImage> UIImage::imageWithContentsOfFile(const std::string& path)
 
 CGSize UIImage::size() const
 {
-    return desktop::peerOf(*this).size;
+    return desktop::cgSize(native(*this).size());
 }
 
 CGFloat UIImage::scale() const
 {
-    return desktop::peerOf(*this).scale();
+    return native(*this).scale();
 }
 
 CGImageRef UIImage::CGImage() const
 {
-    return desktop::peerOf(*this).picture();
+    return native(*this).picture();
 }
 
 void UIImage::drawInRect(const CGRect& rect) const
@@ -67,73 +75,23 @@ void UIImage::drawInRect(const CGRect& rect) const
 
 namespace desktop {
 
-namespace {
-
-class Image : public UIImage {
-public:
-    explicit Image(ImagePeer* peer)
-        : UIImage(peer)
-    {
-    }
-};
-
-struct BitmapImagePeer : ImagePeer {
-    BitmapImagePeer(const RetainPtr<CGImage>& picture, double scale)
-        : _picture(picture)
-        , _scale(scale)
-    {
-        const auto& bitmap = bitmapOf(*picture);
-        size = { static_cast<double>(bitmap.width()) / scale, static_cast<double>(bitmap.height()) / scale };
-    }
-
-    void draw(Canvas& canvas, const CGRect& rect) const override
-    {
-        canvas.drawBitmap(bitmapOf(*_picture), rect);
-    }
-
-    CGImageRef picture() const override { return _picture.get(); }
-    double scale() const override { return _scale; }
-
-private:
-    const RetainPtr<CGImage> _picture;
-    const double _scale;
-};
-
-} // namespace
-
-void ImagePeer::makePixels() const
+BitmapImage::BitmapImage(const RetainPtr<CGImage>& picture, double scale)
+    : Image({ static_cast<double>(bitmapOf(*picture).width()) / scale,
+        static_cast<double>(bitmapOf(*picture).height()) / scale })
+    , _picture(picture)
+    , _scale(scale)
 {
-    if (_scale != 0)
-        return;
-    _scale = UIScreen::mainScreen().scale();
-    _picture = makeCGImage(rasterised(*this, _scale));
 }
 
-CGImageRef ImagePeer::picture() const
+void BitmapImage::draw(toolkit::Canvas& canvas, const toolkit::Rect& rect) const
 {
-    makePixels();
-    return _picture.get();
-}
-
-double ImagePeer::scale() const
-{
-    makePixels();
-    return _scale;
-}
-
-const ImagePeer& peerOf(const UIImage& image)
-{
-    return static_cast<const ImagePeer&>(image.peer());
-}
-
-RetainPtr<UIImage> makeImage(ImagePeer* peer)
-{
-    return make<Image>(peer);
+    const auto& pixels = bitmapOf(*_picture).pixels();
+    canvas.drawPixels({ pixels.bytes, pixels.width, pixels.height, pixels.bytesPerRow }, rect);
 }
 
 RetainPtr<UIImage> makeImage(const RetainPtr<CGImage>& picture, double scale)
 {
-    return picture ? makeImage(new BitmapImagePeer(picture, scale)) : nullptr;
+    return picture ? adopt(&objectOf<UIImage>(*new BitmapImage(picture, scale))) : nullptr;
 }
 
 } // namespace desktop

@@ -1,28 +1,20 @@
 #include "platform/UIKit/UIImageView.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/ImagePeer.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/image/ImageView.h"
 
 namespace brimsound {
 
 namespace {
 
-struct ImageViewPeer : desktop::ViewPeer {
-    RetainPtr<UIImage> image;
-    RetainPtr<UIImage> highlightedImage;
-    bool highlighted = false;
-
-    void draw(desktop::Canvas& canvas) const override
-    {
-        const auto& shown = highlighted && highlightedImage ? highlightedImage : image;
-        if (shown)
-            desktop::peerOf(*shown).draw(canvas, desktop::boundsOf(*this));
-    }
-};
-
-ImageViewPeer& peerOf(const UIImageView& view)
+toolkit::ImageView& native(const UIImageView& view)
 {
-    return static_cast<ImageViewPeer&>(view.peer());
+    return desktop::nativeOf<toolkit::ImageView>(view);
+}
+
+UIImage* imageOf(toolkit::Image* image)
+{
+    return image ? &desktop::objectOf<UIImage>(*image) : nullptr;
 }
 
 } // namespace
@@ -33,49 +25,38 @@ UIImageView::UIImageView(Peer* peer)
 }
 
 UIImageView::UIImageView(const CGRect& frame)
-    : UIImageView(new ImageViewPeer)
+    : UIImageView(desktop::peer(new desktop::Hosted<toolkit::ImageView>(desktop::toolkitRect(frame))))
 {
-    peerOf(*this).frame = frame;
 }
 
 UIImage* UIImageView::image() const
 {
-    return peerOf(*this).image.get();
+    return imageOf(native(*this).image());
 }
 
 void UIImageView::setImage(RetainPtr<UIImage> image)
 {
-    if (peerOf(*this).image == image)
-        return;
-    peerOf(*this).image = std::move(image);
-    desktop::setNeedsDisplay(*this);
-    desktop::rowContentsChanged(*this);
+    native(*this).setImage(desktop::nativeOf<toolkit::Image>(image.get()));
 }
 
 UIImage* UIImageView::highlightedImage() const
 {
-    return peerOf(*this).highlightedImage.get();
+    return imageOf(native(*this).highlightedImage());
 }
 
 void UIImageView::setHighlightedImage(RetainPtr<UIImage> image)
 {
-    if (peerOf(*this).highlightedImage == image)
-        return;
-    peerOf(*this).highlightedImage = std::move(image);
-    desktop::setNeedsDisplay(*this);
+    native(*this).setHighlightedImage(desktop::nativeOf<toolkit::Image>(image.get()));
 }
 
 bool UIImageView::isHighlighted() const
 {
-    return peerOf(*this).highlighted;
+    return native(*this).isHighlighted();
 }
 
 void UIImageView::setHighlighted(bool highlighted)
 {
-    if (peerOf(*this).highlighted == highlighted)
-        return;
-    peerOf(*this).highlighted = highlighted;
-    desktop::setNeedsDisplay(*this);
+    native(*this).setHighlighted(highlighted);
 }
 
 } // namespace brimsound

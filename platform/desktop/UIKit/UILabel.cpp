@@ -1,42 +1,17 @@
 #include "platform/UIKit/UILabel.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/Color.h"
+#include "platform/desktop/UIKit/Font.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/text/Label.h"
 
 namespace brimsound {
 
 namespace {
 
-struct LabelPeer : desktop::ViewPeer {
-    std::string text;
-    RetainPtr<UIFont> font = UIFont::systemFontOfSize(desktop::theme::textSize);
-    RetainPtr<UIColor> textColor = UIColor::blackColor();
-    RetainPtr<UIColor> highlightedTextColor;
-    bool highlighted = false;
-    NSTextAlignment alignment = NSTextAlignment::Left;
-
-    desktop::Color shownColor() const
-    {
-        return desktop::colorOf(highlighted && highlightedTextColor ? highlightedTextColor : textColor);
-    }
-
-    void draw(desktop::Canvas& canvas) const override
-    {
-        if (!text.empty() && font)
-            canvas.drawLine(text, desktop::boundsOf(*this), *font, shownColor(), alignment);
-    }
-
-    desktop::Accessible accessible() const override
-    {
-        if (text.empty() || desktop::namesControl(*view))
-            return {};
-        return { .role = desktop::AccessibleRole::Label, .name = text };
-    }
-};
-
-LabelPeer& peerOf(const UILabel& label)
+toolkit::Label& native(const UILabel& label)
 {
-    return static_cast<LabelPeer&>(label.peer());
+    return desktop::nativeOf<toolkit::Label>(label);
 }
 
 } // namespace
@@ -47,92 +22,86 @@ UILabel::UILabel(Peer* peer)
 }
 
 UILabel::UILabel(const CGRect& frame)
-    : UILabel(new LabelPeer)
+    : UILabel(desktop::peer(new desktop::Hosted<toolkit::Label>(desktop::toolkitRect(frame))))
 {
-    peerOf(*this).frame = frame;
 }
 
 std::string UILabel::text() const
 {
-    return peerOf(*this).text;
+    return native(*this).text();
 }
 
 void UILabel::setText(const std::string& text)
 {
-    if (peerOf(*this).text == text)
-        return;
-    peerOf(*this).text = text;
-    desktop::setNeedsDisplay(*this);
-    desktop::rowContentsChanged(*this);
+    native(*this).setText(text);
 }
 
 RetainPtr<UIFont> UILabel::font() const
 {
-    return peerOf(*this).font;
+    return desktop::uiFont(native(*this).font());
 }
 
 void UILabel::setFont(RetainPtr<UIFont> font)
 {
-    if (peerOf(*this).font == font)
-        return;
-    peerOf(*this).font = std::move(font);
-    desktop::setNeedsDisplay(*this);
-    desktop::rowContentsChanged(*this);
+    native(*this).setFont(desktop::toolkitFont(font));
 }
 
 RetainPtr<UIColor> UILabel::textColor() const
 {
-    return peerOf(*this).textColor;
+    return desktop::uiColor(native(*this).color());
 }
 
 void UILabel::setTextColor(RetainPtr<UIColor> color)
 {
-    auto& peer = peerOf(*this);
-    const auto before = peer.shownColor();
-    peer.textColor = std::move(color);
-    if (peer.shownColor() != before)
-        desktop::setNeedsDisplay(*this);
+    native(*this).setColor(desktop::colorOf(color));
 }
 
 RetainPtr<UIColor> UILabel::highlightedTextColor() const
 {
-    return peerOf(*this).highlightedTextColor;
+    return desktop::uiColor(native(*this).highlightedColor());
 }
 
 void UILabel::setHighlightedTextColor(RetainPtr<UIColor> color)
 {
-    auto& peer = peerOf(*this);
-    const auto before = peer.shownColor();
-    peer.highlightedTextColor = std::move(color);
-    if (peer.shownColor() != before)
-        desktop::setNeedsDisplay(*this);
+    native(*this).setHighlightedColor(desktop::toolkitColor(color));
 }
 
 bool UILabel::isHighlighted() const
 {
-    return peerOf(*this).highlighted;
+    return native(*this).isHighlighted();
 }
 
 void UILabel::setHighlighted(bool highlighted)
 {
-    auto& peer = peerOf(*this);
-    const auto before = peer.shownColor();
-    peer.highlighted = highlighted;
-    if (peer.shownColor() != before)
-        desktop::setNeedsDisplay(*this);
+    native(*this).setHighlighted(highlighted);
 }
 
 NSTextAlignment UILabel::textAlignment() const
 {
-    return peerOf(*this).alignment;
+    switch (native(*this).alignment()) {
+    case toolkit::Alignment::Center:
+        return NSTextAlignment::Center;
+    case toolkit::Alignment::Right:
+        return NSTextAlignment::Right;
+    case toolkit::Alignment::Left:
+        break;
+    }
+    return NSTextAlignment::Left;
 }
 
 void UILabel::setTextAlignment(NSTextAlignment alignment)
 {
-    if (peerOf(*this).alignment == alignment)
-        return;
-    peerOf(*this).alignment = alignment;
-    desktop::setNeedsDisplay(*this);
+    switch (alignment) {
+    case NSTextAlignment::Left:
+        native(*this).setAlignment(toolkit::Alignment::Left);
+        break;
+    case NSTextAlignment::Center:
+        native(*this).setAlignment(toolkit::Alignment::Center);
+        break;
+    case NSTextAlignment::Right:
+        native(*this).setAlignment(toolkit::Alignment::Right);
+        break;
+    }
 }
 
 } // namespace brimsound

@@ -1,7 +1,8 @@
 #include "platform/UIKit/UIScreen.h"
 
+#include "platform/desktop/UIKit/Geometry.h"
 #include "platform/desktop/UIKit/Screen.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "toolkit/window/Window.h"
 
 namespace brimsound {
 
@@ -24,8 +25,8 @@ CGFloat UIScreen::scale() const
 
 CGRect UIScreen::bounds() const
 {
-    const auto* window = desktop::keyWindow();
-    return window ? CGRect { {}, window->bounds().size } : CGRect {};
+    const auto* window = toolkit::keyWindow();
+    return window ? CGRect { {}, desktop::cgSize(window->bounds().size) } : CGRect {};
 }
 
 namespace desktop {

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIScrollView.h"
 
-#include "platform/desktop/UIKit/ScrollPeer.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/scroll/ScrollView.h"
 
 namespace brimsound {
 
@@ -11,12 +12,12 @@ UIScrollView::UIScrollView(Peer* peer)
 
 CGPoint UIScrollView::contentOffset() const
 {
-    return desktop::scrollPeerOf(*this).origin;
+    return desktop::cgPoint(desktop::nativeView(*this).origin());
 }
 
 void UIScrollView::setContentOffset(CGPoint offset)
 {
-    desktop::scrollPeerOf(*this).scrollTo(offset.y);
+    desktop::nativeOf<toolkit::ScrollView>(*this).scrollTo(offset.y);
 }
 
 } // namespace brimsound

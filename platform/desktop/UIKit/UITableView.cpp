@@ -1,12 +1,99 @@
 #include "platform/UIKit/UITableView.h"
 
-#include "platform/desktop/UIKit/TablePeer.h"
-#include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/Color.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/table/Table.h"
 
 namespace brimsound {
 
-using desktop::peerOf;
-using desktop::TablePeer;
+namespace {
+
+NSIndexPath indexPath(toolkit::RowPath path)
+{
+    return { path.section, path.row };
+}
+
+toolkit::RowPath rowPath(const NSIndexPath& path)
+{
+    return { path.section, path.row };
+}
+
+UITableViewCell& productCell(toolkit::Cell& cell)
+{
+    return desktop::objectOf<UITableViewCell>(cell);
+}
+
+/// A table that asks the product's data source and delegate.
+class TableView : public desktop::Hosted<toolkit::Table>, private toolkit::TableSource {
+public:
+    using Hosted::Hosted;
+
+    void setDataSource(UITableViewDataSource* dataSource)
+    {
+        _dataSource = dataSource;
+        setSource(_dataSource ? this : nullptr);
+    }
+    void setDelegate(UITableViewDelegate* delegate)
+    {
+        _delegate = delegate;
+        reload();
+    }
+
+private:
+    UITableView& table() { return desktop::objectOf<UITableView>(*this); }
+
+    std::size_t sectionCount() override { return _dataSource->numberOfSectionsInTableView(table()); }
+    std::size_t rowCount(std::size_t section) override
+    {
+        return _dataSource->tableViewNumberOfRowsInSection(table(), section);
+    }
+    double rowHeight(toolkit::RowPath row) override
+    {
+        return _delegate ? _delegate->tableViewHeightForRowAtIndexPath(table(), indexPath(row)) : 44;
+    }
+    std::string header(std::size_t section) override
+    {
+        return _dataSource->tableViewTitleForHeaderInSection(table(), section);
+    }
+    std::string footer(std::size_t section) override
+    {
+        return _dataSource->tableViewTitleForFooterInSection(table(), section);
+    }
+    toolkit::Ref<toolkit::Cell> cell(toolkit::RowPath row) override
+    {
+        const auto made = _dataSource->tableViewCellForRowAtIndexPath(table(), indexPath(row));
+        return desktop::nativeOf<toolkit::Cell>(made.get());
+    }
+    void willShow(toolkit::Cell& cell, toolkit::RowPath row) override
+    {
+        if (_delegate)
+            _delegate->tableViewWillDisplayCellForRowAtIndexPath(table(), productCell(cell), indexPath(row));
+    }
+    void selected(toolkit::RowPath row) override
+    {
+        if (_delegate)
+            _delegate->tableViewDidSelectRowAtIndexPath(table(), indexPath(row));
+    }
+    bool canDelete(toolkit::RowPath row) override
+    {
+        return _dataSource->tableViewCanEditRowAtIndexPath(table(), indexPath(row));
+    }
+    void deleteRow(toolkit::RowPath row) override
+    {
+        _dataSource->tableViewCommitEditingStyleForRowAtIndexPath(
+            table(), UITableViewCellEditingStyle::Delete, indexPath(row));
+    }
+
+    UITableViewDataSource* _dataSource = nullptr;
+    UITableViewDelegate* _delegate = nullptr;
+};
+
+TableView& native(const UITableView& table)
+{
+    return desktop::nativeOf<TableView>(table);
+}
+
+} // namespace
 
 UITableView::UITableView(Peer* peer)
     : UIScrollView(peer)
@@ -14,75 +101,66 @@ UITableView::UITableView(Peer* peer)
 }
 
 UITableView::UITableView(const CGRect& frame, UITableViewStyle style)
-    : UITableView(new TablePeer(style))
+    : UITableView(desktop::peer(new TableView(desktop::toolkitRect(frame),
+        style == UITableViewStyle::Grouped ? toolkit::Table::Style::Grouped : toolkit::Table::Style::List)))
 {
-    auto& peer = peerOf(*this);
-    peer.frame = frame;
-    const auto color
-        = style == UITableViewStyle::Grouped ? desktop::theme::background : desktop::theme::rowBackground;
-    setBackgroundColor(UIColor::colorWithRedGreenBlueAlpha(color.red, color.green, color.blue, color.alpha));
 }
 
 void UITableView::setDataSource(UITableViewDataSource* dataSource)
 {
-    peerOf(*this).dataSource = dataSource;
-    reloadData();
+    native(*this).setDataSource(dataSource);
 }
 
 void UITableView::setDelegate(UITableViewDelegate* delegate)
 {
-    peerOf(*this).delegate = delegate;
-    reloadData();
+    native(*this).setDelegate(delegate);
 }
 
 void UITableView::reloadData()
 {
-    peerOf(*this).forgetRows();
-    setNeedsLayout();
-    desktop::setNeedsDisplay(*this);
+    native(*this).reload();
 }
 
 void UITableView::deleteRowsAtIndexPathsWithRowAnimation(
     const std::vector<NSIndexPath>& rows, UITableViewRowAnimation)
 {
-    peerOf(*this).removeRows({ rows.begin(), rows.end() });
+    std::set<toolkit::RowPath> gone;
+    for (const auto& row : rows)
+        gone.insert(rowPath(row));
+    native(*this).removeRows(gone);
 }
 
 RetainPtr<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const std::string& identifier)
 {
-    auto cell = peerOf(*this).reusable.extract(identifier);
-    return cell ? cell.mapped() : nullptr;
+    return desktop::retainedObjectOf<UITableViewCell>(native(*this).takeReusableCell(identifier).get());
 }
 
 CGRect UITableView::rectForRowAtIndexPath(const NSIndexPath& indexPath) const
 {
-    auto& peer = peerOf(*this);
-    peer.willLayOut();
-    return peer.hasRow(indexPath) ? peer.rowRect(indexPath) : CGRect();
+    const auto row = rowPath(indexPath);
+    const auto& rows = native(*this).measuredRows();
+    return rows.hasRow(row) ? desktop::cgRect(rows.rowRect(row)) : CGRect();
 }
 
 UITableViewCell* UITableView::cellForRowAtIndexPath(const NSIndexPath& indexPath) const
 {
-    const auto& cells = peerOf(*this).cells;
-    const auto found = cells.find(indexPath);
-    return found == cells.end() ? nullptr : found->second.get();
+    auto* cell = native(*this).cellOf(rowPath(indexPath));
+    return cell ? &productCell(*cell) : nullptr;
 }
 
 RetainPtr<UIColor> UITableView::separatorColor() const
 {
-    return peerOf(*this).separatorColor;
+    return desktop::uiColor(native(*this).separatorColor());
 }
 
 void UITableView::setSeparatorColor(RetainPtr<UIColor> color)
 {
-    peerOf(*this).separatorColor = std::move(color);
-    setNeedsLayout();
-    desktop::setNeedsDisplay(*this);
+    native(*this).setSeparatorColor(desktop::toolkitColor(color));
 }
 
 void UITableView::layoutSubviews()
 {
-    peerOf(*this).tile();
+    UIView::layoutSubviews();
 }
 
 } // namespace brimsound

@@ -1,40 +1,28 @@
 #include "platform/UIKit/UITableViewCell.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/Theme.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/table/Cell.h"
 
 namespace brimsound {
 
-using desktop::CellPeer;
-using desktop::peerOf;
-namespace theme = desktop::theme;
-
 namespace {
 
-/// The platform's own size of a new cell.
-CGSize sizeOfNewCells { 320, 44 };
+toolkit::Cell& native(const UITableViewCell& cell)
+{
+    return desktop::nativeOf<toolkit::Cell>(cell);
+}
 
-constexpr double detailTextSize = 12;
+toolkit::Cell::Style nativeStyle(UITableViewCellStyle style)
+{
+    return style == UITableViewCellStyle::Subtitle ? toolkit::Cell::Style::Subtitle
+                                                   : toolkit::Cell::Style::OneText;
+}
 
 } // namespace
 
 UITableViewCell::UITableViewCell(UITableViewCellStyle style, const std::string& reuseIdentifier)
-    : UITableViewCell(new CellPeer)
+    : UITableViewCell(desktop::peer(new desktop::Hosted<toolkit::Cell>(nativeStyle(style), reuseIdentifier)))
 {
-    auto& peer = peerOf(*this);
-    peer.reuseIdentifier = reuseIdentifier;
-    peer.frame.size = sizeOfNewCells;
-    peer.contentView = make<UIView>(bounds());
-    addSubview(*peer.contentView);
-    peer.textLabel = make<UILabel>();
-    peer.contentView->addSubview(*peer.textLabel);
-    if (style == UITableViewCellStyle::Subtitle) {
-        peer.detailTextLabel = make<UILabel>();
-        peer.detailTextLabel->setFont(UIFont::systemFontOfSize(detailTextSize));
-        peer.contentView->addSubview(*peer.detailTextLabel);
-    }
-    peer.selectedBackgroundView = desktop::makeSelectedBackground();
-    peer.selectedBackgroundView->setFrame(bounds());
 }
 
 UITableViewCell::UITableViewCell(Peer* peer)
@@ -44,133 +32,89 @@ UITableViewCell::UITableViewCell(Peer* peer)
 
 std::string UITableViewCell::reuseIdentifier() const
 {
-    return peerOf(*this).reuseIdentifier;
+    return native(*this).reuseIdentifier();
 }
 
 UIView& UITableViewCell::contentView() const
 {
-    return *peerOf(*this).contentView;
+    return *desktop::viewOf(&native(*this).content());
 }
 
 UILabel& UITableViewCell::textLabel() const
 {
-    return *peerOf(*this).textLabel;
+    return desktop::objectOf<UILabel>(native(*this).textLabel());
 }
 
 UILabel* UITableViewCell::detailTextLabel() const
 {
-    return peerOf(*this).detailTextLabel.get();
+    auto* label = native(*this).detailLabel();
+    return label ? &desktop::objectOf<UILabel>(*label) : nullptr;
 }
 
 UIImageView& UITableViewCell::imageView() const
 {
-    auto& peer = peerOf(*this);
-    if (!peer.imageView) {
-        peer.imageView = make<UIImageView>();
-        peer.contentView->addSubview(*peer.imageView);
-    }
-    return *peer.imageView;
+    return desktop::objectOf<UIImageView>(native(*this).imageView());
 }
 
 UIView* UITableViewCell::accessoryView() const
 {
-    return peerOf(*this).accessoryView.get();
+    return desktop::viewOf(native(*this).accessory());
 }
 
 void UITableViewCell::setAccessoryView(RetainPtr<UIView> view)
 {
-    auto& peer = peerOf(*this);
-    if (peer.accessoryView)
-        peer.accessoryView->removeFromSuperview();
-    peer.accessoryView = std::move(view);
-    if (peer.accessoryView)
-        addSubview(*peer.accessoryView);
-    setNeedsLayout();
+    native(*this).setAccessory(desktop::nativeOf<toolkit::View>(view.get()));
 }
 
 UIView* UITableViewCell::backgroundView() const
 {
-    return peerOf(*this).backgroundView.get();
+    return desktop::viewOf(native(*this).backgroundView());
 }
 
 void UITableViewCell::setBackgroundView(RetainPtr<UIView> view)
 {
-    auto& peer = peerOf(*this);
-    if (peer.backgroundView)
-        peer.backgroundView->removeFromSuperview();
-    peer.backgroundView = std::move(view);
-    if (peer.backgroundView)
-        desktop::insertSubview(*this, *peer.backgroundView, 0);
-    setNeedsLayout();
+    native(*this).setBackgroundView(desktop::nativeOf<toolkit::View>(view.get()));
 }
 
 UIView* UITableViewCell::selectedBackgroundView() const
 {
-    return peerOf(*this).selectedBackgroundView.get();
+    return desktop::viewOf(native(*this).selectedBackgroundView());
 }
 
 void UITableViewCell::setSelectedBackgroundView(RetainPtr<UIView> view)
 {
-    auto& peer = peerOf(*this);
-    if (peer.selectedBackgroundView)
-        peer.selectedBackgroundView->removeFromSuperview();
-    peer.selectedBackgroundView = std::move(view);
-    peer.placeSelectedBackground();
+    native(*this).setSelectedBackgroundView(desktop::nativeOf<toolkit::View>(view.get()));
 }
 
 bool UITableViewCell::isSelected() const
 {
-    return peerOf(*this).isSelected;
+    return native(*this).isSelected();
 }
 
 void UITableViewCell::setSelected(bool selected, Animated animated)
 {
-    auto& peer = peerOf(*this);
-    if (std::exchange(peer.isSelected, selected) != selected)
-        desktop::accessibleChanged(*this, desktop::AccessibleChange::StateChanged);
-    peer.showState(animated);
+    native(*this).setSelected(selected, animated == Animated::Yes);
 }
 
 bool UITableViewCell::isHighlighted() const
 {
-    return peerOf(*this).isHighlighted;
+    return native(*this).isHighlighted();
 }
 
 UITableViewCellSelectionStyle UITableViewCell::selectionStyle() const
 {
-    return peerOf(*this).selectionStyle;
+    return native(*this).isSelectable() ? UITableViewCellSelectionStyle::Default
+                                        : UITableViewCellSelectionStyle::None;
 }
 
 void UITableViewCell::setSelectionStyle(UITableViewCellSelectionStyle style)
 {
-    peerOf(*this).selectionStyle = style;
+    native(*this).setSelectable(style != UITableViewCellSelectionStyle::None);
 }
 
 void UITableViewCell::layoutSubviews()
 {
-    const auto& peer = peerOf(*this);
-    const auto [width, height] = bounds().size;
-    double free = width;
-    if (peer.accessoryView) {
-        const auto size = peer.accessoryView->bounds().size;
-        free = width - theme::rowMargin - size.width;
-        peer.accessoryView->setFrame(CGRectMake(free, (height - size.height) / 2, size.width, size.height));
-    }
-    for (const auto& background : { peer.backgroundView, peer.selectedBackgroundView }) {
-        if (background)
-            background->setFrame(bounds());
-    }
-    contentView().setFrame(CGRectMake(0, 0, free, height));
-    peer.placeContents();
+    UIView::layoutSubviews();
 }
-
-namespace desktop {
-
-void setSizeOfNewCells(CGSize size)
-{
-    sizeOfNewCells = size;
-}
-
-} // namespace desktop
 
 } // namespace brimsound

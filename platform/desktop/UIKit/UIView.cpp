@@ -1,273 +1,244 @@
 #include "platform/UIKit/UIView.h"
 
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "platform/desktop/UIKit/Window.h"
-
-#include <algorithm>
-#include <utility>
+#include "platform/UIKit/UIImageView.h"
+#include "platform/UIKit/UILabel.h"
+#include "platform/desktop/UIKit/Color.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/image/ImageView.h"
+#include "toolkit/text/Label.h"
+#include "toolkit/window/Window.h"
 
 namespace brimsound {
 
-using desktop::peerOf;
-using desktop::ViewPeer;
+using desktop::nativeView;
 
 namespace {
 
-bool isFlexible(const RetainPtr<UIView>& view)
+/// Null for a view that the toolkit made.
+desktop::HostedView* hostedView(const UIView& view)
 {
-    return view->autoresizingMask() != UIViewAutoresizingNone;
-}
-
-/// Has the subviews follow a change of their superview's size.
-void resizeSubviews(const std::vector<RetainPtr<UIView>>& subviews, CGSize before, CGSize after)
-{
-    for (const auto& subview : subviews) {
-        const auto mask = subview->autoresizingMask();
-        if (mask == UIViewAutoresizingNone)
-            continue;
-        auto frame = subview->frame();
-        if (mask & UIViewAutoresizingFlexibleWidth)
-            frame.size.width += after.width - before.width;
-        if (mask & UIViewAutoresizingFlexibleHeight)
-            frame.size.height += after.height - before.height;
-        subview->setFrame(frame);
-    }
+    return dynamic_cast<desktop::HostedView*>(&nativeView(view));
 }
 
 } // namespace
 
 UIView::UIView(const CGRect& frame)
-    : UIView(new ViewPeer)
+    : UIView(desktop::peer(new desktop::Hosted<toolkit::View>(desktop::toolkitRect(frame))))
 {
-    peerOf(*this).frame = frame;
 }
 
 UIView::UIView(Peer* peer)
     : NSObject(peer)
 {
-    peerOf(*this).view = this;
 }
 
-UIView::~UIView()
-{
-    for (const auto& subview : peerOf(*this).subviews)
-        peerOf(*subview).superview = nullptr;
-}
+UIView::~UIView() = default;
 
 CGRect UIView::frame() const
 {
-    return peerOf(*this).frame;
+    return desktop::cgRect(nativeView(*this).frame());
 }
 
 void UIView::setFrame(const CGRect& frame)
 {
-    auto& peer = peerOf(*this);
-    if (peer.frame == frame)
-        return;
-    desktop::setNeedsDisplay(*this);
-    desktop::startFrom(peer, peer.shownFrame(), &desktop::Animation::frame);
-    const auto before = std::exchange(peer.frame, frame).size;
-    if (before != frame.size) {
-        peer.needsLayout = true;
-        // A copy, as a subview that is resized may change the list; most have none that follows.
-        if (std::ranges::any_of(peer.subviews, isFlexible))
-            resizeSubviews(subviews(), before, frame.size);
-    }
-    desktop::setNeedsDisplay(*this);
+    nativeView(*this).View::setFrame(desktop::toolkitRect(frame));
 }
 
 CGRect UIView::bounds() const
 {
-    return desktop::boundsOf(peerOf(*this));
+    return desktop::cgRect(nativeView(*this).bounds());
 }
 
 UIViewAutoresizing UIView::autoresizingMask() const
 {
-    return peerOf(*this).autoresizingMask;
+    const auto& view = nativeView(*this);
+    return (view.followsWidth() ? UIViewAutoresizingFlexibleWidth : UIViewAutoresizingNone)
+        | (view.followsHeight() ? UIViewAutoresizingFlexibleHeight : UIViewAutoresizingNone);
 }
 
 void UIView::setAutoresizingMask(UIViewAutoresizing mask)
 {
-    peerOf(*this).autoresizingMask = mask;
+    nativeView(*this).setFollowsParent(
+        mask & UIViewAutoresizingFlexibleWidth, mask & UIViewAutoresizingFlexibleHeight);
 }
 
 UIView* UIView::superview() const
 {
-    return peerOf(*this).superview;
+    return desktop::viewOf(nativeView(*this).parent());
 }
 
 std::vector<RetainPtr<UIView>> UIView::subviews() const
 {
-    return peerOf(*this).subviews;
+    std::vector<RetainPtr<UIView>> views;
+    for (const auto& child : nativeView(*this).children())
+        views.push_back(brimsound::retain(desktop::viewOf(child.get())));
+    return views;
 }
 
 void UIView::addSubview(UIView& view)
 {
-    const auto kept = brimsound::retain(&view);
-    view.removeFromSuperview();
-    peerOf(*this).subviews.push_back(kept);
-    peerOf(view).superview = this;
-    setNeedsLayout();
-    desktop::setNeedsDisplay(view);
-    desktop::accessibleChanged(view, desktop::AccessibleChange::Shown);
+    nativeView(*this).add(nativeView(view));
 }
 
 void UIView::removeFromSuperview()
 {
-    if (!superview())
-        return;
-    desktop::accessibleChanged(*this, desktop::AccessibleChange::WillHide);
-    if (auto* window = desktop::windowOf(*this))
-        window->focus().forgetWithin(*this);
-    desktop::setNeedsDisplay(*this);
-    const auto kept = brimsound::retain(this);
-    auto* former = std::exchange(peerOf(*this).superview, nullptr);
-    std::erase(peerOf(*former).subviews, kept);
+    nativeView(*this).removeFromParent();
 }
 
 void UIView::setNeedsLayout()
 {
-    peerOf(*this).needsLayout = true;
+    nativeView(*this).setNeedsLayout();
 }
 
 void UIView::layoutIfNeeded()
 {
-    desktop::layOutTree(*this);
+    nativeView(*this).layOutIfNeeded();
 }
 
-void UIView::layoutSubviews() { }
+void UIView::layoutSubviews()
+{
+    if (auto* hosted = hostedView(*this))
+        hosted->layOutItself();
+}
 
 RetainPtr<UIColor> UIView::backgroundColor() const
 {
-    return peerOf(*this).backgroundColor;
+    const auto* hosted = hostedView(*this);
+    return hosted && hosted->backgroundColor() ? hosted->backgroundColor()
+                                               : desktop::uiColor(nativeView(*this).background());
 }
 
 void UIView::setBackgroundColor(RetainPtr<UIColor> color)
 {
-    auto& peer = peerOf(*this);
-    if (desktop::colorOf(color) != desktop::colorOf(peer.backgroundColor)) {
-        desktop::startFrom(peer, peer.shownBackground(), &desktop::Animation::background);
-        desktop::setNeedsDisplay(*this);
-    }
-    peer.backgroundColor = std::move(color);
+    nativeView(*this).setBackground(desktop::toolkitColor(color));
+    if (auto* hosted = hostedView(*this))
+        hosted->setBackgroundColor(std::move(color));
 }
 
 CGFloat UIView::alpha() const
 {
-    return peerOf(*this).alpha;
+    return nativeView(*this).alpha();
 }
 
 void UIView::setAlpha(CGFloat alpha)
 {
-    alpha = std::clamp(alpha, 0.0, 1.0);
-    auto& peer = peerOf(*this);
-    if (peer.alpha == alpha)
-        return;
-    desktop::startFrom(peer, peer.shownAlpha(), &desktop::Animation::alpha);
-    peer.alpha = alpha;
-    desktop::setNeedsDisplay(*this);
+    nativeView(*this).setAlpha(alpha);
 }
 
 bool UIView::isHidden() const
 {
-    return peerOf(*this).hidden;
+    return nativeView(*this).isHidden();
 }
 
 void UIView::setHidden(bool hidden)
 {
-    if (peerOf(*this).hidden == hidden)
-        return;
-    // Before and after, as what is hidden asks for no drawing.
-    desktop::setNeedsDisplay(*this);
-    peerOf(*this).hidden = hidden;
-    desktop::setNeedsDisplay(*this);
+    nativeView(*this).setHidden(hidden);
 }
 
 bool UIView::clipsToBounds() const
 {
-    return peerOf(*this).clipsToBounds;
+    return nativeView(*this).clips();
 }
 
 void UIView::setClipsToBounds(bool clips)
 {
-    if (peerOf(*this).clipsToBounds == clips)
-        return;
-    // Before and after, as what is clipped asks for less drawing.
-    desktop::setNeedsDisplay(*this);
-    peerOf(*this).clipsToBounds = clips;
-    desktop::setNeedsDisplay(*this);
+    nativeView(*this).setClips(clips);
 }
 
 bool UIView::isUserInteractionEnabled() const
 {
-    return peerOf(*this).userInteractionEnabled;
+    return nativeView(*this).isInteractive();
 }
 
 void UIView::setUserInteractionEnabled(bool enabled)
 {
-    peerOf(*this).userInteractionEnabled = enabled;
+    nativeView(*this).setInteractive(enabled);
 }
 
 bool UIView::becomeFirstResponder()
 {
-    auto* window = desktop::windowOf(*this);
+    auto* window = nativeView(*this).window();
     if (!window || !canBecomeFirstResponder())
         return false;
-    window->focus().giveTo(*this);
+    window->focus().giveTo(nativeView(*this));
     return true;
 }
 
 void UIView::resignFirstResponder()
 {
     if (isFirstResponder())
-        desktop::windowOf(*this)->focus().takeFrom(*this);
+        nativeView(*this).window()->focus().takeFrom(nativeView(*this));
 }
 
 bool UIView::isFirstResponder() const
 {
-    auto* window = desktop::windowOf(*this);
-    return window && canBecomeFirstResponder() && window->focus().isGivenTo(*this);
+    const auto* window = nativeView(*this).window();
+    return window && canBecomeFirstResponder() && window->focus().isGivenTo(nativeView(*this));
 }
 
 long UIView::tag() const
 {
-    return peerOf(*this).tag;
+    return nativeView(*this).tag();
 }
 
 void UIView::setTag(long tag)
 {
-    peerOf(*this).tag = tag;
-}
-
-std::string UIView::accessibilityLabel() const
-{
-    return peerOf(*this).accessibilityLabel;
-}
-
-void UIView::setAccessibilityLabel(const std::string& label)
-{
-    peerOf(*this).accessibilityLabel = label;
-}
-
-UIAccessibilityTraits UIView::accessibilityTraits() const
-{
-    return peerOf(*this).accessibilityTraits;
-}
-
-void UIView::setAccessibilityTraits(UIAccessibilityTraits traits)
-{
-    peerOf(*this).accessibilityTraits = traits;
+    nativeView(*this).setTag(tag);
 }
 
 UIView* UIView::viewWithTag(long tag)
 {
-    if (this->tag() == tag)
-        return this;
-    for (const auto& subview : peerOf(*this).subviews) {
-        if (auto* found = subview->viewWithTag(tag))
-            return found;
-    }
-    return nullptr;
+    return desktop::viewOf(nativeView(*this).withTag(tag));
 }
+
+std::string UIView::accessibilityLabel() const
+{
+    return nativeView(*this).label();
+}
+
+void UIView::setAccessibilityLabel(const std::string& label)
+{
+    nativeView(*this).setLabel(label);
+}
+
+UIAccessibilityTraits UIView::accessibilityTraits() const
+{
+    return nativeView(*this).isChosen() ? UIAccessibilityTraitSelected : UIAccessibilityTraitNone;
+}
+
+void UIView::setAccessibilityTraits(UIAccessibilityTraits traits)
+{
+    nativeView(*this).setChosen(traits & UIAccessibilityTraitSelected);
+}
+
+bool UIView::isAccessibilityElement() const
+{
+    return nativeView(*this).isRead();
+}
+
+void UIView::setIsAccessibilityElement(bool isElement)
+{
+    nativeView(*this).setRead(isElement);
+}
+
+void UIView::animateWithDurationAnimations(double seconds, const std::function<void()>& animations)
+{
+    toolkit::View::animate(seconds, animations);
+}
+
+namespace desktop {
+
+UIView* viewOf(toolkit::View* view)
+{
+    if (!view)
+        return nullptr;
+    if (dynamic_cast<toolkit::Label*>(view))
+        return &objectOf<UILabel>(*view);
+    if (dynamic_cast<toolkit::ImageView*>(view))
+        return &objectOf<UIImageView>(*view);
+    return &objectOf<UIView>(*view);
+}
+
+} // namespace desktop
 
 } // namespace brimsound

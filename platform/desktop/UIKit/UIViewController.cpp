@@ -1,39 +1,18 @@
 #include "platform/UIKit/UIViewController.h"
 
-#include "platform/desktop/UIKit/ViewControllerPeer.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "platform/desktop/UIKit/Controller.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/window/Sheet.h"
+#include "toolkit/window/Window.h"
+
+#include <utility>
 
 namespace brimsound {
 
-using desktop::peerOf;
-using desktop::ViewControllerPeer;
-
-namespace {
-
-constexpr double dimming = 0.4;
-
-/// A presented controller's view, as large as the window.
-class Sheet : public desktop::Overlay {
-public:
-    explicit Sheet(UIViewController& controller)
-        : Overlay(dimming)
-        , _controller(brimsound::retain(&controller))
-    {
-        addSubview(controller.view());
-    }
-
-    void layoutSubviews() override { _controller->view().setFrame(bounds()); }
-    void escape() override { peerOf(*_controller).escape(); }
-
-private:
-    RetainPtr<UIViewController> _controller;
-};
-
-} // namespace
+using desktop::nativeController;
 
 UIViewController::UIViewController()
-    : UIViewController(new ViewControllerPeer)
+    : UIViewController(desktop::peer(new desktop::Controller))
 {
 }
 
@@ -44,27 +23,24 @@ UIViewController::UIViewController(Peer* peer)
 
 UIView& UIViewController::view() const
 {
-    auto& peer = peerOf(*this);
-    if (!peer.view)
-        peer.take(make<UIView>(), const_cast<UIViewController*>(this));
-    return *peer.view;
+    auto& controller = nativeController(*this);
+    if (!controller.view())
+        controller.setView(desktop::nativeOf<toolkit::View>(make<UIView>().get()));
+    return *desktop::viewOf(controller.view().get());
 }
 
 void UIViewController::setView(RetainPtr<UIView> view)
 {
-    peerOf(*this).take(std::move(view), this);
+    nativeController(*this).setView(desktop::nativeOf<toolkit::View>(view.get()));
 }
 
 void UIViewController::presentViewControllerAnimatedCompletion(
     RetainPtr<UIViewController> controller, Animated animated, const std::function<void()>& completion)
 {
-    auto& peer = peerOf(*this);
-    auto* window = desktop::keyWindow();
-    if (peer.presented || !controller || !window)
+    auto& self = nativeController(*this);
+    if (self.presented() || !controller || !toolkit::keyWindow())
         return;
-    peer.presented = std::move(controller);
-    peer.overlay = make<Sheet>(*peer.presented);
-    peer.overlay->appearIn(*window, animated);
+    self.present(std::move(controller), animated == Animated::Yes);
     if (completion)
         completion();
 }
@@ -72,47 +48,57 @@ void UIViewController::presentViewControllerAnimatedCompletion(
 void UIViewController::dismissViewControllerAnimatedCompletion(
     Animated animated, const std::function<void()>& completion)
 {
-    auto& peer = peerOf(*this);
-    if (!peer.presented)
+    auto& self = nativeController(*this);
+    if (!self.presented())
         return;
-    std::exchange(peer.overlay, nullptr)->disappear(animated);
-    peer.presented = nullptr;
+    self.dismiss(animated == Animated::Yes);
     if (completion)
         completion();
 }
 
 namespace desktop {
 
-ViewControllerPeer::~ViewControllerPeer()
+Controller::Controller() = default;
+
+Controller::~Controller()
 {
-    take(nullptr, nullptr);
+    tellView(nullptr);
 }
 
-void ViewControllerPeer::take(RetainPtr<UIView> taken, UIViewController* controller)
+void Controller::setView(toolkit::Ref<toolkit::View> view)
 {
-    if (view)
-        peerOf(*view).controller = nullptr;
-    view = std::move(taken);
-    if (view)
-        peerOf(*view).controller = controller;
+    tellView(nullptr);
+    _view = std::move(view);
+    tellView(static_cast<UIViewController*>(existingObjectOf(*this)));
 }
 
-ViewControllerPeer& peerOf(const UIViewController& controller)
+void Controller::tellView(UIViewController* controller) const
 {
-    return static_cast<ViewControllerPeer&>(controller.peer());
+    if (auto* hosted = dynamic_cast<HostedView*>(_view.get()))
+        hosted->setController(controller);
 }
 
-RetainPtr<UIViewController> makeViewController(RetainPtr<UIView> view)
+void Controller::present(RetainPtr<UIViewController> controller, bool animated)
 {
-    struct Controller : UIViewController {
-        explicit Controller(Peer* peer)
-            : UIViewController(peer)
-        {
-        }
-    };
-    auto controller = make<Controller>(new ViewControllerPeer);
-    controller->setView(std::move(view));
-    return controller;
+    _presented = std::move(controller);
+    // The sheet may fade for longer than this lives.
+    const auto escape = [kept = _presented] { nativeController(*kept).escape(); };
+    _sheet = toolkit::make<toolkit::Sheet>(nativeView(_presented->view()), escape);
+    _sheet->appearIn(*toolkit::keyWindow(), animated);
+}
+
+void Controller::dismiss(bool animated)
+{
+    std::exchange(_sheet, nullptr)->disappear(animated);
+    _presented = nullptr;
+}
+
+RetainPtr<UIViewController> makeViewController(toolkit::View& view)
+{
+    auto* controller = new Controller;
+    auto object = adopt(&objectOf<UIViewController>(*controller));
+    controller->setView(toolkit::keep(&view));
+    return object;
 }
 
 } // namespace desktop

@@ -235,6 +235,16 @@ void UIView::setAccessibilityLabel(const std::string& label)
     [nativeView(*this) setAccessibilityLabel:label.empty() ? nil : ios::nativeText(label)];
 }
 
+bool UIView::isAccessibilityElement() const
+{
+    return [nativeView(*this) isAccessibilityElement];
+}
+
+void UIView::setIsAccessibilityElement(bool isElement)
+{
+    [nativeView(*this) setIsAccessibilityElement:isElement];
+}
+
 UIAccessibilityTraits UIView::accessibilityTraits() const
 {
     return [nativeView(*this) accessibilityTraits];

@@ -1,8 +1,7 @@
 #include "platform/desktop/Preferences/SpecifierCell.h"
-#include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "platform/desktop/UIKit/HostedView.h"
 #include "tests/support/EnvironmentVariable.h"
+#include "toolkit/window/Window.h"
 
 #include <gmock/gmock.h>
 
@@ -13,11 +12,12 @@ namespace brimsound::tests {
 
 namespace {
 
+using desktop::nativeView;
 using desktop::SpecifierCell;
-using desktop::Window;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+using toolkit::Window;
 
 using Properties = PropertyList::Dictionary;
 
@@ -105,14 +105,14 @@ protected:
     APane()
     {
         pane->initForContentSize(size);
-        window->addSubview(pane->table());
+        window->add(nativeView(pane->table()));
     }
 
     void show(const std::vector<Properties>& items) const
     {
         pane->show(items);
         pane->table().reloadData();
-        window->layOut();
+        window->layOutAll();
     }
 
     SpecifierCell& cell(std::size_t section, std::size_t row) const
@@ -125,15 +125,14 @@ protected:
 
     void tap(const UIView& view) const
     {
-        const auto [width, height] = view.bounds().size;
-        const auto middle = desktop::convertToWindow({ width / 2, height / 2 }, view);
+        const auto middle = nativeView(view).toWindow(nativeView(view).bounds().middle());
         window->touchDown({ middle });
         window->touchUp(middle);
     }
 
     static constexpr CGSize size { 320, 568 };
 
-    const RetainPtr<Window> window = make<Window>(size);
+    const toolkit::Ref<Window> window = toolkit::make<Window>(desktop::toolkitSize(size));
     const RetainPtr<TestPane> pane = make<TestPane>();
 };
 
@@ -154,7 +153,7 @@ TEST_F(APane, HasOneTableOfItsContentsSize)
 
 TEST_F(APane, WithoutSpecifiersIsEmpty)
 {
-    window->layOut();
+    window->layOutAll();
     EXPECT_THAT(pane->specifiers(), IsEmpty());
     EXPECT_EQ(pane->numberOfSectionsInTableView(pane->table()), 0u);
 }
@@ -208,7 +207,7 @@ TEST_F(ASwitchRow, ShowsTheResultOfItsGetter)
     EXPECT_THAT(pane->calls, ElementsAre("loud"));
     pane->isLoud = false;
     pane->table().reloadData();
-    window->layOut();
+    window->layOutAll();
     EXPECT_FALSE(cell(0, 0).toggle()->isOn());
 }
 
@@ -279,7 +278,7 @@ TEST_F(ASwitchRow, SetsTheSpecifierThatItShowsNow)
 
 using AButtonRow = APane;
 
-TEST_F(AButtonRow, SendsItsActionWithItsSpecifierAsALinkDoes)
+TEST_F(AButtonRow, SendsItsActionWithItsSpecifierAndSoDoesALink)
 {
     show({ item("PSButtonCell", "button", { { "action", "open:" } }),
         item("PSLinkCell", "link", { { "action", "open:" } }) });
@@ -314,17 +313,17 @@ TEST_F(AButtonRow, SendsItsActionToTheTargetOfItsSpecifier)
 
 TEST(APaneThatIsGone, LeavesAnEmptyTableBehind)
 {
-    const auto window = make<Window>(CGSize { 320, 568 });
+    const auto window = toolkit::make<Window>(toolkit::Size { 320, 568 });
     auto pane = make<TestPane>();
     pane->initForContentSize({ 320, 568 });
     pane->show({ toggle("a"), item("PSButtonCell", "b", { { "action", "open:" } }) });
-    window->addSubview(pane->table());
-    window->layOut();
+    window->add(nativeView(pane->table()));
+    window->layOutAll();
     pane = nullptr;
     window->touchDown({ { 100, 60 } });
     window->touchUp({ 100, 60 });
-    window->layOut();
-    EXPECT_THAT(window->subviews().front()->subviews(), IsEmpty());
+    window->layOutAll();
+    EXPECT_THAT(window->children().front()->children(), IsEmpty());
 }
 
 class ASpecifierPlist : public testing::Test {

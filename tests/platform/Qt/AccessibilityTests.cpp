@@ -1,15 +1,14 @@
-#include "platform/UIKit/UIAlertView.h"
-#include "platform/UIKit/UILabel.h"
-#include "platform/UIKit/UISlider.h"
-#include "platform/UIKit/UISwitch.h"
-#include "platform/UIKit/UITextField.h"
 #include "platform/desktop/Qt/PaneWidget.h"
-#include "platform/desktop/UIKit/SliderPeer.h"
-#include "platform/desktop/UIKit/TextButton.h"
 
-#include "tests/platform/UIKit/Controls.h"
-#include "tests/platform/UIKit/Geometry.h"
-#include "tests/platform/UIKit/Lists.h"
+#include "platform/Foundation/NSString.h"
+
+#include "tests/toolkit/EventLog.h"
+#include "tests/toolkit/Geometry.h"
+#include "tests/toolkit/Rows.h"
+#include "toolkit/alert/Alert.h"
+#include "toolkit/control/Slider.h"
+#include "toolkit/control/Switch.h"
+#include "toolkit/text/TextField.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -29,6 +28,11 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
+using toolkit::Cell, toolkit::Font, toolkit::Label, toolkit::make, toolkit::makeRect, toolkit::Ref,
+    toolkit::RowPath;
+using toolkit::Size, toolkit::Slider, toolkit::Switch, toolkit::Table, toolkit::TextButton,
+    toolkit::TextField;
+using toolkit::Window;
 
 /// What was sent since the last call, by type and name of the interface.
 std::vector<std::pair<QAccessible::Event, QString>> sent;
@@ -65,21 +69,14 @@ QAccessibleInterface* find(const QAccessibleInterface& root, const QString& name
     return nullptr;
 }
 
-class Answers : public UIAlertViewDelegate {
-public:
-    void alertViewClickedButtonAtIndex(UIAlertView&, long index) override { pressed.push_back(index); }
-
-    std::vector<long> pressed;
-};
-
-/// Two sliders with captions at their left, in a window that a widget shows to a screen reader.
+/// Two sliders, named as the captions at their left, in a window that a widget shows to a screen reader.
 class AnAccessiblePane : public testing::Test {
 protected:
     AnAccessiblePane()
     {
         addStrip("Pre", 0);
         addStrip("170", 44);
-        window->layOut();
+        window->layOutAll();
         widget->setWindowTitle("Pane");
         widget->show();
         widget->accessibility().deliver = writeDown;
@@ -95,37 +92,38 @@ protected:
 
     void addStrip(const std::string& caption, double y)
     {
-        const auto slider = make<UISlider>();
-        slider->setMinimumValue(-12);
-        slider->setMaximumValue(12);
+        const auto slider = make<Slider>();
+        slider->setMinimum(-12);
+        slider->setMaximum(12);
         slider->setValue(0);
-        slider->setFrame(CGRectMake(35, y, 200, 44));
-        const auto label = make<UILabel>(CGRectMake(5, y, 25, 44));
+        slider->setSteps({ 0.1, 1, "dB", [](double gain) { return stringWithFormat("%.1f dB", gain); } });
+        slider->setLabel(caption);
+        slider->setFrame(makeRect(35, y, 200, 44));
+        const auto label = make<Label>(makeRect(5, y, 25, 44));
         label->setText(caption);
-        window->addSubview(*slider);
-        window->addSubview(*label);
+        label->setRead(false);
+        window->add(*slider);
+        window->add(*label);
         sliders.push_back(slider);
-        labels.push_back(label);
-        log->listenTo(*slider);
+        log.listenTo(*slider);
     }
 
     QAccessibleInterface& root() const { return *QAccessible::queryAccessibleInterface(widget.get()); }
     QAccessibleInterface* find(const QString& name) const { return tests::find(root(), name); }
 
-    RetainPtr<UIAlertView> showAlert()
+    void showAlert()
     {
-        auto alert = make<UIAlertView>("", "Really?", &answers, "No", std::vector<std::string> { "Yes" });
-        alert->show();
-        window->layOut();
-        return alert;
+        const auto alert = make<toolkit::Alert>("", "Really?", std::vector<std::string> { "No", "Yes" });
+        alert->onAnswer = [this](std::size_t button) { answers.push_back(button); };
+        window->alerts().add(*alert);
+        window->layOutAll();
     }
 
-    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
+    const Ref<Window> window = make<Window>(Size { 320, 400 });
     std::unique_ptr<PaneWidget> widget = std::make_unique<PaneWidget>(*window);
-    std::vector<RetainPtr<UISlider>> sliders;
-    std::vector<RetainPtr<UILabel>> labels;
-    const RetainPtr<EventLog> log = make<EventLog>();
-    Answers answers;
+    std::vector<Ref<Slider>> sliders;
+    EventLog log;
+    std::vector<std::size_t> answers;
 };
 
 TEST_F(AnAccessiblePane, IsAWindowWithTheViewsInReadingOrder)
@@ -151,30 +149,18 @@ TEST_F(AnAccessiblePane, AnnouncesASlidersValueInDecibels)
     EXPECT_EQ(value.currentValue(), 4.5);
     EXPECT_EQ(value.minimumValue(), -12.0);
     EXPECT_EQ(value.maximumValue(), 12.0);
-    EXPECT_GT(value.minimumStepSize().toDouble(), 0);
+    EXPECT_EQ(value.minimumStepSize(), 0.1);
     EXPECT_EQ(find("170")->text(QAccessible::Description), "dB");
     sliders[1]->setValue(-0.01f);
     EXPECT_EQ(find("170")->text(QAccessible::Value), "0.0 dB");
     EXPECT_FALSE(std::signbit(value.currentValue().toDouble()));
 }
 
-TEST_F(AnAccessiblePane, KeepsTheNamesWhileTheLabelsShowValues)
-{
-    window->touchDown({ { 135, 66 }, desktop::Pointer::Mouse });
-    for (const auto& label : labels)
-        label->setText("1.5");
-    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "170" }));
-    labels[0]->setText("Pre");
-    labels[1]->setText("171");
-    window->touchUp({ 135, 66 });
-    EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "171" }));
-}
-
 TEST_F(AnAccessiblePane, MovesASliderAsATouchDoes)
 {
     find("170")->valueInterface()->setCurrentValue(4.5);
     EXPECT_EQ(sliders[1]->value(), 4.5f);
-    EXPECT_THAT(log->take(), ElementsAre("down", "value", "drag inside", "up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "value", "drag inside", "up inside"));
     find("170")->valueInterface()->setCurrentValue(99);
     EXPECT_EQ(sliders[1]->value(), 12.0f);
     find("170")->valueInterface()->setCurrentValue("loud");
@@ -185,19 +171,18 @@ TEST_F(AnAccessiblePane, MovesASliderAsATouchDoes)
 TEST_F(AnAccessiblePane, MovesASliderByAStep)
 {
     auto& slider = *find("170");
-    const double step = slider.valueInterface()->minimumStepSize().toDouble();
     slider.actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-    EXPECT_EQ(sliders[1]->value(), step);
+    EXPECT_EQ(sliders[1]->value(), 0.1f);
     slider.actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
     EXPECT_EQ(sliders[1]->value(), 0);
 }
 
 TEST_F(AnAccessiblePane, LeavesASliderAloneThatIsHeld)
 {
-    window->touchDown({ { 135, 66 }, desktop::Pointer::Mouse });
+    window->touchDown({ { 135, 66 }, toolkit::Pointer::Mouse });
     find("170")->valueInterface()->setCurrentValue(4.5);
     EXPECT_EQ(sliders[1]->value(), 0);
-    EXPECT_THAT(log->take(), ElementsAre("down"));
+    EXPECT_THAT(log.take(), ElementsAre("down"));
 }
 
 TEST_F(AnAccessiblePane, TellsOfEveryValue)
@@ -212,7 +197,7 @@ TEST_F(AnAccessiblePane, SaysNothingWhenNobodyListens)
     QAccessible::setActive(false);
     EXPECT_FALSE(window->onAccessibleChange);
     sliders[1]->setValue(3);
-    window->addSubview(*make<UILabel>());
+    window->add(*make<Label>());
     EXPECT_THAT(takeSent(), IsEmpty());
 }
 
@@ -260,7 +245,7 @@ TEST_F(AnAccessiblePane, PressesTheButtonsOfAnAlert)
     showAlert();
     takeSent();
     find("Yes")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(answers.pressed, ElementsAre(1));
+    EXPECT_THAT(answers, ElementsAre(1));
     EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectHide, QString("Really?"))));
     EXPECT_EQ(namesIn(root()), QStringList({ "Pre", "170" }));
 }
@@ -269,7 +254,7 @@ TEST_F(AnAccessiblePane, TellsWhichButtonOfAnAlertHasTheKeyboard)
 {
     showAlert();
     takeSent();
-    window->keyPressed(desktop::Key::Tab);
+    window->keyPressed(toolkit::Key::Tab, toolkit::KeyStroke::First);
     EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::Focus, QString("Yes"))));
     EXPECT_TRUE(find("Yes")->state().focused);
     EXPECT_FALSE(find("No")->state().focused);
@@ -277,7 +262,7 @@ TEST_F(AnAccessiblePane, TellsWhichButtonOfAnAlertHasTheKeyboard)
 
 TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIs)
 {
-    window->keyPressed(desktop::Key::Tab);
+    window->keyPressed(toolkit::Key::Tab, toolkit::KeyStroke::First);
     EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::Focus, QString("Pre"))));
     EXPECT_TRUE(find("Pre")->state().focused);
     EXPECT_FALSE(find("170")->state().focused);
@@ -285,7 +270,7 @@ TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIs)
 
 TEST_F(AnAccessiblePane, TellsWhereTheKeyboardIsWhenItComesToTheWindow)
 {
-    window->keyPressed(desktop::Key::Tab);
+    window->keyPressed(toolkit::Key::Tab, toolkit::KeyStroke::First);
     takeSent();
     QFocusEvent comes(QEvent::FocusIn);
     QApplication::sendEvent(widget.get(), &comes);
@@ -300,7 +285,7 @@ TEST_F(AnAccessiblePane, HasTheKeyboardItselfOnlyWhileNoViewHas)
     QApplication::processEvents();
     ASSERT_TRUE(widget->hasFocus());
     EXPECT_TRUE(root().state().focused);
-    window->keyPressed(desktop::Key::Tab);
+    window->keyPressed(toolkit::Key::Tab, toolkit::KeyStroke::First);
     EXPECT_FALSE(root().state().focused);
 }
 
@@ -318,10 +303,10 @@ TEST_F(AnAccessiblePane, GivesTheKeyboardToWhateverIsAskedFor)
 
 TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
 {
-    const auto field = make<UITextField>(CGRectMake(5, 100, 200, 30));
+    const auto field = make<TextField>(makeRect(5, 100, 200, 30));
     field->setText("Rock");
-    field->setAccessibilityLabel("Name");
-    window->addSubview(*field);
+    field->setLabel("Name");
+    window->add(*field);
     ASSERT_EQ(root().childCount(), 3);
     auto& interface = *root().child(2);
     EXPECT_EQ(interface.role(), QAccessible::EditableText);
@@ -339,7 +324,7 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
             std::pair(QAccessible::TextInserted, QString("Name"))));
 
     interface.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_TRUE(window->focus().isGivenTo(*field));
     QApplication::processEvents();
     ASSERT_EQ(root().childCount(), 4);
     EXPECT_EQ(root().child(2)->text(QAccessible::Name), "Return");
@@ -351,7 +336,7 @@ TEST_F(AnAccessiblePane, TellsTheTextOfAFieldUntilItsEditorDoes)
     EXPECT_EQ(editor.textInterface()->text(0, 5), "Jazz!");
     EXPECT_THAT(takeSent(), Not(Contains(std::pair(QAccessible::Focus, QString("Name")))));
 
-    field->resignFirstResponder();
+    window->focus().takeFrom(*field);
     QApplication::processEvents();
     EXPECT_EQ(root().child(2), &interface);
 }
@@ -360,7 +345,7 @@ TEST_F(AnAccessiblePane, ForgetsAViewThatIsGone)
 {
     const auto id = QAccessible::uniqueId(find("170"));
     EXPECT_EQ(QAccessible::accessibleInterface(id), find("170"));
-    sliders[1]->removeFromSuperview();
+    sliders[1]->removeFromParent();
     EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectHide, QString("170"))));
     // It may come back.
     ASSERT_NE(QAccessible::accessibleInterface(id), nullptr);
@@ -394,35 +379,36 @@ TEST_F(AnAccessiblePane, HandsItsViewsToTheNextWidgetThatShowsThem)
 
 TEST_F(AnAccessiblePane, IsQuietAboutAControlThatIsTakenAwayByItsOwnAction)
 {
-    RetainPtr<desktop::TextButton> button;
-    button = make<desktop::TextButton>(
-        "Go", UIFont::systemFontOfSize(12), [&] { std::exchange(button, nullptr)->removeFromSuperview(); });
-    button->setFrame(CGRectMake(50, 200, 80, 40));
-    window->addSubview(*button);
+    Ref<TextButton> button;
+    button = make<TextButton>(
+        "Go", Font { {}, 12 }, [&] { std::exchange(button, nullptr)->removeFromParent(); });
+    button->setFrame(makeRect(50, 200, 80, 40));
+    window->add(*button);
     EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::ObjectShow, QString("Go"))));
     find("Go")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_FALSE(button);
     EXPECT_EQ(find("Go"), nullptr);
 }
 
-TEST(AnAccessibleTable, NamesItsSwitchesAndButtonsByTheirRows)
+TEST(AnAccessibleTable, OffersSwitchesTextsAndButtons)
 {
     Rows rows { { 3, 30 } };
     rows.footers = { "About the first" };
-    std::vector<RetainPtr<UISwitch>> switches;
-    rows.identifier
-        = [](const NSIndexPath& row) { return std::to_string(row.section) + "." + std::to_string(row.row); };
-    rows.onCellMade = [&](UITableViewCell& cell, const NSIndexPath& row) {
+    std::vector<Ref<Switch>> switches;
+    rows.identifier = [](RowPath row) { return std::to_string(row.section) + "." + std::to_string(row.row); };
+    rows.onCellMade = [&](Cell& cell, RowPath row) {
         cell.textLabel().setText("Row " + rows.identifier(row));
-        if (row == NSIndexPath { 0, 0 }) {
-            switches.push_back(make<UISwitch>());
-            cell.setAccessoryView(switches.back());
-            cell.setSelectionStyle(UITableViewCellSelectionStyle::None);
-        } else if (row == NSIndexPath { 0, 1 }) {
-            cell.setSelectionStyle(UITableViewCellSelectionStyle::None);
+        if (row == RowPath { 0, 0 }) {
+            switches.push_back(make<Switch>());
+            switches.back()->setLabel(cell.textLabel().text());
+            cell.textLabel().setRead(false);
+            cell.setAccessory(switches.back());
+            cell.setSelectable(false);
+        } else if (row == RowPath { 0, 1 }) {
+            cell.setSelectable(false);
         }
     };
-    const TableInWindow list(rows, { 320, 400 }, UITableViewStyle::Grouped);
+    const TableInWindow list(rows, { 320, 400 }, Table::Style::Grouped);
     PaneWidget widget(*list.window);
     auto& table = *QAccessible::queryAccessibleInterface(&widget)->child(0);
     EXPECT_EQ(table.text(QAccessible::Description), "About the first");
@@ -440,7 +426,7 @@ TEST(AnAccessibleTable, NamesItsSwitchesAndButtonsByTheirRows)
     EXPECT_EQ(table.child(1)->actionInterface(), nullptr);
     EXPECT_EQ(table.child(2)->role(), QAccessible::Button);
     table.child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 2 }));
+    EXPECT_THAT(rows.selectedRows, ElementsAre(RowPath { 0, 2 }));
 
     const auto id = QAccessible::uniqueId(&toggle);
     table.actionInterface()->doAction(QAccessibleActionInterface::nextPageAction());
@@ -455,11 +441,10 @@ TEST(AnAccessibleTable, NamesItsSwitchesAndButtonsByTheirRows)
 TEST(AnAccessibleList, TellsOfItsRowsAndHasThemPressedAndDeleted)
 {
     Rows rows { { 20 } };
-    rows.isEditable = [](const NSIndexPath& row) { return row.row > 0; };
-    rows.identifier = [](const NSIndexPath& row) { return std::to_string(row.row); };
-    rows.onCellMade = [](UITableViewCell& cell, const NSIndexPath& row) {
-        cell.textLabel().setText("Row " + std::to_string(row.row));
-    };
+    rows.isDeletable = [](RowPath row) { return row.row > 0; };
+    rows.identifier = [](RowPath row) { return std::to_string(row.row); };
+    rows.onCellMade
+        = [](Cell& cell, RowPath row) { cell.textLabel().setText("Row " + std::to_string(row.row)); };
     const TableInWindow list(rows, { 320, 220 });
     PaneWidget widget(*list.window);
     auto& table = *QAccessible::queryAccessibleInterface(&widget)->child(0);
@@ -482,42 +467,40 @@ TEST(AnAccessibleList, TellsOfItsRowsAndHasThemPressedAndDeleted)
     EXPECT_THAT(takeSent(), Contains(std::pair(QAccessible::SelectionAdd, QString("Row 1"))));
     QAccessible::setActive(false);
     EXPECT_TRUE(second.state().selected);
-    EXPECT_THAT(rows.selected, ElementsAre(NSIndexPath { 0, 1 }));
+    EXPECT_THAT(rows.selectedRows, ElementsAre(RowPath { 0, 1 }));
 
     first.actionInterface()->doAction("Delete");
-    EXPECT_THAT(rows.committed, IsEmpty());
+    EXPECT_THAT(rows.deletedRows, IsEmpty());
     second.actionInterface()->doAction("Delete");
-    EXPECT_THAT(
-        rows.committed, ElementsAre(std::pair(UITableViewCellEditingStyle::Delete, NSIndexPath { 0, 1 })));
+    EXPECT_THAT(rows.deletedRows, ElementsAre(RowPath { 0, 1 }));
     EXPECT_EQ(namesIn(table).first(3), QStringList({ "Row 0", "Row 2", "Row 3" }));
 }
 
 TEST(AnAccessibleList, OffersTheButtonOfASwipedRow)
 {
     Rows rows { { 3 } };
-    rows.isEditable = [](const NSIndexPath&) { return true; };
+    rows.isDeletable = [](RowPath) { return true; };
     const TableInWindow list(rows, { 320, 220 });
     PaneWidget widget(*list.window);
-    list.peer().revealDelete({ 0, 1 });
+    list.table->swipe().open({ 0, 1 });
     auto* button = find(*QAccessible::queryAccessibleInterface(&widget), "Delete");
     ASSERT_NE(button, nullptr);
     EXPECT_EQ(button->role(), QAccessible::Button);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(
-        rows.committed, ElementsAre(std::pair(UITableViewCellEditingStyle::Delete, NSIndexPath { 0, 1 })));
+    EXPECT_THAT(rows.deletedRows, ElementsAre(RowPath { 0, 1 }));
 }
 
 TEST(AnAccessibleSwitch, TellsWhenItIsFlipped)
 {
-    const auto window = make<desktop::Window>(CGSize { 320, 400 });
-    const auto toggle = make<UISwitch>();
-    window->addSubview(*toggle);
+    const auto window = make<Window>(Size { 320, 400 });
+    const auto toggle = make<Switch>();
+    window->add(*toggle);
     PaneWidget widget(*window);
     widget.accessibility().deliver = writeDown;
     QAccessible::setActive(true);
     takeSent();
-    toggle->setOn(true, Animated::No);
-    toggle->setOn(true, Animated::No);
+    toggle->setOn(true, false);
+    toggle->setOn(true, false);
     EXPECT_THAT(takeSent(), ElementsAre(std::pair(QAccessible::StateChanged, QString())));
     QAccessible::setActive(false);
 }

@@ -1,20 +1,15 @@
-#include "platform/UIKit/UIButton.h"
-#include "platform/UIKit/UISlider.h"
-#include "platform/UIKit/UISwitch.h"
+#include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/Qt/Snapshot.h"
-#include "platform/desktop/UIKit/AlertPeer.h"
-#include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/ImagePeer.h"
-#include "platform/desktop/UIKit/SliderPeer.h"
-#include "platform/desktop/UIKit/TablePeer.h"
-#include "platform/desktop/UIKit/TextButton.h"
-#include "platform/desktop/UIKit/TextFieldPeer.h"
-#include "platform/desktop/UIKit/Theme.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "tests/platform/UIKit/Images.h"
-#include "tests/platform/UIKit/Lists.h"
 #include "tests/support/Images.h"
+#include "tests/toolkit/Rows.h"
+#include "toolkit/alert/Alert.h"
+#include "toolkit/control/Slider.h"
+#include "toolkit/control/Switch.h"
+#include "toolkit/drawing/Theme.h"
+#include "toolkit/image/ImageView.h"
+#include "toolkit/text/TextField.h"
+#include "toolkit/time/Clock.h"
 
 #include <QTemporaryDir>
 
@@ -27,19 +22,33 @@ namespace brimsound::tests {
 
 namespace {
 
-using desktop::peerOf;
 using desktop::pictureOf;
-using desktop::Window;
+using toolkit::Button, toolkit::Cell, toolkit::Color, toolkit::Font, toolkit::make, toolkit::makeRect,
+    toolkit::Rect;
+using toolkit::Ref, toolkit::RowPath, toolkit::Size, toolkit::Slider, toolkit::Switch, toolkit::Table;
+using toolkit::TextButton, toolkit::TextField, toolkit::View, toolkit::Window;
 
-RetainPtr<UIColor> red()
-{
-    return UIColor::colorWithRedGreenBlueAlpha(1, 0, 0, 1);
-}
+constexpr Color red { 1, 0, 0 };
 
-RetainPtr<UIView> box(const CGRect& frame, const RetainPtr<UIColor>& color)
+/// An image of that size in points, of one color.
+class FilledImage : public toolkit::Image {
+public:
+    FilledImage(Size size, Color color)
+        : Image(size)
+        , _color(color)
+    {
+    }
+
+    void draw(toolkit::Canvas& canvas, const Rect& rect) const override { canvas.fillRect(rect, _color); }
+
+private:
+    const Color _color;
+};
+
+Ref<View> box(const Rect& frame, Color color)
 {
-    auto view = make<UIView>(frame);
-    view->setBackgroundColor(color);
+    auto view = make<View>(frame);
+    view->setBackground(color);
     return view;
 }
 
@@ -67,14 +76,14 @@ class APicture : public testing::Test {
 protected:
     QColor pixel(int x, int y, double scale = 1) const { return pictureOf(*window, scale).pixelColor(x, y); }
 
-    const RetainPtr<Window> window = make<Window>(CGSize { 100, 80 });
+    const Ref<Window> window = make<Window>(Size { 100, 80 });
 };
 
 TEST_F(APicture, HasAsManyPixelsAPointAsItsScale)
 {
     EXPECT_EQ(pictureOf(*window, 1).size(), QSize(100, 80));
     EXPECT_EQ(pictureOf(*window, 2).size(), QSize(200, 160));
-    window->addSubview(*box(CGRectMake(10, 10, 20, 20), red()));
+    window->add(*box(makeRect(10, 10, 20, 20), red));
     EXPECT_THAT(pixel(10, 10), isRed);
     EXPECT_THAT(pixel(9, 10), isWhite);
     EXPECT_THAT(pixel(30, 10), isWhite);
@@ -86,8 +95,8 @@ TEST_F(APicture, HasAsManyPixelsAPointAsItsScale)
 
 TEST_F(APicture, ShowsNoSeamBetweenViewsThatTouch)
 {
-    window->addSubview(*box(CGRectMake(10, 10, 10.4, 20), red()));
-    window->addSubview(*box(CGRectMake(20.4, 10, 10.4, 20), red()));
+    window->add(*box(makeRect(10, 10, 10.4, 20), red));
+    window->add(*box(makeRect(20.4, 10, 10.4, 20), red));
     for (const double scale : { 1.0, 1.25, 1.5, 2.0, 3.0 })
         EXPECT_THAT(pixel(static_cast<int>(20.4 * scale), static_cast<int>(20 * scale), scale), isRed)
             << scale;
@@ -96,43 +105,43 @@ TEST_F(APicture, ShowsNoSeamBetweenViewsThatTouch)
 TEST_F(APicture, LeavesOutWhatHasNoPlace)
 {
     const double nan = std::nan("");
-    window->addSubview(*box(CGRectMake(10, 10, 20, nan), red()));
-    window->addSubview(*box(CGRectMake(nan, 10, 20, 20), red()));
-    window->addSubview(*box(CGRectMake(40, 10, 20, 20), red()));
+    window->add(*box(makeRect(10, 10, 20, nan), red));
+    window->add(*box(makeRect(nan, 10, 20, 20), red));
+    window->add(*box(makeRect(40, 10, 20, 20), red));
     EXPECT_THAT(pixel(15, 15), isWhite);
     EXPECT_THAT(pixel(45, 15), isRed);
 }
 
 TEST_F(APicture, IsLaidOutFirst)
 {
-    class Filling : public UIView {
+    class Filling : public View {
     public:
-        void layoutSubviews() override { subviews().front()->setFrame(bounds()); }
+        void layOut() override { children().front()->setFrame(bounds()); }
     };
     const auto filling = make<Filling>();
-    filling->setFrame(CGRectMake(0, 0, 100, 80));
-    filling->addSubview(*box({}, red()));
-    window->addSubview(*filling);
+    filling->setFrame(makeRect(0, 0, 100, 80));
+    filling->add(*box({}, red));
+    window->add(*filling);
     EXPECT_THAT(pixel(99, 79), isRed);
 }
 
 TEST_F(APicture, ShowsTheFrontmostViewAndFollowsScrolledOrigins)
 {
-    const auto outer = box(CGRectMake(10, 10, 50, 50), UIColor::blackColor());
-    outer->addSubview(*box(CGRectMake(0, 20, 10, 10), red()));
-    window->addSubview(*outer);
+    const auto outer = box(makeRect(10, 10, 50, 50), Color {});
+    outer->add(*box(makeRect(0, 20, 10, 10), red));
+    window->add(*outer);
     EXPECT_THAT(pixel(15, 35), isRed);
-    desktop::setOrigin(*outer, { 0, 15 });
+    outer->setOrigin({ 0, 15 });
     EXPECT_THAT(pixel(15, 35), isBlack);
     EXPECT_THAT(pixel(15, 20), isRed);
 }
 
 TEST_F(APicture, DoesNotShowHiddenOrInvisibleViews)
 {
-    const auto outer = box(CGRectMake(0, 0, 50, 50), UIColor::blackColor());
-    const auto inner = box(CGRectMake(10, 10, 10, 10), red());
-    outer->addSubview(*inner);
-    window->addSubview(*outer);
+    const auto outer = box(makeRect(0, 0, 50, 50), Color {});
+    const auto inner = box(makeRect(10, 10, 10, 10), red);
+    outer->add(*inner);
+    window->add(*outer);
     inner->setHidden(true);
     EXPECT_THAT(pixel(15, 15), isBlack);
     inner->setHidden(false);
@@ -145,41 +154,41 @@ TEST_F(APicture, DoesNotShowHiddenOrInvisibleViews)
 
 TEST_F(APicture, ShowsWhatSticksOutOfAViewThatDoesNotClip)
 {
-    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
-    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
-    const auto empty = make<UIView>(CGRectMake(10, 50, 0, 0));
-    empty->addSubview(*box(CGRectMake(0, 0, 10, 10), red()));
-    window->addSubview(*outer);
-    window->addSubview(*empty);
+    const auto outer = make<View>(makeRect(10, 10, 10, 10));
+    outer->add(*box(makeRect(20, 0, 10, 10), red));
+    const auto empty = make<View>(makeRect(10, 50, 0, 0));
+    empty->add(*box(makeRect(0, 0, 10, 10), red));
+    window->add(*outer);
+    window->add(*empty);
     EXPECT_THAT(pixel(35, 15), isRed);
     EXPECT_THAT(pixel(15, 55), isRed);
-    peerOf(*outer).clipsToBounds = true;
-    peerOf(*empty).clipsToBounds = true;
+    outer->setClips(true);
+    empty->setClips(true);
     EXPECT_THAT(pixel(35, 15), isWhite);
     EXPECT_THAT(pixel(15, 55), isWhite);
 }
 
 TEST_F(APicture, ShowsWhatSticksOutWhenOnlyThatPartIsDrawn)
 {
-    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
-    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
-    window->addSubview(*outer);
+    const auto outer = make<View>(makeRect(10, 10, 10, 10));
+    outer->add(*box(makeRect(20, 0, 10, 10), red));
+    window->add(*outer);
     QImage picture(100, 80, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setClipRect(QRectF(25, 0, 50, 50));
     desktop::QtCanvas canvas(painter, 1);
-    desktop::drawTree(*window, canvas);
+    window->drawTree(canvas);
     EXPECT_THAT(picture.pixelColor(35, 15), isRed);
 }
 
 TEST_F(APicture, FadesAViewTogetherWithEverythingInIt)
 {
-    const auto outer = make<UIView>(CGRectMake(0, 0, 60, 60));
-    outer->addSubview(*box(CGRectMake(0, 0, 40, 40), UIColor::blackColor()));
-    outer->addSubview(*box(CGRectMake(20, 20, 40, 40), red()));
+    const auto outer = make<View>(makeRect(0, 0, 60, 60));
+    outer->add(*box(makeRect(0, 0, 40, 40), Color {}));
+    outer->add(*box(makeRect(20, 20, 40, 40), red));
     outer->setAlpha(0.5);
-    window->addSubview(*outer);
+    window->add(*outer);
     EXPECT_THAT(pixel(5, 5), IsColor(128, 128, 128));
     EXPECT_THAT(pixel(30, 30), IsColor(255, 128, 128));
     EXPECT_THAT(pixel(50, 50), IsColor(255, 128, 128));
@@ -188,21 +197,21 @@ TEST_F(APicture, FadesAViewTogetherWithEverythingInIt)
 
 TEST_F(APicture, FadesWhatSticksOutOfAViewToo)
 {
-    const auto outer = make<UIView>(CGRectMake(10, 10, 10, 10));
-    outer->addSubview(*box(CGRectMake(20, 0, 10, 10), red()));
+    const auto outer = make<View>(makeRect(10, 10, 10, 10));
+    outer->add(*box(makeRect(20, 0, 10, 10), red));
     outer->setAlpha(0.5);
-    window->addSubview(*outer);
+    window->add(*outer);
     EXPECT_THAT(pixel(35, 15), IsColor(255, 128, 128));
 }
 
 TEST_F(APicture, FadesViewsWithinFadedViewsMore)
 {
-    const auto outer = make<UIView>(CGRectMake(10, 10, 60, 60));
-    const auto inner = box(CGRectMake(10, 10, 30, 30), UIColor::blackColor());
-    outer->addSubview(*inner);
+    const auto outer = make<View>(makeRect(10, 10, 60, 60));
+    const auto inner = box(makeRect(10, 10, 30, 30), Color {});
+    outer->add(*inner);
     outer->setAlpha(0.5);
     inner->setAlpha(0.5);
-    window->addSubview(*outer);
+    window->add(*outer);
     for (const int scale : { 1, 2 }) {
         EXPECT_THAT(pixel(30 * scale, 30 * scale, scale), IsColor(191, 191, 191));
         EXPECT_THAT(pixel(20 * scale, 20 * scale, scale), IsColor(191, 191, 191));
@@ -213,11 +222,11 @@ TEST_F(APicture, FadesViewsWithinFadedViewsMore)
 
 TEST_F(APicture, CutsTheCornersOfARoundedView)
 {
-    const auto outer = make<UIView>(CGRectMake(10, 10, 60, 60));
-    peerOf(*outer).clipsToBounds = true;
-    peerOf(*outer).cornerRadius = 20;
-    outer->addSubview(*box(CGRectMake(-10, -10, 100, 100), UIColor::blackColor()));
-    window->addSubview(*outer);
+    const auto outer = make<View>(makeRect(10, 10, 60, 60));
+    outer->setClips(true);
+    outer->setCornerRadius(20);
+    outer->add(*box(makeRect(-10, -10, 100, 100), Color {}));
+    window->add(*outer);
     for (const int scale : { 1, 2 }) {
         const auto picture = pictureOf(*window, scale);
         const auto at = [&](int x, int y) { return picture.pixelColor(x * scale, y * scale); };
@@ -236,9 +245,9 @@ TEST_F(APicture, CutsTheCornersOfARoundedView)
 
 TEST_F(APicture, ClipsAScrollingViewToItsFrame)
 {
-    const auto outer = make<UITableView>(CGRectMake(10, 10, 40, 40), UITableViewStyle::Plain);
-    outer->addSubview(*box(CGRectMake(-20, -20, 200, 200), red()));
-    window->addSubview(*outer);
+    const auto outer = make<Table>(makeRect(10, 10, 40, 40), Table::Style::List);
+    outer->add(*box(makeRect(-20, -20, 200, 200), red));
+    window->add(*outer);
     EXPECT_THAT(pixel(10, 10), isRed);
     EXPECT_THAT(pixel(49, 49), isRed);
     EXPECT_THAT(pixel(9, 20), isWhite);
@@ -247,86 +256,86 @@ TEST_F(APicture, ClipsAScrollingViewToItsFrame)
 
 TEST_F(APicture, OfASliderShowsItsTintLeftOfTheThumbOnly)
 {
-    const auto slider = make<UISlider>();
-    slider->setFrame(CGRectMake(0, 20, 100, 40));
+    const auto slider = make<Slider>();
+    slider->setFrame(makeRect(0, 20, 100, 40));
     slider->setValue(0.5f);
-    slider->setMinimumTrackTintColor(red());
-    window->addSubview(*slider);
+    slider->setTint(red);
+    window->add(*slider);
     EXPECT_THAT(pixel(20, 39), isRed);
-    EXPECT_THAT(pixel(80, 39), IsThemed(desktop::theme::sliderTrack));
+    EXPECT_THAT(pixel(80, 39), IsThemed(toolkit::theme::sliderTrack));
     EXPECT_THAT(pixel(50, 39), isWhite);
-    slider->setMinimumTrackTintColor(nullptr);
-    EXPECT_THAT(pixel(20, 39), IsThemed(desktop::theme::tint));
+    slider->setTint(std::nullopt);
+    EXPECT_THAT(pixel(20, 39), IsThemed(toolkit::theme::tint));
     slider->setValue(1);
-    EXPECT_THAT(pixel(60, 39), IsThemed(desktop::theme::tint));
+    EXPECT_THAT(pixel(60, 39), IsThemed(toolkit::theme::tint));
 }
 
 TEST_F(APicture, OfASwitchShowsItsKnobOnTheSideWhereItIs)
 {
-    const auto toggle = make<UISwitch>();
-    toggle->setFrame(CGRectMake(10, 10, 51, 31));
-    window->addSubview(*toggle);
+    const auto toggle = make<Switch>();
+    toggle->setFrame(makeRect(10, 10, 51, 31));
+    window->add(*toggle);
     EXPECT_THAT(pixel(25, 25), isWhite);
-    EXPECT_THAT(pixel(54, 25), IsThemed(desktop::theme::switchOff));
-    toggle->setOn(true, Animated::No);
+    EXPECT_THAT(pixel(54, 25), IsThemed(toolkit::theme::switchOff));
+    toggle->setOn(true, false);
     EXPECT_THAT(pixel(46, 25), isWhite);
-    EXPECT_THAT(pixel(18, 25), IsThemed(desktop::theme::switchOn));
+    EXPECT_THAT(pixel(18, 25), IsThemed(toolkit::theme::switchOn));
 }
 
 TEST_F(APicture, OfATextButtonIsShadedWhileAFingerIsOnIt)
 {
-    const auto button = make<desktop::TextButton>("OK", UIFont::systemFontOfSize(17), [] {});
-    button->setFrame(CGRectMake(10, 10, 60, 40));
-    window->addSubview(*button);
+    const auto button = make<TextButton>("OK", Font { {}, 17 }, [] {});
+    button->setFrame(makeRect(10, 10, 60, 40));
+    window->add(*button);
     EXPECT_THAT(pixel(12, 12), isWhite);
-    window->touchDown({ { 20, 20 }, desktop::Pointer::Finger });
-    EXPECT_THAT(pixel(12, 12), IsThemed(desktop::theme::rowPressed));
-    EXPECT_THAT(pixel(69, 49), IsThemed(desktop::theme::rowPressed));
+    window->touchDown({ { 20, 20 }, toolkit::Pointer::Finger });
+    EXPECT_THAT(pixel(12, 12), IsThemed(toolkit::theme::rowPressed));
+    EXPECT_THAT(pixel(69, 49), IsThemed(toolkit::theme::rowPressed));
     window->touchMove({ 20, 300 });
     EXPECT_THAT(pixel(12, 12), isWhite);
     window->touchMove({ 20, 20 });
-    EXPECT_THAT(pixel(12, 12), IsThemed(desktop::theme::rowPressed));
+    EXPECT_THAT(pixel(12, 12), IsThemed(toolkit::theme::rowPressed));
     window->touchUp({ 20, 20 });
     EXPECT_THAT(pixel(12, 12), isWhite);
 }
 
 TEST_F(APicture, OfATextFieldShowsItsReturnKeyWhileItIsEditedAndPaleWhileItIsPressed)
 {
-    const auto field = make<UITextField>(CGRectMake(0, 10, 100, 28));
-    field->setReturnKeyType(UIReturnKeyType::Done);
-    window->addSubview(*field);
+    const auto field = make<TextField>(makeRect(0, 10, 100, 28));
+    field->setReturnTitle("Done");
+    window->add(*field);
     // The key's color has no red and the white around it has all of it, so the least red tells how strong the
     // key is.
     const auto leastRed = [&] {
         const auto picture = pictureOf(*window, 4);
-        const auto key = peerOf(*field).returnKey->frame();
+        const auto key = field->returnKey().frame();
         int least = 255;
         for (int y = 4 * 10; y < 4 * 38; ++y) {
-            for (int x = static_cast<int>(4 * key.origin.x); x < 4 * 100; ++x)
+            for (int x = static_cast<int>(4 * key.left()); x < 4 * 100; ++x)
                 least = std::min(least, picture.pixelColor(x, y).red());
         }
         return least;
     };
     EXPECT_EQ(leastRed(), 255) << "no key yet";
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     EXPECT_LE(leastRed(), 10);
-    window->touchDown({ { 95, 24 }, desktop::Pointer::Mouse });
+    window->touchDown({ { 95, 24 }, toolkit::Pointer::Mouse });
     EXPECT_NEAR(leastRed(), 255 * 0.7, 10);
     window->touchMove({ 95, 300 });
     EXPECT_LE(leastRed(), 10);
     window->touchCancel();
-    field->resignFirstResponder();
+    window->focus().takeFrom(*field);
     EXPECT_EQ(leastRed(), 255);
 }
 
 TEST_F(APicture, OfAnAlertInALowWindowHasNoTextOnTheButtons)
 {
     const auto pictureWith = [&](const std::string& message) {
-        make<UIAlertView>("", message, nullptr, "", std::vector<std::string> { "" })->show();
-        desktop::Clock::shared().advance(1);
+        window->alerts().add(*make<toolkit::Alert>("", message, std::vector<std::string> { "", "" }));
+        toolkit::Clock::shared().advance(1);
         auto picture = pictureOf(*window, 1);
         window->alerts().dismissAll();
-        desktop::Clock::shared().advance(1);
+        toolkit::Clock::shared().advance(1);
         return picture;
     };
     const auto lower = [](const QImage& picture) { return picture.copy(0, 36, 100, 44); };
@@ -338,21 +347,21 @@ TEST_F(APicture, OfAnAlertInALowWindowHasNoTextOnTheButtons)
 
 TEST_F(APicture, OfAFocusRingFollowsTheRoundedCornersAroundItsView)
 {
-    const auto panel = make<UIView>(CGRectMake(0, 0, 100, 80));
-    panel->layer().setCornerRadius(20);
-    panel->setClipsToBounds(true);
-    window->addSubview(*panel);
-    const auto button = make<UIButton>(CGRectMake(0, 0, 100, 80));
-    panel->addSubview(*button);
-    peerOf(*button).showsFocus = true;
+    const auto panel = make<View>(makeRect(0, 0, 100, 80));
+    panel->setCornerRadius(20);
+    panel->setClips(true);
+    window->add(*panel);
+    const auto button = make<Button>(makeRect(0, 0, 100, 80));
+    button->setLabel("Button");
+    panel->add(*button);
+    window->keyPressed(toolkit::Key::Tab, toolkit::KeyStroke::First);
     // The line's middle is an arc of 16 points around the corner's own middle.
     const auto picture = pictureOf(*window, 4);
     const int onTheArc = static_cast<int>(std::lround(4 * (20 - 16 / std::sqrt(2.0))));
-    EXPECT_THAT(picture.pixelColor(onTheArc, onTheArc), IsThemed(desktop::theme::tint));
+    EXPECT_THAT(picture.pixelColor(onTheArc, onTheArc), IsThemed(toolkit::theme::tint));
     EXPECT_THAT(picture.pixelColor(onTheArc - 7, onTheArc - 7), isWhite) << "nothing outside of it";
-    EXPECT_THAT(picture.pixelColor(4 * 50, 4 * 4), IsThemed(desktop::theme::tint));
+    EXPECT_THAT(picture.pixelColor(4 * 50, 4 * 4), IsThemed(toolkit::theme::tint));
     EXPECT_THAT(picture.pixelColor(4 * 50, 4 * 2), isWhite);
-    peerOf(*button).showsFocus = false;
 }
 
 TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)
@@ -364,7 +373,7 @@ TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)
     QPainter painter(&picture);
     painter.setClipRect(picture.rect());
     desktop::QtCanvas canvas(painter, 1);
-    peerOf(*image).draw(canvas, CGRectMake(5, 0, 10, 20));
+    desktop::nativeOf<toolkit::Image>(*image).draw(canvas, makeRect(5, 0, 10, 20));
     EXPECT_THAT(picture.pixelColor(5, 0), isRed);
     EXPECT_THAT(picture.pixelColor(14, 2), isRed);
     EXPECT_THAT(picture.pixelColor(14, 19), IsColor(127, 127, 127));
@@ -374,7 +383,7 @@ TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)
 
 TEST_F(APicture, CanBeWrittenToAFile)
 {
-    window->addSubview(*box(CGRectMake(10, 10, 20, 20), red()));
+    window->add(*box(makeRect(10, 10, 20, 20), red));
     const QTemporaryDir folder;
     const auto path = folder.filePath("picture.png");
     EXPECT_TRUE(desktop::writeSnapshot(*window, 2, path));
@@ -386,16 +395,16 @@ TEST_F(APicture, CanBeWrittenToAFile)
 
 TEST_F(APicture, OfAnImageViewShowsTheHighlightedImageWhileItIsHighlighted)
 {
-    const auto view = make<UIImageView>(CGRectMake(10, 10, 20, 20));
-    window->addSubview(*view);
+    const auto view = make<toolkit::ImageView>(makeRect(10, 10, 20, 20));
+    window->add(*view);
     EXPECT_THAT(pixel(15, 15), isWhite);
-    view->setImage(filledImage({ 5, 5 }, { 1, 0, 0 }));
+    view->setImage(make<FilledImage>(Size { 5, 5 }, red));
     EXPECT_THAT(pixel(10, 10), isRed);
     EXPECT_THAT(pixel(29, 29), isRed);
     EXPECT_THAT(pixel(30, 30), isWhite);
     view->setHighlighted(true);
     EXPECT_THAT(pixel(15, 15), isRed);
-    view->setHighlightedImage(filledImage({ 5, 5 }, { 0, 0, 0 }));
+    view->setHighlightedImage(make<FilledImage>(Size { 5, 5 }, Color {}));
     EXPECT_THAT(pixel(15, 15), isBlack);
     view->setHighlighted(false);
     EXPECT_THAT(pixel(15, 15), isRed);
@@ -403,12 +412,9 @@ TEST_F(APicture, OfAnImageViewShowsTheHighlightedImageWhileItIsHighlighted)
 
 class APictureOfATable : public testing::Test {
 protected:
-    void show(CGSize size, UITableViewStyle style = UITableViewStyle::Plain)
-    {
-        list.emplace(rows, size, style);
-    }
+    void show(Size size, Table::Style style = Table::Style::List) { list.emplace(rows, size, style); }
     QColor pixel(int x, int y) const { return pictureOf(*list->window, 1).pixelColor(x, y); }
-    UITableViewCell& cell(std::size_t row) const { return *list->table->cellForRowAtIndexPath({ 0, row }); }
+    Cell& cell(std::size_t row) const { return *list->table->cellOf({ 0, row }); }
 
     Rows rows { { 3 } };
     std::optional<TableInWindow> list;
@@ -417,60 +423,60 @@ protected:
 TEST_F(APictureOfATable, ShowsHairlinesInTheColorThatItIsGiven)
 {
     show({ 320, 200 });
-    EXPECT_THAT(pixel(100, 43), IsThemed(desktop::theme::separator));
-    EXPECT_THAT(pixel(100, 131), IsThemed(desktop::theme::separator));
+    EXPECT_THAT(pixel(100, 43), IsThemed(toolkit::theme::separator));
+    EXPECT_THAT(pixel(100, 131), IsThemed(toolkit::theme::separator));
     EXPECT_THAT(pixel(5, 43), isWhite);
     EXPECT_THAT(pixel(100, 42), isWhite);
-    list->table->setSeparatorColor(red());
+    list->table->setSeparatorColor(red);
     EXPECT_THAT(pixel(100, 43), isRed);
-    list->table->setSeparatorColor(UIColor::clearColor());
+    list->table->setSeparatorColor(toolkit::transparent);
     EXPECT_THAT(pixel(100, 43), isWhite);
-    list->table->setSeparatorColor(nullptr);
-    EXPECT_THAT(pixel(100, 43), IsThemed(desktop::theme::separator));
+    list->table->setSeparatorColor(std::nullopt);
+    EXPECT_THAT(pixel(100, 43), IsThemed(toolkit::theme::separator));
 }
 
 TEST_F(APictureOfATable, ShowsASelectedRowAboveItsBackgroundView)
 {
     show({ 320, 200 });
-    cell(0).setBackgroundView(box({}, red()));
+    cell(0).setBackgroundView(box({}, red));
     EXPECT_THAT(pixel(200, 20), isRed);
-    cell(0).setSelected(true, Animated::No);
-    EXPECT_THAT(pixel(200, 20), IsThemed(desktop::theme::rowPressed));
+    cell(0).setSelected(true, false);
+    EXPECT_THAT(pixel(200, 20), IsThemed(toolkit::theme::rowPressed));
     EXPECT_THAT(pixel(200, 60), isWhite);
-    cell(0).selectedBackgroundView()->setBackgroundColor(UIColor::blackColor());
+    cell(0).selectedBackgroundView()->setBackground(Color {});
     EXPECT_THAT(pixel(200, 20), isBlack);
-    cell(0).setSelected(false, Animated::No);
+    cell(0).setSelected(false, false);
     EXPECT_THAT(pixel(200, 20), isRed);
 }
 
 TEST_F(APictureOfATable, ShowsASwipedRowsButton)
 {
     show({ 320, 200 });
-    rows.isEditable = [](const NSIndexPath&) { return true; };
-    list->peer().revealDelete({ 0, 1 });
-    desktop::Clock::shared().advance(1);
-    EXPECT_THAT(pixel(240, 50), IsThemed(desktop::theme::destructive));
-    EXPECT_THAT(pixel(319, 87), IsThemed(desktop::theme::destructive));
+    rows.isDeletable = [](RowPath) { return true; };
+    list->table->swipe().open({ 0, 1 });
+    toolkit::Clock::shared().advance(1);
+    EXPECT_THAT(pixel(240, 50), IsThemed(toolkit::theme::destructive));
+    EXPECT_THAT(pixel(319, 87), IsThemed(toolkit::theme::destructive));
     EXPECT_THAT(pixel(236, 50), isWhite);
     EXPECT_THAT(pixel(300, 20), isWhite);
-    list->window->touchDown({ { 300, 66 }, desktop::Pointer::Mouse });
-    EXPECT_THAT(pixel(240, 50), IsThemed(desktop::theme::destructivePressed));
+    list->window->touchDown({ { 300, 66 }, toolkit::Pointer::Mouse });
+    EXPECT_THAT(pixel(240, 50), IsThemed(toolkit::theme::destructivePressed));
     list->window->touchCancel();
 }
 
 TEST_F(APictureOfATable, ShowsAPressedRowWithinTheRoundedCornersOfItsGroup)
 {
     rows.counts = { 2 };
-    show({ 600, 200 }, UITableViewStyle::Grouped);
-    const auto rect = list->peer().rowRect({ 0, 0 });
-    const int left = static_cast<int>(rect.origin.x);
-    const int top = static_cast<int>(rect.origin.y);
-    list->window->touchDown({ { 300, top + 20.0 }, desktop::Pointer::Mouse });
-    EXPECT_THAT(pixel(300, top + 1), IsThemed(desktop::theme::rowPressed));
-    EXPECT_THAT(pixel(left, top), IsThemed(desktop::theme::background));
-    EXPECT_THAT(pixel(left, top + 42), IsThemed(desktop::theme::rowPressed)) << "no corner between two rows";
+    show({ 600, 200 }, Table::Style::Grouped);
+    const auto rect = list->table->rows().rowRect({ 0, 0 });
+    const int left = static_cast<int>(rect.left());
+    const int top = static_cast<int>(rect.top());
+    list->window->touchDown({ { 300, top + 20.0 }, toolkit::Pointer::Mouse });
+    EXPECT_THAT(pixel(300, top + 1), IsThemed(toolkit::theme::rowPressed));
+    EXPECT_THAT(pixel(left, top), IsThemed(toolkit::theme::background));
+    EXPECT_THAT(pixel(left, top + 42), IsThemed(toolkit::theme::rowPressed)) << "no corner between two rows";
     EXPECT_THAT(pixel(300, top + 60), isWhite);
-    EXPECT_THAT(pixel(300, top + 43), IsThemed(desktop::theme::separator));
+    EXPECT_THAT(pixel(300, top + 43), IsThemed(toolkit::theme::separator));
     EXPECT_THAT(pixel(300, top + 87), isWhite) << "the last row has the group's edge";
     list->window->touchCancel();
 }

@@ -1,6 +1,6 @@
 #include "platform/desktop/Qt/Fonts.h"
 
-#include "platform/desktop/UIKit/Text.h"
+#include "platform/desktop/UIKit/Font.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -20,14 +20,14 @@ TEST(TheBoldTextFont, IsBold)
     ASSERT_TRUE(font);
     EXPECT_EQ(font->fontName(), "HelveticaNeue-Bold");
     EXPECT_EQ(font->pointSize(), 15);
-    EXPECT_EQ(qFont(*font).weight(), QFont::Bold);
-    EXPECT_FALSE(qFont(*font).italic());
-    EXPECT_GE(QFontInfo(qFont(*font)).weight(), QFont::DemiBold);
+    EXPECT_EQ(qFont(*desktop::toolkitFont(font)).weight(), QFont::Bold);
+    EXPECT_FALSE(qFont(*desktop::toolkitFont(font)).italic());
+    EXPECT_GE(QFontInfo(qFont(*desktop::toolkitFont(font))).weight(), QFont::DemiBold);
 }
 
 TEST(ATextFont, TakesItsWeightAndSlantFromItsStyle)
 {
-    const auto face = [](const char* name) { return qFont(*UIFont::fontWithNameSize(name, 12)); };
+    const auto face = [](const char* name) { return qFont({ name, 12 }); };
     EXPECT_EQ(face("HelveticaNeue").weight(), QFont::Normal);
     EXPECT_EQ(face("HelveticaNeue-Light").weight(), QFont::Light);
     EXPECT_EQ(face("HelveticaNeue-UltraLight").weight(), QFont::ExtraLight);
@@ -40,9 +40,9 @@ TEST(ATextFont, TakesItsWeightAndSlantFromItsStyle)
 
 TEST(ATextFont, IsAsManyPixelsHighAsItHasPoints)
 {
-    EXPECT_EQ(qFont(*UIFont::systemFontOfSize(17)).pixelSize(), 17);
-    EXPECT_EQ(qFont(*UIFont::systemFontOfSize(17)->fontWithSize(11)).pixelSize(), 11);
-    EXPECT_EQ(qFont(*UIFont::systemFontOfSize(0)).pixelSize(), 1);
+    EXPECT_EQ(qFont({ {}, 17 }).pixelSize(), 17);
+    EXPECT_EQ(qFont({ {}, 11 }).pixelSize(), 11);
+    EXPECT_EQ(qFont({ {}, 0 }).pixelSize(), 1);
 }
 
 TEST(ATextFont, KeepsItsFaceInAnotherSize)
@@ -69,11 +69,11 @@ TEST(AFontThatTheMachineHas, IsFoundByItsFamily)
 
 TEST(AParagraph, IsAsHighAsTheLinesThatItTakes)
 {
-    const auto font = UIFont::systemFontOfSize(13);
-    const double one = desktop::heightOfParagraph("word", *font, 300);
+    const toolkit::Font font { {}, 13 };
+    const double one = toolkit::heightOfParagraph("word", font, 300);
     EXPECT_GT(one, 10);
-    EXPECT_EQ(desktop::heightOfParagraph("word word", *font, 300), one);
-    EXPECT_GT(desktop::heightOfParagraph("word word word word word", *font, 40), 3 * one);
+    EXPECT_EQ(toolkit::heightOfParagraph("word word", font, 300), one);
+    EXPECT_GT(toolkit::heightOfParagraph("word word word word word", font, 40), 3 * one);
 }
 
 } // namespace

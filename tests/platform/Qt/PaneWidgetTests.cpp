@@ -1,15 +1,14 @@
-#include "platform/UIKit/UISlider.h"
-#include "platform/UIKit/UITextField.h"
 #include "platform/desktop/Qt/PaneWidget.h"
 #include "platform/desktop/Qt/Snapshot.h"
-#include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/TextFieldPeer.h"
 
 #include "platform/UIKit/UIScreen.h"
 #include "platform/desktop/UIKit/Screen.h"
-#include "tests/platform/UIKit/Controls.h"
-#include "tests/platform/UIKit/Geometry.h"
-#include "tests/platform/UIKit/Lists.h"
+#include "tests/toolkit/EventLog.h"
+#include "tests/toolkit/Geometry.h"
+#include "tests/toolkit/Rows.h"
+#include "toolkit/control/Slider.h"
+#include "toolkit/text/TextField.h"
+#include "toolkit/time/Clock.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -28,6 +27,9 @@ namespace {
 using desktop::PaneWidget;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using toolkit::Color, toolkit::Font, toolkit::make, toolkit::makeRect, toolkit::Ref, toolkit::Size,
+    toolkit::Slider;
+using toolkit::TextField, toolkit::View, toolkit::Window;
 
 QPointingDevice& touchScreen()
 {
@@ -40,8 +42,8 @@ class APaneWidget : public testing::Test {
 protected:
     APaneWidget()
     {
-        window->addSubview(*button);
-        log->listenTo(*button);
+        window->add(*button);
+        log.listenTo(*button);
         widget.show();
     }
 
@@ -63,9 +65,9 @@ protected:
     static constexpr QPoint inside { 60, 60 };
     static constexpr QPoint outside { 300, 300 };
 
-    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
-    const RetainPtr<Button> button = make<Button>(CGRectMake(50, 50, 40, 40));
-    const RetainPtr<EventLog> log = make<EventLog>();
+    const Ref<Window> window = make<Window>(Size { 320, 400 });
+    const Ref<toolkit::Control> button = make<toolkit::Control>(makeRect(50, 50, 40, 40));
+    EventLog log;
     PaneWidget widget { *window };
 };
 
@@ -73,13 +75,13 @@ TEST_F(APaneWidget, IsAsLargeAsItsWindowAndKeepsItSo)
 {
     EXPECT_EQ(widget.size(), QSize(320, 400));
     widget.resize(500, 300);
-    EXPECT_EQ(window->bounds().size, (CGSize { 500, 300 }));
+    EXPECT_EQ(window->bounds().size, (Size { 500, 300 }));
 }
 
 TEST_F(APaneWidget, PaintsTheWindow)
 {
-    window->setBackgroundColor(UIColor::colorWithRedGreenBlueAlpha(1, 0, 0, 1));
-    button->setBackgroundColor(UIColor::blackColor());
+    window->setBackground(Color { 1, 0, 0 });
+    button->setBackground(Color {});
     const auto picture = widget.grab().toImage();
     EXPECT_EQ(picture.pixelColor(10, 10), QColor(Qt::red));
     EXPECT_EQ(picture.pixelColor(60, 60), QColor(Qt::black));
@@ -98,7 +100,7 @@ TEST_F(APaneWidget, HandsTheMouseOn)
     press(inside);
     move(outside);
     release(outside);
-    EXPECT_THAT(log->take(), ElementsAre("down", "exit", "drag outside", "up outside"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "exit", "drag outside", "up outside"));
 }
 
 TEST_F(APaneWidget, HandsTheLeftButtonOnOnly)
@@ -106,7 +108,7 @@ TEST_F(APaneWidget, HandsTheLeftButtonOnOnly)
     mouse(QEvent::MouseButtonPress, inside, Qt::MouseEventNotSynthesized, Qt::RightButton);
     mouse(QEvent::MouseMove, inside, Qt::MouseEventNotSynthesized, Qt::RightButton);
     mouse(QEvent::MouseButtonRelease, inside, Qt::MouseEventNotSynthesized, Qt::RightButton);
-    EXPECT_THAT(log->take(), IsEmpty());
+    EXPECT_THAT(log.take(), IsEmpty());
 }
 
 TEST_F(APaneWidget, HandsAFingerOn)
@@ -114,7 +116,7 @@ TEST_F(APaneWidget, HandsAFingerOn)
     fingers().press(4, inside);
     fingers().move(4, { 65, 60 });
     fingers().release(4, { 65, 60 });
-    EXPECT_THAT(log->take(), ElementsAre("down", "drag inside", "up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "drag inside", "up inside"));
 }
 
 TEST_F(APaneWidget, DropsMouseEventsThatWereMadeUpFromAFinger)
@@ -124,7 +126,7 @@ TEST_F(APaneWidget, DropsMouseEventsThatWereMadeUpFromAFinger)
         mouse(QEvent::MouseMove, inside, source);
         mouse(QEvent::MouseButtonRelease, inside, source);
     }
-    EXPECT_THAT(log->take(), IsEmpty());
+    EXPECT_THAT(log.take(), IsEmpty());
 }
 
 TEST_F(APaneWidget, IgnoresASecondFinger)
@@ -133,9 +135,9 @@ TEST_F(APaneWidget, IgnoresASecondFinger)
     fingers().stationary(1).press(2, outside);
     fingers().stationary(1).move(2, inside);
     fingers().stationary(1).release(2, inside);
-    EXPECT_THAT(log->take(), ElementsAre("down"));
+    EXPECT_THAT(log.take(), ElementsAre("down"));
     fingers().release(1, inside);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("up inside"));
 }
 
 TEST_F(APaneWidget, IgnoresTheMouseWhileAFingerIsDown)
@@ -144,9 +146,9 @@ TEST_F(APaneWidget, IgnoresTheMouseWhileAFingerIsDown)
     press(outside);
     move(outside);
     release(outside);
-    EXPECT_THAT(log->take(), ElementsAre("down"));
+    EXPECT_THAT(log.take(), ElementsAre("down"));
     fingers().release(1, inside);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("up inside"));
 }
 
 TEST_F(APaneWidget, IgnoresAFingerWhileTheMouseIsDown)
@@ -155,9 +157,9 @@ TEST_F(APaneWidget, IgnoresAFingerWhileTheMouseIsDown)
     fingers().press(1, outside);
     fingers().move(1, { 310, 300 });
     fingers().release(1, outside);
-    EXPECT_THAT(log->take(), ElementsAre("down"));
+    EXPECT_THAT(log.take(), ElementsAre("down"));
     release(inside);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("up inside"));
 }
 
 TEST_F(APaneWidget, CancelsTheTouchThatIsTakenAwayAndTakesTheNext)
@@ -165,21 +167,21 @@ TEST_F(APaneWidget, CancelsTheTouchThatIsTakenAwayAndTakesTheNext)
     fingers().press(1, inside);
     QTouchEvent cancel(QEvent::TouchCancel, &touchScreen());
     QApplication::sendEvent(&widget, &cancel);
-    EXPECT_THAT(log->take(), ElementsAre("down", "cancel"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "cancel"));
     fingers().release(1, inside);
     fingers().press(2, inside);
     fingers().release(2, inside);
-    EXPECT_THAT(log->take(), ElementsAre("down", "up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "up inside"));
 }
 
 TEST_F(APaneWidget, CancelsTheTouchWhenItIsHidden)
 {
     press(inside);
     widget.hide();
-    EXPECT_THAT(log->take(), ElementsAre("down", "cancel"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "cancel"));
     press(inside);
     release(inside);
-    EXPECT_THAT(log->take(), ElementsAre("down", "up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("down", "up inside"));
 }
 
 TEST_F(APaneWidget, LeavesTheWindowInPeaceWhenItIsGone)
@@ -197,12 +199,13 @@ class AKeyInAPaneWidget : public testing::Test {
 protected:
     AKeyInAPaneWidget()
     {
-        slider->setMaximumValue(12);
-        slider->setMinimumValue(-12);
+        slider->setMaximum(12);
+        slider->setMinimum(-12);
         slider->setValue(0);
-        slider->setFrame(CGRectMake(35, 50, 250, 44));
-        window->addSubview(*slider);
-        log->listenTo(*slider);
+        slider->setSteps({ .small = 0.1, .large = 1 });
+        slider->setFrame(makeRect(35, 50, 250, 44));
+        window->add(*slider);
+        log.listenTo(*slider);
         widget.show();
     }
 
@@ -218,9 +221,9 @@ protected:
         return slider->value();
     }
 
-    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
-    const RetainPtr<UISlider> slider = make<UISlider>();
-    const RetainPtr<EventLog> log = make<EventLog>();
+    const Ref<Window> window = make<Window>(Size { 320, 400 });
+    const Ref<Slider> slider = make<Slider>();
+    EventLog log;
     PaneWidget widget { *window };
 };
 
@@ -242,55 +245,45 @@ TEST_F(AKeyInAPaneWidget, IsHeldUntilItIsReallyReleased)
 {
     valueAfter(Qt::Key_Tab);
     key(QEvent::KeyPress, Qt::Key_Right);
-    log->take();
+    log.take();
     key(QEvent::KeyRelease, Qt::Key_Right, true);
     key(QEvent::KeyPress, Qt::Key_Right, true);
-    EXPECT_THAT(log->take(), ElementsAre("value", "drag inside"));
+    EXPECT_THAT(log.take(), ElementsAre("value", "drag inside"));
     key(QEvent::KeyRelease, Qt::Key_Right);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("up inside"));
 }
 
 TEST_F(AKeyInAPaneWidget, IsLetGoOfWhenTheWidgetLosesTheKeyboard)
 {
     valueAfter(Qt::Key_Tab);
     key(QEvent::KeyPress, Qt::Key_Right);
-    log->take();
+    log.take();
     QFocusEvent event(QEvent::FocusOut);
     QApplication::sendEvent(&widget, &event);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
+    EXPECT_THAT(log.take(), ElementsAre("up inside"));
 }
-
-/// Writes down the texts of the fields whose return key was pressed.
-class Reader : public UITextFieldDelegate {
-public:
-    bool textFieldShouldReturn(UITextField* field) override
-    {
-        read.push_back(field->text());
-        field->resignFirstResponder();
-        return false;
-    }
-
-    std::vector<std::string> read;
-};
 
 /// A name field on a white strip, shown by a widget in a window that has the keyboard.
 class AFieldInAPaneWidget : public testing::Test {
 protected:
     AFieldInAPaneWidget()
     {
-        window->setBackgroundColor(UIColor::blackColor());
-        strip->setBackgroundColor(UIColor::whiteColor());
-        field->setFont(UIFont::fontWithNameSize("HelveticaNeue-Bold", 18));
-        field->setDelegate(&reader);
-        window->addSubview(*strip);
-        strip->addSubview(*field);
+        window->setBackground(Color {});
+        strip->setBackground(Color { 1, 1, 1 });
+        field->setFont(Font { "HelveticaNeue-Bold", 18 });
+        field->onReturn = [this] {
+            confirmed.push_back(field->text());
+            window->focus().takeFrom(*field);
+        };
+        window->add(*strip);
+        strip->add(*field);
         widget.show();
         widget.activateWindow();
         widget.setFocus();
         // No blinking caret in pictures.
         QApplication::setCursorFlashTime(0);
     }
-    ~AFieldInAPaneWidget() override { desktop::Clock::shared().advance(1); }
+    ~AFieldInAPaneWidget() override { toolkit::Clock::shared().advance(1); }
 
     /// What the user works with while the field is edited; null when it is not.
     QLineEdit* editor()
@@ -302,10 +295,11 @@ protected:
     static void type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
-    Reader reader;
-    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
-    const RetainPtr<UIView> strip = make<UIView>(CGRectMake(44, 44, 232, 44));
-    const RetainPtr<UITextField> field = make<UITextField>(CGRectMake(20, 8, 192, 28));
+    /// The texts that the return key was pressed for.
+    std::vector<std::string> confirmed;
+    const Ref<Window> window = make<Window>(Size { 320, 400 });
+    const Ref<View> strip = make<View>(makeRect(44, 44, 232, 44));
+    const Ref<TextField> field = make<TextField>(makeRect(20, 8, 192, 28));
     PaneWidget widget { *window };
 };
 
@@ -318,16 +312,16 @@ TEST_F(AFieldInAPaneWidget, HasAnEditorWhileItIsTheFirstResponder)
     EXPECT_EQ(QApplication::focusWidget(), editor());
     EXPECT_EQ(editor()->text(), "Rock");
     // Over the text, with the editor's own margin at either side.
-    const auto width = desktop::peerOf(*field).textArea().size.width;
+    const auto width = field->textArea().size.width;
     EXPECT_EQ(editor()->geometry(), QRectF(62, 52, width + 4, 28).toRect());
-    field->resignFirstResponder();
+    window->focus().takeFrom(*field);
     EXPECT_EQ(editor(), nullptr);
     EXPECT_EQ(QApplication::focusWidget(), &widget);
 }
 
 TEST_F(AFieldInAPaneWidget, HasEachChangeOfTheEditor)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
     type("Rock");
     EXPECT_EQ(field->text(), "Rock");
@@ -344,7 +338,7 @@ TEST_F(AFieldInAPaneWidget, HasEachChangeOfTheEditor)
 
 TEST_F(AFieldInAPaneWidget, HandsItsOwnChangesToTheEditor)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
     field->setText("Jazz");
     widget.grab();
@@ -353,7 +347,7 @@ TEST_F(AFieldInAPaneWidget, HandsItsOwnChangesToTheEditor)
 
 TEST_F(AFieldInAPaneWidget, IsTypedIntoBeforeTheEditorIsThere)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     QTest::keyClicks(&widget, "R o");
     EXPECT_EQ(field->text(), "R o");
     EXPECT_EQ(editor()->text(), "R o");
@@ -361,17 +355,17 @@ TEST_F(AFieldInAPaneWidget, IsTypedIntoBeforeTheEditorIsThere)
 
 TEST_F(AFieldInAPaneWidget, HasReturnFromTheEditor)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
     type("Rock");
     press(Qt::Key_Return);
-    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    EXPECT_THAT(confirmed, ElementsAre("Rock"));
     EXPECT_EQ(editor(), nullptr);
 }
 
 TEST_F(AFieldInAPaneWidget, IsConfirmedWithTheMouseAlone)
 {
-    field->setReturnKeyType(UIReturnKeyType::Done);
+    field->setReturnTitle("Done");
     click({ 100, 66 });
     ASSERT_TRUE(editor());
     type("Rock");
@@ -379,15 +373,15 @@ TEST_F(AFieldInAPaneWidget, IsConfirmedWithTheMouseAlone)
     EXPECT_EQ(widget.childAt(key), nullptr) << "the editor leaves the key free";
     QTest::mousePress(&widget, Qt::LeftButton, {}, key);
     EXPECT_EQ(QApplication::focusWidget(), editor());
-    EXPECT_THAT(reader.read, testing::IsEmpty());
+    EXPECT_THAT(confirmed, testing::IsEmpty());
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, key);
-    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    EXPECT_THAT(confirmed, ElementsAre("Rock"));
     EXPECT_EQ(editor(), nullptr);
 }
 
 TEST_F(AFieldInAPaneWidget, KeepsTheKeyboardWhenSomethingElseIsClicked)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
     click({ 10, 300 });
     EXPECT_EQ(QApplication::focusWidget(), editor());
@@ -395,9 +389,9 @@ TEST_F(AFieldInAPaneWidget, KeepsTheKeyboardWhenSomethingElseIsClicked)
 
 TEST_F(AFieldInAPaneWidget, LosesItsEditorWhenItLeavesTheWindow)
 {
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
-    strip->removeFromSuperview();
+    strip->removeFromParent();
     EXPECT_EQ(editor(), nullptr);
 }
 
@@ -418,7 +412,7 @@ TEST_F(AFieldInAPaneWidget, IsDrawnOnceByWhoeverHasToAndIsInEveryPicture)
     field->setText("Rock");
     const int alone = darkPixelsIn(widget.grab().toImage(), place);
     EXPECT_GT(alone, 100);
-    field->becomeFirstResponder();
+    window->focus().giveTo(*field);
     ASSERT_TRUE(editor());
     editor()->setReadOnly(true); // Without a caret.
     EXPECT_NEAR(darkPixelsIn(widget.grab().toImage(), place), alone, 0.1 * alone);
@@ -432,16 +426,16 @@ TEST_F(AFieldInAPaneWidget, DrawsItselfWhileItMoves)
     const QRect place(64, 52, 96, 28); // Without the return key at its end.
     field->setText("Rock");
     strip->setAlpha(0);
-    field->becomeFirstResponder();
-    UIView::animateWithDurationAnimations(0.2, [&] { strip->setAlpha(1); });
+    window->focus().giveTo(*field);
+    View::animate(0.2, [&] { strip->setAlpha(1); });
     widget.grab();
     ASSERT_TRUE(editor());
     EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 96 * 28);
-    desktop::Clock::shared().advance(0.15);
+    toolkit::Clock::shared().advance(0.15);
     const int fading = darkPixelsIn(widget.grab().toImage(), place);
     EXPECT_GT(fading, 100);
     EXPECT_LT(fading, 1000);
-    desktop::Clock::shared().advance(0.1);
+    toolkit::Clock::shared().advance(0.1);
     editor()->hide();
     EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 0);
 }

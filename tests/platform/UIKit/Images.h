@@ -1,24 +1,20 @@
 // Images under test.
 #pragma once
 
-#include "platform/desktop/UIKit/ImagePeer.h"
+#include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UIGraphics.h"
 
 namespace brimsound::tests {
 
-/// An image of that size in points, of one colour.
-inline RetainPtr<UIImage> filledImage(CGSize size, const desktop::Color& color)
+/// An image of that size in points, at scale 1, of one color.
+inline RetainPtr<UIImage> filledImage(CGSize size, const RetainPtr<UIColor>& color)
 {
-    struct Filled : desktop::ImagePeer {
-        desktop::Color color;
-        void draw(desktop::Canvas& canvas, const CGRect& rect) const override
-        {
-            canvas.fillRect(rect, color);
-        }
-    };
-    auto* peer = new Filled;
-    peer->size = size;
-    peer->color = color;
-    return desktop::makeImage(peer);
+    UIGraphicsBeginImageContext(size);
+    color->setFill();
+    CGContextFillRect(UIGraphicsGetCurrentContext(), { {}, size });
+    auto image = UIGraphicsGetImageFromCurrentImageContext();
+    UIGraphicsEndImageContext();
+    return image;
 }
 
 } // namespace brimsound::tests

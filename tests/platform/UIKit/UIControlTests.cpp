@@ -1,140 +1,40 @@
-#include "platform/desktop/UIKit/Window.h"
-#include "tests/platform/UIKit/Controls.h"
+#include "platform/UIKit/UIControl.h"
+
+#include "platform/UIKit/UIButton.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/control/Control.h"
 
 #include <gmock/gmock.h>
+
+#include <array>
+#include <functional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace brimsound::tests {
 
 namespace {
 
-using desktop::Window;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using toolkit::ControlEvent;
 
-class ATouchOnAButton : public testing::Test {
-protected:
-    ATouchOnAButton()
-    {
-        window->addSubview(*button);
-        log->listenTo(*button);
-    }
+/// Every event of a toolkit control and the platform's number for it.
+constexpr std::array<std::pair<ControlEvent, UIControlEvents>, 9> events { {
+    { ControlEvent::TouchDown, UIControlEventTouchDown },
+    { ControlEvent::DragInside, UIControlEventTouchDragInside },
+    { ControlEvent::DragOutside, UIControlEventTouchDragOutside },
+    { ControlEvent::DragEnter, UIControlEventTouchDragEnter },
+    { ControlEvent::DragExit, UIControlEventTouchDragExit },
+    { ControlEvent::TouchUpInside, UIControlEventTouchUpInside },
+    { ControlEvent::TouchUpOutside, UIControlEventTouchUpOutside },
+    { ControlEvent::TouchCancel, UIControlEventTouchCancel },
+    { ControlEvent::ValueChanged, UIControlEventValueChanged },
+} };
 
-    static constexpr CGPoint inside { 210, 210 };
-
-    const RetainPtr<Window> window = make<Window>(CGSize { 500, 500 });
-    const RetainPtr<Button> button = make<Button>(CGRectMake(200, 200, 50, 40));
-    const RetainPtr<EventLog> log = make<EventLog>();
-};
-
-TEST_F(ATouchOnAButton, SendsDownThenUpInside)
-{
-    window->touchDown({ inside });
-    EXPECT_THAT(log->take(), ElementsAre("down"));
-    EXPECT_TRUE(window->isTouched());
-    window->touchUp(inside);
-    EXPECT_THAT(log->take(), ElementsAre("up inside"));
-    EXPECT_FALSE(window->isTouched());
-}
-
-TEST_F(ATouchOnAButton, SendsADragForEveryMove)
-{
-    window->touchDown({ inside });
-    window->touchMove({ 220, 210 });
-    window->touchMove({ 230, 210 });
-    EXPECT_THAT(log->take(), ElementsAre("down", "drag inside", "drag inside"));
-}
-
-TEST_F(ATouchOnAButton, SendsAnExitOnLeavingAndAnEnterOnComingBack)
-{
-    window->touchDown({ inside });
-    log->take();
-    window->touchMove({ 210, 400 });
-    EXPECT_THAT(log->take(), ElementsAre("exit", "drag outside"));
-    window->touchMove({ 210, 410 });
-    EXPECT_THAT(log->take(), ElementsAre("drag outside"));
-    window->touchMove(inside);
-    EXPECT_THAT(log->take(), ElementsAre("enter", "drag inside"));
-}
-
-TEST_F(ATouchOnAButton, CountsAsInsideUpToSeventyPointsAround)
-{
-    window->touchDown({ inside });
-    for (const auto& point : { CGPoint { 130, 220 }, { 319.5, 220 }, { 220, 130 }, { 220, 309.5 } }) {
-        log->take();
-        window->touchMove(point);
-        EXPECT_THAT(log->take(), ElementsAre("drag inside")) << point.x << ", " << point.y;
-    }
-    for (const auto& point : { CGPoint { 129.5, 220 }, { 320, 220 }, { 220, 129.5 }, { 220, 310 } }) {
-        window->touchMove(inside);
-        log->take();
-        window->touchMove(point);
-        EXPECT_THAT(log->take(), ElementsAre("exit", "drag outside")) << point.x << ", " << point.y;
-    }
-}
-
-TEST_F(ATouchOnAButton, EndsInsideOrOutsideByWhereItIsLifted)
-{
-    window->touchDown({ inside });
-    window->touchUp({ 300, 290 });
-    EXPECT_THAT(log->take(), ElementsAre("down", "up inside"));
-    window->touchDown({ inside });
-    window->touchUp({ 400, 210 });
-    EXPECT_THAT(log->take(), ElementsAre("down", "up outside"));
-}
-
-TEST_F(ATouchOnAButton, SendsCancelAndNothingAfterwards)
-{
-    window->touchDown({ inside });
-    window->touchCancel();
-    window->touchMove({ 220, 210 });
-    window->touchUp(inside);
-    EXPECT_THAT(log->take(), ElementsAre("down", "cancel"));
-}
-
-TEST_F(ATouchOnAButton, StaysWithItWhereverItGoes)
-{
-    const auto other = make<Button>(CGRectMake(0, 0, 50, 50));
-    window->addSubview(*other);
-    const auto otherLog = make<EventLog>();
-    otherLog->listenTo(*other);
-    window->touchDown({ inside });
-    window->touchMove({ 10, 10 });
-    window->touchUp({ 10, 10 });
-    EXPECT_THAT(log->take(), ElementsAre("down", "exit", "drag outside", "up outside"));
-    EXPECT_THAT(otherLog->take(), IsEmpty());
-}
-
-TEST_F(ATouchOnAButton, ReachesItThroughASubviewThatTakesNoTouches)
-{
-    button->addSubview(*make<UIView>(CGRectMake(0, 0, 50, 40)));
-    window->touchDown({ inside });
-    EXPECT_THAT(log->take(), ElementsAre("down"));
-}
-
-TEST_F(ATouchOnAButton, IsNotDisturbedByASecondOne)
-{
-    const auto other = make<Button>(CGRectMake(0, 0, 50, 50));
-    window->addSubview(*other);
-    const auto otherLog = make<EventLog>();
-    otherLog->listenTo(*other);
-    window->touchDown({ inside });
-    window->touchDown({ { 10, 10 } });
-    window->touchUp(inside);
-    EXPECT_THAT(log->take(), ElementsAre("down", "up inside"));
-    EXPECT_THAT(otherLog->take(), IsEmpty());
-}
-
-TEST_F(ATouchOnAButton, IsIgnoredWhereNothingTakesIt)
-{
-    window->touchDown({ { 10, 10 } });
-    EXPECT_FALSE(window->isTouched());
-    window->touchMove(inside);
-    window->touchUp(inside);
-    window->touchCancel();
-    EXPECT_THAT(log->take(), IsEmpty());
-}
-
-/// Does something when a control calls it.
+/// Calls a function when a control calls it.
 class Reaction : public NSObject {
 public:
     std::function<void(UIControl&)> action;
@@ -148,50 +48,6 @@ public:
 private:
     void react(UIControl& sender) { action(sender); }
 };
-
-TEST_F(ATouchOnAButton, EndsWithTheCancelWhenAnActionTakesItAway)
-{
-    const auto reaction = make<Reaction>();
-    reaction->action = [&](UIControl&) { window->touchCancel(); };
-    for (const auto event :
-        { UIControlEventTouchDown, UIControlEventTouchDragExit, UIControlEventTouchUpInside }) {
-        const auto closing = make<Button>(CGRectMake(0, 0, 50, 50));
-        window->addSubview(*closing);
-        log->listenTo(*closing);
-        closing->addTargetActionForControlEvents(*reaction, "react:", event);
-        window->touchDown({ { 10, 10 } });
-        window->touchMove({ 10, 400 });
-        window->touchMove({ 10, 10 });
-        window->touchUp({ 10, 10 });
-        const auto events = log->take();
-        EXPECT_EQ(events.back(), event == UIControlEventTouchUpInside ? "up inside" : "cancel");
-        EXPECT_FALSE(window->isTouched());
-        closing->removeFromSuperview();
-    }
-}
-
-TEST_F(ATouchOnAButton, KeepsItAliveWhenAnActionRemovesIt)
-{
-    const auto reaction = make<Reaction>();
-    reaction->action = [&](UIControl& sender) {
-        sender.removeFromSuperview();
-        window->touchCancel();
-    };
-    for (const auto event : { UIControlEventTouchDown, UIControlEventTouchDragInside,
-             UIControlEventTouchDragExit, UIControlEventTouchUpInside }) {
-        auto closing = make<Button>(CGRectMake(0, 0, 50, 50));
-        closing->addTargetActionForControlEvents(*reaction, "react:", event);
-        window->addSubview(*closing);
-        closing = nullptr;
-        window->touchDown({ { 10, 10 } });
-        window->touchMove({ 12, 12 });
-        window->touchMove({ 10, 400 });
-        window->touchMove({ 10, 10 });
-        window->touchUp({ 10, 10 });
-        EXPECT_FALSE(window->isTouched());
-        EXPECT_EQ(window->subviews().size(), 1u);
-    }
-}
 
 /// Writes the names of its methods down as they are called, on a list that it shares.
 class Caller : public NSObject {
@@ -219,7 +75,7 @@ private:
 
 class AControlsTargets : public testing::Test {
 protected:
-    const RetainPtr<Button> button = make<Button>(CGRectMake(0, 0, 50, 50));
+    const RetainPtr<UIButton> button = make<UIButton>(CGRectMake(0, 0, 50, 50));
     std::vector<std::string> calls;
     const RetainPtr<Caller> a = make<Caller>("a", calls);
     const RetainPtr<Caller> b = make<Caller>("b", calls);
@@ -264,7 +120,7 @@ TEST_F(AControlsTargets, GetFurtherEventsWhenTheyAreAddedAgain)
     EXPECT_THAT(calls, ElementsAre("a first"));
 }
 
-TEST_F(AControlsTargets, AreNotTroubledByAnActionThatTheyDoNotAnswer)
+TEST_F(AControlsTargets, AreCalledAfterOneThatDoesNotKnowItsAction)
 {
     button->addTargetActionForControlEvents(*a, "third:", UIControlEventTouchDown);
     button->addTargetActionForControlEvents(*b, "first:", UIControlEventTouchDown);
@@ -278,6 +134,22 @@ TEST_F(AControlsTargets, AreNotRetained)
     EXPECT_EQ(a->retainCount(), 1u);
 }
 
+TEST_F(AControlsTargets, GetEveryEventOfTheNativeControl)
+{
+    for (const auto& [event, number] : events) {
+        const auto reaction = make<Reaction>();
+        int received = 0;
+        reaction->action = [&](UIControl&) { ++received; };
+        const auto control = make<UIButton>(CGRectMake(0, 0, 50, 50));
+        control->addTargetActionForControlEvents(*reaction, "react:", number);
+        const auto& native = desktop::nativeOf<toolkit::Control>(*control);
+        for (const auto& [sent, sentNumber] : events) {
+            native.onEvent(sent);
+            EXPECT_EQ(std::exchange(received, 0), sent == event ? 1 : 0) << number << ", " << sentNumber;
+        }
+    }
+}
+
 TEST_F(AControlsTargets, GetTheControlAsTheSender)
 {
     const auto reaction = make<Reaction>();
@@ -286,6 +158,22 @@ TEST_F(AControlsTargets, GetTheControlAsTheSender)
     button->addTargetActionForControlEvents(*reaction, "react:", UIControlEventTouchDown);
     button->sendActionsForControlEvents(UIControlEventTouchDown);
     EXPECT_EQ(sender, button.get());
+}
+
+TEST_F(AControlsTargets, MayReleaseTheControl)
+{
+    const auto reaction = make<Reaction>();
+    auto closing = make<UIButton>(CGRectMake(0, 0, 50, 50));
+    std::size_t count = 0;
+    reaction->action = [&](UIControl& control) {
+        closing = nullptr;
+        count = control.retainCount();
+    };
+    closing->addTargetActionForControlEvents(*reaction, "react:", UIControlEventTouchDown);
+    closing->addTargetActionForControlEvents(*a, "first:", UIControlEventTouchDown);
+    closing->sendActionsForControlEvents(UIControlEventTouchDown);
+    EXPECT_EQ(count, 1u);
+    EXPECT_THAT(calls, ElementsAre("a first"));
 }
 
 TEST_F(AControlsTargets, CanAddTargetsWhileTheyAreCalled)

@@ -3,8 +3,8 @@
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIScreen.h"
 #include "platform/desktop/UIKit/Screen.h"
-#include "platform/desktop/UIKit/Window.h"
 #include "tests/support/Images.h"
+#include "toolkit/window/Window.h"
 
 #include <gmock/gmock.h>
 
@@ -51,13 +51,13 @@ TEST_F(AnImageContext, IsTransparentAtFirst)
     EXPECT_THAT(bytesOf(*image()), Each(0));
 }
 
-TEST_F(AnImageContext, HasItsOriginAbove)
+TEST_F(AnImageContext, HasItsOriginAtTheTop)
 {
     CGContextFillRect(UIGraphicsGetCurrentContext(), CGRectMake(0, 0, 2, 1));
     EXPECT_THAT(alphas(), ElementsAre(255, 255, 0, 0));
 }
 
-TEST_F(AnImageContext, ShowsImagesUprightThatDrawThemselves)
+TEST_F(AnImageContext, ShowsImagesUpright)
 {
     upperHalf()->drawInRect(whole);
     EXPECT_THAT(alphas(), ElementsAre(255, 255, 0, 0));
@@ -69,7 +69,7 @@ TEST_F(AnImageContext, ShowsPicturesUpsideDown)
     EXPECT_THAT(alphas(), ElementsAre(0, 0, 255, 255));
 }
 
-TEST_F(AnImageContext, ShowsPicturesUprightWhenItIsTurnedOver)
+TEST_F(AnImageContext, ShowsPicturesUprightWhenItIsFlipped)
 {
     CGContextTranslateCTM(UIGraphicsGetCurrentContext(), 0, 2);
     CGContextScaleCTM(UIGraphicsGetCurrentContext(), 1, -1);
@@ -77,7 +77,7 @@ TEST_F(AnImageContext, ShowsPicturesUprightWhenItIsTurnedOver)
     EXPECT_THAT(alphas(), ElementsAre(255, 255, 0, 0));
 }
 
-TEST_F(AnImageContext, GivesImagesThatStayAsTheyAre)
+TEST_F(AnImageContext, GivesImagesThatDoNotChangeAfterwards)
 {
     const auto before = image();
     upperHalf()->drawInRect(whole);
@@ -96,7 +96,7 @@ TEST_F(AnImageContext, FillsWithTheColorThatWasSetInIt)
     EXPECT_EQ(bytesOf(*image()), pixels(2, 2, [](auto, auto) { return Bytes { 51, 20, 0, 51 }; }));
 }
 
-TEST_F(AnImageContext, CoversTheOneBefore)
+TEST_F(AnImageContext, IsCurrentInsteadOfTheOneBefore)
 {
     const auto* outer = UIGraphicsGetCurrentContext();
     UIGraphicsBeginImageContext({ 3, 3 });
@@ -107,7 +107,7 @@ TEST_F(AnImageContext, CoversTheOneBefore)
     EXPECT_THAT(alphas(), Each(0));
 }
 
-TEST_F(AnImageContext, IsNoneWhereThereCanBeNone)
+TEST_F(AnImageContext, IsMissingWhereItsSizeIsImpossible)
 {
     for (const auto& size : { CGSize { 0, 2 }, CGSize { 2, 0 }, CGSize { -2, -2 }, CGSize { 1e5, 2 },
              CGSize { std::nan(""), 2 } }) {
@@ -121,7 +121,7 @@ TEST_F(AnImageContext, IsNoneWhereThereCanBeNone)
     EXPECT_THAT(alphas(), Each(0)) << "nothing went to the context around it";
 }
 
-TEST_F(AnImageContext, MayBeEndedOnceTooOften)
+TEST_F(AnImageContext, MayBeEndedMoreOftenThanItWasBegun)
 {
     UIGraphicsEndImageContext();
     UIGraphicsEndImageContext();
@@ -129,7 +129,7 @@ TEST_F(AnImageContext, MayBeEndedOnceTooOften)
     EXPECT_FALSE(image());
 }
 
-TEST_F(AnImageContext, HasSoManyPixelsAPoint)
+TEST_F(AnImageContext, HasAsManyPixelsAPointAsItsScale)
 {
     UIGraphicsBeginImageContextWithOptions({ 3, 2 }, 4);
     CGContextFillRect(UIGraphicsGetCurrentContext(), CGRectMake(0, 0, 3, 1));
@@ -164,7 +164,7 @@ TEST_F(AnImageContext, TakesTheScreensScaleForZero)
     UIGraphicsEndImageContext();
 }
 
-TEST(TheScreen, HasTwoPixelsAPointUntilThePaneIsShownOnOne)
+TEST(TheScreen, HasTwoPixelsAPointUntilItsScaleIsSet)
 {
     EXPECT_EQ(UIScreen::mainScreen().scale(), 2);
 }
@@ -172,9 +172,9 @@ TEST(TheScreen, HasTwoPixelsAPointUntilThePaneIsShownOnOne)
 TEST(TheScreen, IsAsLargeAsTheWindow)
 {
     EXPECT_EQ(UIScreen::mainScreen().bounds(), CGRect {});
-    const auto window = make<desktop::Window>(CGSize { 320, 568 });
+    const auto window = toolkit::make<toolkit::Window>(toolkit::Size { 320, 568 });
     EXPECT_EQ(UIScreen::mainScreen().bounds(), CGRectMake(0, 0, 320, 568));
-    window->setFrame(CGRectMake(0, 0, 400, 300));
+    window->setFrame(toolkit::makeRect(0, 0, 400, 300));
     EXPECT_EQ(UIScreen::mainScreen().bounds(), CGRectMake(0, 0, 400, 300));
 }
 

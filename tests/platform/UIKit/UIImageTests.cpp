@@ -2,8 +2,9 @@
 
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UISlider.h"
+#include "platform/desktop/CoreGraphics/CGImagePeer.h"
 #include "platform/desktop/Qt/Raster.h"
-#include "platform/desktop/UIKit/Knob.h"
+#include "platform/desktop/UIKit/BitmapImage.h"
 #include "platform/desktop/UIKit/Screen.h"
 #include "tests/support/Images.h"
 #include "tests/support/TemporaryRoot.h"
@@ -39,7 +40,7 @@ TEST_F(AnImageFile, GivesItsPixelsPremultipliedAndUpright)
     EXPECT_EQ(bytesOf(*image), bytes);
 }
 
-TEST_F(AnImageFile, HasTheScaleThatItsNameEndsIn)
+TEST_F(AnImageFile, GivesAnImageOfTheScaleThatItsNameEndsIn)
 {
     const std::vector<std::pair<std::string, double>> scales { { "dot.png", 1 }, { "dot@2x.png", 2 },
         { "dot@2x~ipad.png", 2 }, { "dot@3x.png", 3 }, { "dot@2x", 2 }, { "dot@2x.old.png", 1 },
@@ -53,7 +54,7 @@ TEST_F(AnImageFile, HasTheScaleThatItsNameEndsIn)
     }
 }
 
-TEST_F(AnImageFile, IsNoImageWhenItIsMissingOrBroken)
+TEST_F(AnImageFile, GivesNoImageWhenItIsMissingOrBroken)
 {
     write("dot.png");
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("/missing.png"));
@@ -66,7 +67,7 @@ TEST_F(AnImageFile, IsNoImageWhenItIsMissingOrBroken)
         EXPECT_FALSE(UIImage::imageWithContentsOfFile(name)) << name;
 }
 
-TEST(TheBundlesPlus, HasTwoPixelsAPointAndAShape)
+TEST(TheBundlesPlusImage, HasTwoPixelsAPointAndAPlusInTransparency)
 {
     const auto plus
         = UIImage::imageWithContentsOfFile("/Library/PreferenceBundles/BrimsoundSettings.bundle/plus@2x.png");
@@ -78,7 +79,7 @@ TEST(TheBundlesPlus, HasTwoPixelsAPointAndAShape)
     EXPECT_EQ(pixelOf(*plus, width / 2, heightOf(*plus) / 2)[3], 255);
 }
 
-TEST(APictureInAnImage, HasOnePixelAPoint)
+TEST(AnImageOfAPicture, HasOnePixelAPoint)
 {
     UIGraphicsBeginImageContextWithOptions({ 3, 2 }, 2);
     const auto image = UIGraphicsGetImageFromCurrentImageContext();
@@ -88,7 +89,7 @@ TEST(APictureInAnImage, HasOnePixelAPoint)
     EXPECT_EQ(again->size(), (CGSize { 6, 4 }));
 }
 
-TEST(APictureInAnImage, OutlivesTheImageThatItCameFrom)
+TEST(AnImageOfAPicture, OutlivesTheImageThatThePictureIsFrom)
 {
     auto image = imageOf(2, 1, { 9, 9, 9, 255, 8, 8, 8, 255 });
     const auto again = UIImage::imageWithCGImage(image->CGImage());
@@ -96,35 +97,51 @@ TEST(APictureInAnImage, OutlivesTheImageThatItCameFrom)
     EXPECT_THAT(pixelOf(*again, 1, 0), ElementsAre(8, 8, 8, 255));
 }
 
-TEST(AnImageThatIsDrawnByOperations, HasPixelsForTheScreensScale)
+/// Red in its left third.
+class ThirdImage : public toolkit::Image {
+public:
+    ThirdImage()
+        : Image({ 3, 2 })
+    {
+    }
+    void draw(toolkit::Canvas& canvas, const toolkit::Rect& rect) const override
+    {
+        canvas.fillRect({ rect.origin, { rect.size.width / 3, rect.size.height } }, { 1, 0, 0 });
+    }
+};
+
+TEST(RasterizingAnImage, DrawsItWithAsManyPixelsAPointAsAskedFor)
 {
-    struct HalfPeer : desktop::ImagePeer {
-        HalfPeer() { size = { 3, 2 }; }
-        void draw(desktop::Canvas& canvas, const CGRect& rect) const override
-        {
-            auto left = rect;
-            left.size.width = rect.size.width / 3;
-            canvas.fillRect(left, { 1, 0, 0, 1 });
-        }
-    };
-    desktop::setScreenScale(3);
-    const auto image = desktop::makeImage(new HalfPeer);
+    const auto bitmap = desktop::rasterized(*toolkit::make<ThirdImage>(), 3);
+    ASSERT_TRUE(bitmap);
+    const auto image = desktop::makeImage(desktop::makeCGImage(bitmap), 3);
     EXPECT_EQ(image->scale(), 3);
+    EXPECT_EQ(image->size(), (CGSize { 3, 2 }));
     EXPECT_EQ(bytesOf(*image), pixels(9, 6, [](std::size_t x, auto) {
         return x < 3 ? Bytes { 255, 0, 0, 255 } : Bytes { 0, 0, 0, 0 };
     }));
-    desktop::setScreenScale(2);
-    EXPECT_EQ(image->scale(), 3) << "it does not change any more";
-    EXPECT_EQ(image->size(), (CGSize { 3, 2 }));
 }
 
-TEST(TheThumbOfASlider, HasPixelsToo)
+TEST(TheThumbOfASlider, HasPixels)
 {
     const auto slider = make<UISlider>();
     const auto* thumb = slider->currentThumbImage();
     ASSERT_TRUE(thumb->CGImage());
+    EXPECT_EQ(thumb->size(), (CGSize { 28, 28 }));
     const auto middle = pixelOf(*thumb, widthOf(*thumb) / 2, heightOf(*thumb) / 2);
     EXPECT_THAT(middle, ElementsAre(255, 255, 255, 255));
+}
+
+TEST(TheThumbOfASlider, HasTheScaleThatTheScreenHadWhenItWasFirstAskedFor)
+{
+    const auto slider = make<UISlider>();
+    const auto* thumb = slider->currentThumbImage();
+    EXPECT_EQ(thumb->scale(), 2);
+    desktop::setScreenScale(3);
+    EXPECT_EQ(make<UISlider>()->currentThumbImage(), thumb) << "all sliders share it";
+    EXPECT_EQ(thumb->scale(), 2);
+    EXPECT_EQ(thumb->size(), (CGSize { 28, 28 }));
+    desktop::setScreenScale(2);
 }
 
 TEST(WritingAnImage, FailsWhereThereIsNoFolderForIt)

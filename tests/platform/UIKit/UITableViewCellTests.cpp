@@ -1,251 +1,125 @@
 #include "tests/platform/UIKit/Geometry.h"
-#include "tests/platform/UIKit/Images.h"
 
-#include "platform/desktop/UIKit/CellPeer.h"
-#include "platform/desktop/UIKit/Clock.h"
+#include "platform/UIKit/UITableViewCell.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "toolkit/table/Cell.h"
+#include "toolkit/time/Clock.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace brimsound::tests {
 
 namespace {
 
-using desktop::Clock;
-using testing::ElementsAre;
+using toolkit::Clock;
 
-RetainPtr<UIImage> image(CGSize size)
-{
-    return filledImage(size, {});
-}
-
-class ACell : public testing::Test {
+class ATableViewCell : public testing::Test {
 protected:
-    ACell()
-    {
-        cell->setFrame(CGRectMake(0, 0, 320, 60));
-        layOut();
-    }
-
-    void layOut() const { desktop::layOutTree(*cell); }
-    bool showsSelected() const { return cell->selectedBackgroundView()->superview() != nullptr; }
-    std::vector<const UIView*> backToFront() const
-    {
-        std::vector<const UIView*> views;
-        for (const auto& view : cell->subviews())
-            views.push_back(view.get());
-        return views;
-    }
+    toolkit::Cell& native() const { return desktop::nativeOf<toolkit::Cell>(*cell); }
 
     const RetainPtr<UITableViewCell> cell = make<UITableViewCell>(UITableViewCellStyle::Subtitle, "cell");
 };
 
-TEST_F(ACell, GivesItsContentsWhatTheAccessoryViewLeavesFree)
-{
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 320, 60));
-    const auto accessory = make<UIView>(CGRectMake(0, 0, 50, 30));
-    cell->setAccessoryView(accessory);
-    layOut();
-    EXPECT_EQ(accessory->frame(), CGRectMake(255, 15, 50, 30));
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 255, 60));
-    EXPECT_EQ(cell->accessoryView(), accessory.get());
-    cell->setAccessoryView(nullptr);
-    layOut();
-    EXPECT_EQ(accessory->superview(), nullptr);
-    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 320, 60));
-}
-
-TEST_F(ACell, HasASecondTextInTheSubtitleStyleOnly)
+TEST_F(ATableViewCell, HasASecondTextInTheSubtitleStyleOnly)
 {
     EXPECT_NE(cell->detailTextLabel(), nullptr);
-    const auto plain = make<UITableViewCell>(UITableViewCellStyle::Default, "cell");
+    const auto plain = make<UITableViewCell>(UITableViewCellStyle::Default, "plain");
     EXPECT_EQ(plain->detailTextLabel(), nullptr);
+    EXPECT_EQ(plain->reuseIdentifier(), "plain");
 }
 
-TEST_F(ACell, CentresItsTextWhileTheSecondIsEmpty)
+TEST_F(ATableViewCell, HasTheSamePartsWheneverItIsAsked)
 {
-    cell->textLabel().setText("Rock");
-    layOut();
-    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(15, 0, 290, 60));
-    cell->detailTextLabel()->setText("loud");
-    layOut();
-    const auto text = cell->textLabel().frame();
-    const auto detail = cell->detailTextLabel()->frame();
-    EXPECT_EQ(text.origin.y + text.size.height, detail.origin.y);
-    EXPECT_EQ(detail.origin.x, 15);
-    EXPECT_NEAR(text.origin.y, 60 - detail.origin.y - detail.size.height, 1) << "as much room above as below";
-    EXPECT_GT(text.size.height, detail.size.height);
-    cell->detailTextLabel()->setText("");
-    layOut();
-    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(15, 0, 290, 60));
-}
-
-TEST_F(ACell, GivesALargerFontMoreRoom)
-{
-    cell->detailTextLabel()->setText("loud");
-    layOut();
-    const double before = cell->textLabel().frame().size.height;
-    cell->textLabel().setFont(UIFont::systemFontOfSize(30));
-    layOut();
-    EXPECT_GT(cell->textLabel().frame().size.height, before);
-}
-
-TEST_F(ACell, PlacesItsTextAfterItsImage)
-{
-    cell->imageView().setImage(image({ 20, 30 }));
-    layOut();
-    EXPECT_EQ(cell->imageView().frame(), CGRectMake(15, 15, 20, 30));
-    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(50, 0, 255, 60));
-    cell->imageView().setImage(nullptr);
-    layOut();
-    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(15, 0, 290, 60));
-}
-
-TEST_F(ACell, ShrinksAnImageThatIsTallerThanTheRow)
-{
-    cell->imageView().setImage(image({ 60, 120 }));
-    layOut();
-    EXPECT_EQ(cell->imageView().frame(), CGRectMake(15, 0, 30, 60));
-}
-
-TEST_F(ACell, HasNoBackgroundViewAtFirstAndAPlainSelectedOne)
-{
-    EXPECT_EQ(cell->backgroundView(), nullptr);
+    EXPECT_EQ(&cell->contentView(), &cell->contentView());
+    EXPECT_EQ(cell->contentView().superview(), cell.get());
+    EXPECT_EQ(&cell->textLabel(), &cell->textLabel());
+    EXPECT_EQ(cell->textLabel().superview(), &cell->contentView());
+    EXPECT_EQ(cell->detailTextLabel(), cell->detailTextLabel());
+    EXPECT_EQ(&cell->imageView(), &cell->imageView());
+    EXPECT_EQ(cell->imageView().superview(), &cell->contentView());
     ASSERT_NE(cell->selectedBackgroundView(), nullptr);
-    EXPECT_EQ(cell->selectedBackgroundView()->bounds(), CGRectMake(0, 0, 320, 60));
+    EXPECT_EQ(cell->selectedBackgroundView(), cell->selectedBackgroundView());
     EXPECT_FALSE(cell->selectedBackgroundView()->backgroundColor());
-    EXPECT_FALSE(showsSelected());
 }
 
-TEST_F(ACell, SizesItsBackgroundsWithItself)
+TEST_F(ATableViewCell, GivesTheViewsBackThatItIsGiven)
 {
-    cell->setBackgroundView(make<UIView>());
-    layOut();
-    EXPECT_EQ(cell->backgroundView()->frame(), CGRectMake(0, 0, 320, 60));
-    cell->setFrame(CGRectMake(0, 100, 200, 50));
-    layOut();
-    EXPECT_EQ(cell->backgroundView()->frame(), CGRectMake(0, 0, 200, 50));
-    EXPECT_EQ(cell->selectedBackgroundView()->frame(), CGRectMake(0, 0, 200, 50));
-}
-
-TEST_F(ACell, StacksItsBackgroundsBelowItsContents)
-{
-    cell->setSelected(true, Animated::No);
-    EXPECT_THAT(backToFront(), ElementsAre(cell->selectedBackgroundView(), &cell->contentView()));
+    EXPECT_EQ(cell->accessoryView(), nullptr);
+    EXPECT_EQ(cell->backgroundView(), nullptr);
+    const auto accessory = make<UIView>(CGRectMake(0, 0, 50, 30));
     const auto background = make<UIView>();
+    const auto selected = make<UIView>();
+    cell->setAccessoryView(accessory);
     cell->setBackgroundView(background);
-    const auto stacked = ElementsAre(background.get(), cell->selectedBackgroundView(), &cell->contentView());
-    EXPECT_THAT(backToFront(), stacked);
-    cell->setSelected(false, Animated::No);
-    cell->setSelected(true, Animated::No);
-    EXPECT_THAT(backToFront(), stacked);
+    cell->setSelectedBackgroundView(selected);
+    EXPECT_EQ(cell->accessoryView(), accessory.get());
+    EXPECT_EQ(accessory->superview(), cell.get());
+    EXPECT_EQ(cell->backgroundView(), background.get());
+    EXPECT_EQ(background->superview(), cell.get());
+    EXPECT_EQ(cell->selectedBackgroundView(), selected.get());
+    EXPECT_EQ(selected->superview(), nullptr);
+    cell->setAccessoryView(nullptr);
     cell->setBackgroundView(nullptr);
-    EXPECT_EQ(background->superview(), nullptr);
-    EXPECT_THAT(backToFront(), ElementsAre(cell->selectedBackgroundView(), &cell->contentView()));
-}
-
-TEST_F(ACell, ShowsASelectedBackgroundThatItIsGivenWhileItIsSelected)
-{
-    cell->setSelected(true, Animated::No);
-    const auto former = retain(cell->selectedBackgroundView());
-    const auto own = make<UIView>();
-    cell->setSelectedBackgroundView(own);
-    EXPECT_EQ(former->superview(), nullptr);
-    EXPECT_EQ(own->superview(), cell.get());
-    EXPECT_EQ(own->frame(), CGRectMake(0, 0, 320, 60));
     cell->setSelectedBackgroundView(nullptr);
-    EXPECT_EQ(own->superview(), nullptr);
-    cell->setSelected(false, Animated::No);
-    cell->setSelectedBackgroundView(own);
-    EXPECT_EQ(own->superview(), nullptr);
+    EXPECT_EQ(cell->accessoryView(), nullptr);
+    EXPECT_EQ(cell->backgroundView(), nullptr);
+    EXPECT_EQ(cell->selectedBackgroundView(), nullptr);
 }
 
-TEST_F(ACell, IsSelectedUntilItIsSetNotToBe)
+TEST_F(ATableViewCell, IsSelectableUnlessItsStyleIsNone)
+{
+    EXPECT_EQ(cell->selectionStyle(), UITableViewCellSelectionStyle::Default);
+    cell->setSelectionStyle(UITableViewCellSelectionStyle::None);
+    EXPECT_EQ(cell->selectionStyle(), UITableViewCellSelectionStyle::None);
+    EXPECT_FALSE(native().isSelectable());
+    cell->setSelectionStyle(UITableViewCellSelectionStyle::Default);
+    EXPECT_TRUE(native().isSelectable());
+}
+
+TEST_F(ATableViewCell, IsDeselectedAtOnceOrWithAFade)
 {
     cell->setSelected(true, Animated::No);
     EXPECT_TRUE(cell->isSelected());
-    EXPECT_TRUE(showsSelected());
-    Clock::shared().advance(10);
-    EXPECT_TRUE(showsSelected());
+    EXPECT_EQ(cell->selectedBackgroundView()->superview(), cell.get());
     cell->setSelected(false, Animated::No);
     EXPECT_FALSE(cell->isSelected());
-    EXPECT_FALSE(showsSelected());
+    EXPECT_EQ(cell->selectedBackgroundView()->superview(), nullptr);
+
+    cell->setSelected(true, Animated::No);
+    cell->setSelected(false, Animated::Yes);
+    EXPECT_FALSE(cell->isSelected());
+    EXPECT_EQ(cell->selectedBackgroundView()->superview(), cell.get());
+    Clock::shared().advance(1);
+    EXPECT_EQ(cell->selectedBackgroundView()->superview(), nullptr);
 }
 
-TEST_F(ACell, StaysShadedWhenItIsSelectedBeforeThePressEnds)
+TEST_F(ATableViewCell, IsHighlightedWhileItIsPressed)
 {
-    auto& peer = desktop::peerOf(*cell);
-    peer.setHighlighted(true);
+    EXPECT_FALSE(cell->isHighlighted());
+    native().setHighlighted(true);
     EXPECT_TRUE(cell->isHighlighted());
     EXPECT_FALSE(cell->isSelected());
-    EXPECT_TRUE(showsSelected());
-    cell->setSelected(true, Animated::No);
-    peer.setHighlighted(false);
-    EXPECT_TRUE(showsSelected());
 }
 
-TEST_F(ACell, ThatIsNotToBeSelectedLooksAsEver)
+TEST(ADerivedCell, PlacesItsPartsAfterTheCellHasPlacedItsOwn)
 {
-    cell->setSelectionStyle(UITableViewCellSelectionStyle::None);
-    cell->setSelected(true, Animated::No);
-    EXPECT_TRUE(cell->isSelected());
-    EXPECT_FALSE(showsSelected());
-}
-
-TEST_F(ACell, HighlightsTheLabelsAndImagesInIt)
-{
-    const auto inner = make<UIView>();
-    const auto label = make<UILabel>();
-    inner->addSubview(*label);
-    cell->contentView().addSubview(*inner);
-    cell->imageView();
-    cell->setSelected(true, Animated::No);
-    EXPECT_TRUE(cell->textLabel().isHighlighted());
-    EXPECT_TRUE(cell->detailTextLabel()->isHighlighted());
-    EXPECT_TRUE(cell->imageView().isHighlighted());
-    EXPECT_TRUE(label->isHighlighted());
-    cell->setSelected(false, Animated::No);
-    EXPECT_FALSE(cell->textLabel().isHighlighted());
-    EXPECT_FALSE(cell->imageView().isHighlighted());
-    EXPECT_FALSE(label->isHighlighted());
-}
-
-TEST_F(ACell, FadesWhenItIsDeselectedInAMovement)
-{
-    cell->setSelected(true, Animated::No);
-    cell->setSelected(false, Animated::Yes);
-    EXPECT_FALSE(cell->isSelected());
-    EXPECT_EQ(cell->selectedBackgroundView()->alpha(), 1);
-    Clock::shared().advance(0.1);
-    EXPECT_GT(cell->selectedBackgroundView()->alpha(), 0);
-    EXPECT_LT(cell->selectedBackgroundView()->alpha(), 1);
-    EXPECT_TRUE(cell->textLabel().isHighlighted()) << "what is dark still wants light text";
-    Clock::shared().advance(0.1);
-    EXPECT_FALSE(cell->textLabel().isHighlighted());
-    EXPECT_TRUE(showsSelected());
-    Clock::shared().advance(0.1);
-    EXPECT_FALSE(showsSelected());
-}
-
-TEST_F(ACell, ThatIsSelectedAgainWhileItFadesIsShadedInFull)
-{
-    cell->setSelected(true, Animated::No);
-    cell->setSelected(false, Animated::Yes);
-    Clock::shared().advance(0.2);
-    cell->setSelected(true, Animated::No);
-    Clock::shared().advance(1);
-    EXPECT_TRUE(showsSelected());
-    EXPECT_EQ(cell->selectedBackgroundView()->alpha(), 1);
-    EXPECT_TRUE(cell->textLabel().isHighlighted());
-}
-
-TEST_F(ACell, ThatIsDeselectedAtOnceWhileItFadesEndsItsFade)
-{
-    cell->setSelected(true, Animated::No);
-    cell->setSelected(false, Animated::Yes);
-    Clock::shared().advance(0.05);
-    cell->setSelected(false, Animated::No);
-    EXPECT_FALSE(showsSelected());
-    EXPECT_FALSE(cell->textLabel().isHighlighted());
+    struct Indented : UITableViewCell {
+        Indented()
+            : UITableViewCell(UITableViewCellStyle::Default, "cell")
+        {
+        }
+        void layoutSubviews() override
+        {
+            UITableViewCell::layoutSubviews();
+            auto frame = textLabel().frame();
+            frame.origin.x += 20;
+            textLabel().setFrame(frame);
+        }
+    };
+    const auto cell = make<Indented>();
+    cell->setFrame(CGRectMake(0, 0, 320, 60));
+    cell->layoutIfNeeded();
+    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(35, 0, 290, 60));
 }
 
 } // namespace

@@ -1,291 +1,127 @@
 #include "platform/UIKit/UITextField.h"
-#include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/TextFieldPeer.h"
-#include "platform/desktop/UIKit/Window.h"
+
+#include "platform/desktop/UIKit/Color.h"
+#include "platform/desktop/UIKit/HostedView.h"
+#include "tests/platform/UIKit/Geometry.h"
+#include "toolkit/text/TextField.h"
+#include "toolkit/window/Window.h"
 
 #include <gmock/gmock.h>
+
+#include <vector>
 
 namespace brimsound::tests {
 
 namespace {
 
-using desktop::Key;
-using desktop::KeyStroke;
-using desktop::Pointer;
 using testing::ElementsAre;
 
-/// Writes down the texts of the fields whose return key was pressed.
-class Reader : public UITextFieldDelegate {
+/// Writes down the fields whose return key was pressed.
+class Delegate : public UITextFieldDelegate {
 public:
     bool textFieldShouldReturn(UITextField* field) override
     {
-        read.push_back(field->text());
+        returned.push_back(field);
         return false;
     }
 
-    std::vector<std::string> read;
+    std::vector<UITextField*> returned;
 };
 
-class ATextField : public testing::Test {
+class AUITextField : public testing::Test {
 protected:
-    ATextField()
-    {
-        strip->addSubview(*field);
-        window->addSubview(*strip);
-        field->setDelegate(&reader);
-    }
+    AUITextField() { window->add(native); }
 
-    void tap(CGPoint place) const
-    {
-        window->touchDown({ place, Pointer::Finger });
-        window->touchUp(place);
-    }
-
-    Reader reader;
-    const RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 400 });
-    const RetainPtr<UIView> strip = make<UIView>(CGRectMake(0, 100, 232, 44));
+    Delegate delegate;
+    const toolkit::Ref<toolkit::Window> window = toolkit::make<toolkit::Window>(toolkit::Size { 320, 400 });
     const RetainPtr<UITextField> field = make<UITextField>(CGRectMake(20, 8, 192, 28));
+    toolkit::TextField& native = desktop::nativeOf<toolkit::TextField>(*field);
 };
 
-TEST_F(ATextField, IsEmptyAndBlackAtFirst)
+TEST_F(AUITextField, HasThePlatformsDefaultsAtFirst)
 {
-    const auto fresh = make<UITextField>(CGRectMake(1, 2, 3, 4));
-    EXPECT_EQ(fresh->frame(), CGRectMake(1, 2, 3, 4));
-    EXPECT_EQ(fresh->text(), "");
-    EXPECT_EQ(desktop::colorOf(fresh->textColor()), (desktop::Color { 0, 0, 0, 1 }));
-    EXPECT_EQ(fresh->font()->pointSize(), 17);
-    EXPECT_EQ(fresh->delegate(), nullptr);
-    EXPECT_EQ(fresh->keyboardAppearance(), UIKeyboardAppearance::Default);
-    EXPECT_EQ(fresh->returnKeyType(), UIReturnKeyType::Default);
-    EXPECT_EQ(fresh->autocapitalizationType(), UITextAutocapitalizationType::Sentences);
-    EXPECT_FALSE(fresh->isFirstResponder());
+    EXPECT_EQ(field->frame(), CGRectMake(20, 8, 192, 28));
+    EXPECT_EQ(field->text(), "");
+    EXPECT_EQ(desktop::colorOf(field->textColor()), (desktop::Color { 0, 0, 0, 1 }));
+    EXPECT_EQ(field->font()->pointSize(), 17);
+    EXPECT_EQ(field->delegate(), nullptr);
+    EXPECT_EQ(field->keyboardAppearance(), UIKeyboardAppearance::Default);
+    EXPECT_EQ(field->returnKeyType(), UIReturnKeyType::Default);
+    EXPECT_EQ(field->autocapitalizationType(), UITextAutocapitalizationType::Sentences);
+    EXPECT_FALSE(field->isFirstResponder());
 }
 
-TEST_F(ATextField, KeepsWhatItIsGiven)
+TEST_F(AUITextField, KeepsWhatItIsGiven)
 {
     const auto font = UIFont::fontWithNameSize("HelveticaNeue-Bold", 18);
+    field->setText("Rock");
     field->setFont(font);
+    field->setTextColor(UIColor::yellowColor());
+    field->setDelegate(&delegate);
     field->setKeyboardAppearance(UIKeyboardAppearance::Dark);
     field->setReturnKeyType(UIReturnKeyType::Done);
     field->setAutocapitalizationType(UITextAutocapitalizationType::Words);
-    EXPECT_EQ(field->font(), font);
-    EXPECT_EQ(field->delegate(), &reader);
+    EXPECT_EQ(field->text(), "Rock");
+    EXPECT_EQ(native.text(), "Rock");
+    EXPECT_EQ(field->font()->fontName(), font->fontName());
+    EXPECT_EQ(field->font()->pointSize(), 18);
+    EXPECT_EQ(desktop::colorOf(field->textColor()), (desktop::Color { 1, 1, 0, 1 }));
+    EXPECT_EQ(native.color(), (desktop::Color { 1, 1, 0, 1 }));
+    EXPECT_EQ(field->delegate(), &delegate);
     EXPECT_EQ(field->keyboardAppearance(), UIKeyboardAppearance::Dark);
     EXPECT_EQ(field->returnKeyType(), UIReturnKeyType::Done);
     EXPECT_EQ(field->autocapitalizationType(), UITextAutocapitalizationType::Words);
 }
 
-TEST_F(ATextField, IsTypedIntoWhileItIsTheFirstResponder)
+TEST_F(AUITextField, NamesItsReturnKeyByTheType)
 {
-    EXPECT_FALSE(window->typeText("x"));
+    EXPECT_EQ(native.returnKey().title(), "Return");
+    field->setReturnKeyType(UIReturnKeyType::Done);
+    EXPECT_EQ(native.returnKey().title(), "Done");
+    field->setReturnKeyType(UIReturnKeyType::Default);
+    EXPECT_EQ(native.returnKey().title(), "Return");
+}
+
+TEST_F(AUITextField, IsTheFirstResponderWhileItHasTheKeyboard)
+{
     EXPECT_TRUE(field->becomeFirstResponder());
     EXPECT_TRUE(field->isFirstResponder());
-    EXPECT_TRUE(window->typeText("Rock"));
-    EXPECT_EQ(field->text(), "Rock");
-    EXPECT_TRUE(window->typeText(" \xF0\x9F\x8E\xB8 \xC3\xBC"));
-    EXPECT_EQ(field->text(), "Rock \xF0\x9F\x8E\xB8 \xC3\xBC");
+    EXPECT_TRUE(native.hasKeyboard());
     field->resignFirstResponder();
     EXPECT_FALSE(field->isFirstResponder());
-    EXPECT_FALSE(window->typeText("x"));
-    EXPECT_EQ(field->text(), "Rock \xF0\x9F\x8E\xB8 \xC3\xBC");
+    EXPECT_FALSE(native.hasKeyboard());
 }
 
-TEST_F(ATextField, TakesTenThousandCharacters)
-{
-    field->becomeFirstResponder();
-    const std::string text(10000, 'm');
-    window->typeText(text);
-    EXPECT_EQ(field->text(), text);
-}
-
-TEST_F(ATextField, IsEditedOnceATouchEndsInIt)
-{
-    window->touchDown({ { 60, 120 }, Pointer::Finger });
-    EXPECT_FALSE(field->isFirstResponder());
-    window->touchUp({ 60, 120 });
-    EXPECT_TRUE(field->isFirstResponder());
-}
-
-TEST_F(ATextField, IsNotEditedWhenTheTouchLeavesIt)
-{
-    window->touchDown({ { 60, 120 }, Pointer::Finger });
-    window->touchUp({ 60, 390 });
-    EXPECT_FALSE(field->isFirstResponder());
-}
-
-TEST_F(ATextField, HasAReturnKeyAtItsRightEndWhileItIsEdited)
-{
-    field->setReturnKeyType(UIReturnKeyType::Done);
-    window->layOut();
-    const CGPoint key { 205, 122 };
-    tap(key);
-    EXPECT_THAT(reader.read, ElementsAre()) << "it is no key yet, but begins the editing";
-    ASSERT_TRUE(field->isFirstResponder());
-    window->typeText("Rock");
-    tap(key);
-    EXPECT_THAT(reader.read, ElementsAre("Rock"));
-    EXPECT_TRUE(field->isFirstResponder()) << "until the delegate takes the keyboard away";
-}
-
-TEST_F(ATextField, SaysOnItsReturnKeyWhatItsTypeIs)
-{
-    const auto& key = *desktop::peerOf(*field).returnKey;
-    EXPECT_EQ(key.title(), "Return");
-    field->setReturnKeyType(UIReturnKeyType::Done);
-    EXPECT_EQ(key.title(), "Done");
-    EXPECT_EQ(desktop::peerOf(key).accessible().name, "Done");
-    EXPECT_EQ(desktop::peerOf(key).accessible().role, desktop::AccessibleRole::Button);
-}
-
-TEST_F(ATextField, KeepsItsTextClearOfTheReturnKey)
-{
-    field->setReturnKeyType(UIReturnKeyType::Done);
-    window->layOut();
-    const auto& key = *desktop::peerOf(*field).returnKey;
-    EXPECT_EQ(desktop::peerOf(*field).textArea(), field->bounds());
-    field->becomeFirstResponder();
-    const auto area = desktop::peerOf(*field).textArea();
-    EXPECT_EQ(area.origin.x + area.size.width, key.frame().origin.x);
-    EXPECT_EQ(key.frame().origin.x + key.frame().size.width, 192);
-    EXPECT_EQ(key.frame().size.height, 28);
-    EXPECT_GT(area.size.width, 120);
-
-    field->setFrame(CGRectMake(20, 8, 30, 28));
-    window->layOut();
-    EXPECT_EQ(key.frame(), CGRectMake(0, 0, 30, 28)) << "in a field with no room for more";
-    EXPECT_EQ(desktop::peerOf(*field).textArea().size.width, 0);
-}
-
-TEST_F(ATextField, IsNotConfirmedByATouchThatLeavesTheReturnKey)
-{
-    field->becomeFirstResponder();
-    window->layOut();
-    window->touchDown({ { 205, 122 }, Pointer::Mouse });
-    window->touchUp({ 60, 122 });
-    EXPECT_THAT(reader.read, ElementsAre());
-}
-
-TEST_F(ATextField, LetsTheKeyboardPassItsReturnKeyBy)
-{
-    const auto other = make<UITextField>(CGRectMake(20, 50, 192, 28));
-    window->addSubview(*other);
-    field->becomeFirstResponder();
-    window->layOut();
-    window->keyPressed(Key::Tab);
-    EXPECT_TRUE(other->isFirstResponder());
-}
-
-TEST_F(ATextField, StaysTheFirstResponderWhenSomethingElseIsTouched)
-{
-    field->becomeFirstResponder();
-    tap({ 5, 5 });
-    EXPECT_TRUE(field->isFirstResponder());
-}
-
-TEST_F(ATextField, HandsTheKeyboardOverToAnother)
-{
-    const auto other = make<UITextField>(CGRectMake(0, 0, 100, 30));
-    window->addSubview(*other);
-    field->becomeFirstResponder();
-    other->becomeFirstResponder();
-    EXPECT_FALSE(field->isFirstResponder());
-    window->typeText("x");
-    EXPECT_EQ(field->text(), "");
-    EXPECT_EQ(other->text(), "x");
-}
-
-TEST_F(ATextField, HandsTheKeyboardOverEvenWhileItIsHidden)
-{
-    const auto other = make<UITextField>(CGRectMake(0, 0, 100, 30));
-    window->addSubview(*other);
-    field->becomeFirstResponder();
-    strip->setHidden(true);
-    other->becomeFirstResponder();
-    EXPECT_FALSE(field->isFirstResponder());
-}
-
-TEST_F(ATextField, CannotBeTheFirstResponderOutsideOfAWindow)
+TEST_F(AUITextField, CannotBecomeTheFirstResponderOutsideOfAWindow)
 {
     EXPECT_FALSE(make<UITextField>()->becomeFirstResponder());
 }
 
-TEST_F(ATextField, IsNoLongerTheFirstResponderWhenItLeavesTheWindow)
+TEST_F(AUITextField, LeavesTheKeyboardToAnotherWhenItResignsWithoutHavingIt)
 {
-    field->becomeFirstResponder();
-    strip->removeFromSuperview();
-    EXPECT_FALSE(field->isFirstResponder());
-    window->addSubview(*strip);
-    EXPECT_FALSE(field->isFirstResponder());
+    const auto other = make<UITextField>(CGRectMake(20, 50, 192, 28));
+    window->add(desktop::nativeView(*other));
+    other->becomeFirstResponder();
+    field->resignFirstResponder();
+    EXPECT_TRUE(other->isFirstResponder());
 }
 
-TEST_F(ATextField, BecomesTheFirstResponderBeforeItHasFadedIn)
+TEST_F(AUITextField, TellsItsDelegateWhenItIsConfirmed)
 {
-    strip->setAlpha(0);
-    EXPECT_TRUE(field->becomeFirstResponder());
-    EXPECT_TRUE(field->isFirstResponder());
-    UIView::animateWithDurationAnimations(0.2, [&] { strip->setAlpha(1); });
-    EXPECT_TRUE(window->typeText("x"));
-    EXPECT_EQ(field->text(), "x");
-    desktop::Clock::shared().advance(1);
-}
-
-TEST_F(ATextField, CannotBeTypedIntoWhileItIsHidden)
-{
-    field->becomeFirstResponder();
-    strip->setHidden(true);
-    EXPECT_TRUE(field->isFirstResponder());
-    EXPECT_FALSE(window->typeText("x"));
-    strip->setHidden(false);
-    EXPECT_TRUE(window->typeText("y"));
-    EXPECT_EQ(field->text(), "y");
-}
-
-TEST_F(ATextField, AsksItsDelegateWhenReturnIsPressed)
-{
-    EXPECT_FALSE(window->keyPressed(Key::Return));
-    field->becomeFirstResponder();
-    window->typeText("Rock");
-    EXPECT_TRUE(window->keyPressed(Key::Return));
-    EXPECT_THAT(reader.read, ElementsAre("Rock"));
-    window->keyPressed(Key::Return, KeyStroke::Repeated);
-    EXPECT_THAT(reader.read, ElementsAre("Rock"));
+    native.confirm();
+    field->setDelegate(&delegate);
+    native.confirm();
+    EXPECT_THAT(delegate.returned, ElementsAre(field.get()));
     field->setDelegate(nullptr);
-    EXPECT_TRUE(window->keyPressed(Key::Return));
+    native.confirm();
+    EXPECT_THAT(delegate.returned, ElementsAre(field.get()));
 }
 
-TEST_F(ATextField, SurvivesADelegateThatTakesItAway)
+TEST(AUIView, CannotBecomeTheFirstResponder)
 {
-    class Remover : public UITextFieldDelegate {
-    public:
-        bool textFieldShouldReturn(UITextField* field) override
-        {
-            field->removeFromSuperview();
-            return true;
-        }
-    } remover;
-    auto* doomed = new UITextField(CGRectMake(0, 0, 50, 20));
-    window->addSubview(*doomed);
-    doomed->release();
-    doomed->setDelegate(&remover);
-    doomed->becomeFirstResponder();
-    EXPECT_TRUE(window->keyPressed(Key::Return));
-    EXPECT_FALSE(window->typeText("x"));
-}
-
-TEST_F(ATextField, TellsAScreenReaderItsText)
-{
-    field->setText("Rock");
-    const auto accessible = desktop::peerOf(*field).accessible();
-    EXPECT_EQ(accessible.role, desktop::AccessibleRole::TextField);
-    EXPECT_EQ(accessible.value, "Rock");
-    EXPECT_TRUE(accessible.focusable);
-}
-
-TEST(AView, CannotBecomeTheFirstResponder)
-{
-    const auto window = make<desktop::Window>(CGSize { 320, 400 });
+    const auto window = toolkit::make<toolkit::Window>(toolkit::Size { 320, 400 });
     const auto view = make<UIView>();
-    window->addSubview(*view);
+    window->add(desktop::nativeView(*view));
     EXPECT_FALSE(view->becomeFirstResponder());
     EXPECT_FALSE(view->isFirstResponder());
     view->resignFirstResponder();

@@ -1,13 +1,9 @@
 #include "tests/settings/TestPlatform.h"
 
 #include "platform/Foundation/PropertyListSerialization.h"
-#include "platform/desktop/MessageUI/ComposerPeer.h"
+#include "platform/desktop/MessageUI/Composer.h"
 #include "platform/desktop/Preferences/RootController.h"
-#include "platform/desktop/UIKit/AlertPeer.h"
-#include "platform/desktop/UIKit/Clock.h"
-#include "platform/desktop/UIKit/Overlay.h"
-#include "platform/desktop/UIKit/ViewPeer.h"
-#include "platform/desktop/UIKit/Window.h"
+#include "platform/desktop/UIKit/HostedView.h"
 #include "platform/desktop/bus/SessionBus.h"
 #include "settings/tweak.h"
 #include "tests/support/EnvironmentVariable.h"
@@ -17,6 +13,10 @@
 #include "tests/support/RecordingEffects.h"
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/TestBus.h"
+#include "toolkit/alert/Alert.h"
+#include "toolkit/time/Clock.h"
+#include "toolkit/window/Overlay.h"
+#include "toolkit/window/Window.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -33,11 +33,11 @@ UIViewController& appController()
     return *controller;
 }
 
-desktop::ComposerPeer* composer()
+desktop::Composer* composer()
 {
     auto* sheet
-        = dynamic_cast<MFMailComposeViewController*>(desktop::peerOf(appController()).presented.get());
-    return sheet ? &desktop::peerOf(*sheet) : nullptr;
+        = dynamic_cast<MFMailComposeViewController*>(desktop::nativeController(appController()).presented());
+    return sheet ? &desktop::nativeOf<desktop::Composer>(*sheet) : nullptr;
 }
 
 } // namespace
@@ -59,7 +59,7 @@ struct TestPlatform::Device {
     std::optional<EnvironmentVariable> locale;
     std::optional<EnvironmentVariable> languages;
     std::optional<NoDescriptors> noDescriptors;
-    RetainPtr<desktop::Window> window = make<desktop::Window>(CGSize { 320, 568 });
+    toolkit::Ref<toolkit::Window> window = toolkit::make<toolkit::Window>(toolkit::Size { 320, 568 });
     desktop::Reach reachBefore = desktop::reach();
     RecordingEffects effects;
 };
@@ -102,13 +102,13 @@ void TestPlatform::endTurn() { }
 
 void TestPlatform::passTime(double seconds)
 {
-    desktop::Clock::shared().advance(seconds);
+    toolkit::Clock::shared().advance(seconds);
 }
 
 void TestPlatform::showInWindow(UIView& view, CGSize size)
 {
     auto& app = appController().view();
-    _device->window->addSubview(app);
+    _device->window->add(desktop::nativeView(app));
     for (const auto& shown : std::vector(app.subviews()))
         shown->removeFromSuperview();
     app.addSubview(view);
@@ -117,7 +117,7 @@ void TestPlatform::showInWindow(UIView& view, CGSize size)
 
 void TestPlatform::resizeWindow(CGSize size)
 {
-    _device->window->setFrame({ {}, size });
+    _device->window->setFrame({ {}, desktop::toolkitSize(size) });
     topmostView().setFrame({ {}, size });
     topmostView().subviews().front()->setFrame({ {}, size });
     layOut();
@@ -130,7 +130,7 @@ UIView& TestPlatform::topmostView() const
 
 void TestPlatform::layOut()
 {
-    _device->window->layOut();
+    _device->window->layOutAll();
 }
 
 void TestPlatform::stopMediaServer()
@@ -147,23 +147,24 @@ bool TestPlatform::answerAlert(std::size_t button)
 {
     const auto* alert = _device->window->alerts().current();
     if (alert)
-        desktop::peerOf(*alert).buttons.at(button)->press();
+        alert->buttons().at(button)->press();
     return alert != nullptr;
 }
 
 std::string TestPlatform::alertTitle() const
 {
     const auto* alert = _device->window->alerts().current();
-    return alert ? desktop::peerOf(*alert).title : "";
+    return alert ? alert->title() : "";
 }
 
 std::optional<TestPlatform::Mail> TestPlatform::composedMail() const
 {
-    const auto* composing = composer();
+    auto* composing = composer();
     if (!composing)
         return std::nullopt;
-    Mail mail { composing->mail.subject, composing->mail.to, {} };
-    for (const auto& [fileName, mimeType, data] : composing->mail.attachments) {
+    const auto& written = composing->mail();
+    Mail mail { written.subject, written.to, {} };
+    for (const auto& [fileName, mimeType, data] : written.attachments) {
         mail.attachments.push_back(
             { fileName, mimeType, std::string(reinterpret_cast<const char*>(data.data()), data.size()) });
     }
@@ -182,9 +183,8 @@ void TestPlatform::cancelMail()
 
 bool TestPlatform::isSheetMoving() const
 {
-    const auto views = _device->window->subviews();
-    return std::ranges::any_of(views, [](const auto& view) {
-        return dynamic_cast<const desktop::Overlay*>(view.get()) && view->alpha() > 0 && view->alpha() < 1;
+    return std::ranges::any_of(_device->window->children(), [](const auto& view) {
+        return dynamic_cast<const toolkit::Overlay*>(view.get()) && view->alpha() > 0 && view->alpha() < 1;
     });
 }
 
@@ -245,18 +245,18 @@ std::string TestPlatform::preferencesFile() const
 
 CGRect shownFrame(const UIView& view)
 {
-    return desktop::peerOf(view).shownFrame();
+    return desktop::cgRect(desktop::nativeView(view).shownFrame());
 }
 
 std::vector<CGFloat> shownBackground(const UIView& view)
 {
-    const auto color = desktop::peerOf(view).shownBackground();
+    const auto color = desktop::nativeView(view).shownBackground();
     return { color.red, color.green, color.blue, color.alpha };
 }
 
 CGFloat shownAlpha(const UIView& view)
 {
-    return desktop::peerOf(view).shownAlpha();
+    return desktop::nativeView(view).shownAlpha();
 }
 
 void putIntoAnApp(PSListController& controller)

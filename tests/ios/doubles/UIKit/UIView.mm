@@ -98,6 +98,8 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
     }
     [_viewState->backgroundColor release];
     [_viewState->layer release];
+    [_viewState->accessibilityLabel release];
+    [_viewState->accessibilityValue release];
     delete _viewState;
     [super dealloc];
 }
@@ -311,6 +313,34 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
 - (void)setAccessibilityLabel:(NSString*)label
 {
     assignCopied(_viewState->accessibilityLabel, label);
+}
+
+- (BOOL)isAccessibilityElement
+{
+    return _viewState->isAccessibilityElement;
+}
+
+- (void)setIsAccessibilityElement:(BOOL)isElement
+{
+    _viewState->isAccessibilityElement = isElement;
+}
+
+- (NSString*)accessibilityValue
+{
+    return _viewState->accessibilityValue;
+}
+
+- (void)setAccessibilityValue:(NSString*)value
+{
+    assignCopied(_viewState->accessibilityValue, value);
+}
+
+- (void)accessibilityIncrement
+{
+}
+
+- (void)accessibilityDecrement
+{
 }
 
 - (UIAccessibilityTraits)accessibilityTraits

@@ -23,6 +23,8 @@ struct UIViewState {
     NSInteger tag = 0;
     /// Retained.
     NSString* accessibilityLabel = nil;
+    NSString* accessibilityValue = nil;
+    BOOL isAccessibilityElement = NO;
     UIAccessibilityTraits accessibilityTraits = 0;
     bool isHidden = false;
     bool clipsToBounds = false;

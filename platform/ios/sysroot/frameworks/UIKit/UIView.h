@@ -49,7 +49,11 @@ enum {
 @property (nonatomic, readonly, retain) CALayer* layer;
 
 @property (nonatomic, copy) NSString* accessibilityLabel;
+@property (nonatomic) BOOL isAccessibilityElement;
+@property (nonatomic, copy) NSString* accessibilityValue;
 @property (nonatomic) UIAccessibilityTraits accessibilityTraits;
+- (void)accessibilityIncrement;
+- (void)accessibilityDecrement;
 
 @property (nonatomic) NSInteger tag;
 - (UIView*)viewWithTag:(NSInteger)tag;

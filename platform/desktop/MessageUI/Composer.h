@@ -1,18 +1,19 @@
 #pragma once
 
 #include "platform/MessageUI/MFMailComposeViewController.h"
-#include "platform/desktop/UIKit/ViewControllerPeer.h"
+#include "platform/desktop/UIKit/Controller.h"
 #include "platform/desktop/effects/Mail.h"
 
 namespace brimsound::desktop {
 
 /// Shows the mail in a sheet of the window. Send passes it to the user's mail program.
-struct ComposerPeer : ViewControllerPeer {
-    ComposerPeer();
+class Composer : public Controller {
+public:
+    Composer();
 
-    MFMailComposeViewController* composer = nullptr;
-    MFMailComposeViewControllerDelegate* delegate = nullptr;
-    Mail mail;
+    Mail& mail() { return _mail; }
+    /// Not retained; null for none.
+    void setDelegate(MFMailComposeViewControllerDelegate* delegate) { _delegate = delegate; }
 
     void send();
     void cancel();
@@ -22,9 +23,9 @@ struct ComposerPeer : ViewControllerPeer {
 private:
     void finish(MFMailComposeResult, const NSError*);
 
+    Mail _mail;
+    MFMailComposeViewControllerDelegate* _delegate = nullptr;
     bool _isFinished = false;
 };
-
-ComposerPeer& peerOf(const MFMailComposeViewController&);
 
 } // namespace brimsound::desktop

@@ -1,0 +1,16 @@
+// Fonts of the platform's interface as the toolkit's, and back.
+#pragma once
+
+#include "platform/UIKit/UIFont.h"
+#include "toolkit/drawing/Font.h"
+
+#include <optional>
+
+namespace brimsound::desktop {
+
+/// Nothing for null.
+std::optional<toolkit::Font> toolkitFont(const RetainPtr<UIFont>&);
+/// Null for nothing.
+RetainPtr<UIFont> uiFont(const std::optional<toolkit::Font>&);
+
+} // namespace brimsound::desktop
