@@ -42,25 +42,16 @@ template void Transition::change(View&, std::optional<Movement<Rect>> Transition
 template void Transition::change(View&, std::optional<Movement<double>> Transition::*, const double&);
 template void Transition::change(View&, std::optional<Movement<Color>> Transition::*, const Color&);
 
-template <typename Value>
-void Transition::step(std::optional<Movement<Value>>& movement, const Value& target, double seconds)
-{
-    if (!movement)
-        return;
-    movement->elapsed += seconds;
-    const double progress = movement->elapsed / movement->duration;
-    if (progress >= 1)
-        movement.reset();
-    else
-        movement->shown = between(movement->from, target, easeInOut(std::max(0.0, progress)));
-}
-
 bool Transition::step(double seconds)
 {
     _view.setNeedsDisplay();
-    step(_frame, _view.frame(), seconds);
-    step(_alpha, _view.alpha(), seconds);
-    step(_background, _view.background().value_or(transparent), seconds);
+    const auto step = [seconds](auto& movement, const auto& target) {
+        if (movement && !movement->step(target, seconds))
+            movement.reset();
+    };
+    step(_frame, _view.frame());
+    step(_alpha, _view.alpha());
+    step(_background, _view.background().value_or(transparent));
     _view.reachChanged();
     _view.setNeedsDisplay();
     return isMoving();

@@ -6,9 +6,29 @@
 #include "toolkit/time/Animation.h"
 #include "toolkit/view/View.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace brimsound::toolkit {
+
+/// One property on its way from how it showed to its value. Times are seconds.
+template <typename Value> struct Movement {
+    Value from;
+    Value shown;
+    double elapsed = 0;
+    double duration = 0;
+
+    /// False when it has arrived.
+    bool step(const Value& target, double seconds)
+    {
+        elapsed += seconds;
+        const double progress = std::max(0.0, elapsed / duration);
+        if (progress >= 1)
+            return false;
+        shown = between(from, target, easeInOut(progress));
+        return true;
+    }
+};
 
 /// What moves about one view while changes of it are animated.
 class Transition {
@@ -30,17 +50,8 @@ public:
     Color background(const Color& target) const { return _background ? _background->shown : target; }
 
 private:
-    template <typename Value> struct Movement {
-        Value from;
-        Value shown;
-        double elapsed = 0;
-        double duration = 0;
-    };
-
     template <typename Value>
     static void change(View&, std::optional<Movement<Value>> Transition::*, const Value& shown);
-    template <typename Value>
-    static void step(std::optional<Movement<Value>>&, const Value& target, double seconds);
     bool step(double seconds);
 
     View& _view;
