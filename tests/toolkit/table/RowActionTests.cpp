@@ -15,7 +15,6 @@ using testing::IsEmpty;
 using toolkit::Cell;
 using toolkit::Clock;
 using toolkit::make;
-using toolkit::makeRect;
 using toolkit::Pointer;
 using toolkit::Role;
 using toolkit::RowPath;

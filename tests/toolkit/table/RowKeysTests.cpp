@@ -17,7 +17,6 @@ using toolkit::AccessibleChange;
 using toolkit::Cell;
 using toolkit::Key;
 using toolkit::KeyStroke;
-using toolkit::make;
 using toolkit::makeRect;
 using toolkit::Pointer;
 using toolkit::Ref;

@@ -14,7 +14,6 @@ using testing::SizeIs;
 using toolkit::Clock;
 using toolkit::Pointer;
 using toolkit::RowPath;
-using toolkit::Table;
 
 class ATapOnARow : public testing::Test {
 protected:

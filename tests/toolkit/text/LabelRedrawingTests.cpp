@@ -12,7 +12,6 @@ using toolkit::Alignment;
 using toolkit::Color;
 using toolkit::Font;
 using toolkit::Label;
-using toolkit::make;
 using toolkit::makeRect;
 
 constexpr Color white { 1, 1, 1 };
