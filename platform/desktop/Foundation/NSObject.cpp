@@ -19,7 +19,15 @@ NSObject::NSObject(Peer* peer)
     nativeOf(*this).setCounterpart(this, Peer::destroy);
 }
 
-NSObject::~NSObject() = default;
+NSObject::~NSObject()
+{
+    // One that is not destroyed with its native object, as a local variable, takes that along.
+    auto& native = nativeOf(*this);
+    if (native.counterpart()) {
+        native.setCounterpart(nullptr, nullptr);
+        native.release();
+    }
+}
 
 void NSObject::retain() const
 {

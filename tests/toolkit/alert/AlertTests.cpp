@@ -292,6 +292,7 @@ TEST_F(AnAlert, IsReadByItsMessageAndTellsWhenItAppearsAndDisappears)
     EXPECT_THAT(changes, ElementsAre(AccessibleChange::AlertShown));
     window->alerts().dismissCurrent();
     EXPECT_THAT(changes, ElementsAre(AccessibleChange::AlertShown, AccessibleChange::WillHide));
+    window->onAccessibleChange = nullptr;
 }
 
 TEST_F(AnAlert, IsHeldUntilItHasFaded)
