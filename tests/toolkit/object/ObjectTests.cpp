@@ -73,6 +73,22 @@ TEST(AnObject, DestroysItsCounterpartOnceWhileItIsStillWhole)
     EXPECT_EQ(count, 0);
 }
 
+TEST(AnObject, IsDestroyedOnceWhenItsDestructionTakesAReference)
+{
+    class Careful : public Counted {
+    public:
+        using Counted::Counted;
+
+    protected:
+        ~Careful() override { keep(this); }
+    };
+    int count = 0;
+    auto object = make<Careful>(count);
+    object->setCounterpart(object.get(), [](void* destroyed) { keep(static_cast<Careful*>(destroyed)); });
+    object = nullptr;
+    EXPECT_EQ(count, 0);
+}
+
 TEST(AReference, IsEmptyAtFirst)
 {
     const Ref<Object> reference;
