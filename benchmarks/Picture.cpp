@@ -60,13 +60,6 @@ const Picture& pictureFor(benchmark::State& state)
     return pictures.try_emplace(megapixels, megapixels).first->second;
 }
 
-PixmanImage pixmanImage(const Picture& picture)
-{
-    return PixmanImage(pixman_image_create_bits(PIXMAN_a8b8g8r8, static_cast<int>(picture.width),
-        static_cast<int>(picture.height), const_cast<std::uint32_t*>(picture.pixels.data()),
-        static_cast<int>(picture.bytesPerRow())));
-}
-
 CairoSurface cairoSurface(const Picture& picture)
 {
     auto* pixels = const_cast<std::uint32_t*>(picture.pixels.data());

@@ -5,7 +5,6 @@
 
 #include <benchmark/benchmark.h>
 #include <cairo.h>
-#include <pixman.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -51,17 +50,14 @@ template <typename Operation> void measure(benchmark::State& state, const Operat
 }
 
 struct Unreference {
-    void operator()(pixman_image_t* image) const { pixman_image_unref(image); }
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
     void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
 };
 
-using PixmanImage = std::unique_ptr<pixman_image_t, Unreference>;
 using CairoSurface = std::unique_ptr<cairo_surface_t, Unreference>;
 using Cairo = std::unique_ptr<cairo_t, Unreference>;
 
-/// The picture's own pixels; both libraries only read them.
-PixmanImage pixmanImage(const Picture&);
+/// The picture's own pixels; cairo only reads them.
 CairoSurface cairoSurface(const Picture&);
 
 /// Measures a benchmark for pictures of 1, 12 and 48 megapixels.

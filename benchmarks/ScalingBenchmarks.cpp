@@ -16,30 +16,6 @@ std::size_t part(std::size_t length, double ratio)
     return static_cast<std::size_t>(static_cast<double>(length) * ratio);
 }
 
-void scaleByPixman(benchmark::State& state, double ratio)
-{
-    const auto source = pixmanImage(pictureFor(state));
-    const auto step = pixman_double_to_fixed(1 / ratio);
-    const auto box = PIXMAN_KERNEL_BOX;
-    int length = 0;
-    const std::unique_ptr<pixman_fixed_t, decltype(&std::free)> kernels(
-        pixman_filter_create_separable_convolution(&length, step, step, box, box, box, box, 4, 4), std::free);
-    pixman_transform_t transform;
-    pixman_transform_init_scale(&transform, step, step);
-    pixman_image_set_transform(source.get(), &transform);
-    pixman_image_set_filter(source.get(), PIXMAN_FILTER_SEPARABLE_CONVOLUTION, kernels.get(), length);
-    pixman_image_set_repeat(source.get(), PIXMAN_REPEAT_PAD);
-    measure(state, [&](const Picture& picture) {
-        const auto width = part(picture.width, ratio);
-        const auto height = part(picture.height, ratio);
-        const auto pixels = transparentPixels(width * height);
-        const PixmanImage target(pixman_image_create_bits_no_clear(PIXMAN_a8b8g8r8, static_cast<int>(width),
-            static_cast<int>(height), pixels.get(), static_cast<int>(width * sizeof(std::uint32_t))));
-        pixman_image_composite32(PIXMAN_OP_OVER, source.get(), nullptr, target.get(), 0, 0, 0, 0, 0, 0,
-            static_cast<int>(width), static_cast<int>(height));
-    });
-}
-
 void scaleByCairo(benchmark::State& state, double ratio)
 {
     const auto source = cairoSurface(pictureFor(state));
@@ -64,10 +40,8 @@ void scaleToSize(benchmark::State& state, double ratio)
     });
 }
 
-BENCHMARK_CAPTURE(scaleByPixman, half, half)->Apply(forEverySize);
 BENCHMARK_CAPTURE(scaleByCairo, half, half)->Apply(forEverySize);
 BENCHMARK_CAPTURE(scaleToSize, half, half)->Apply(forEverySize);
-BENCHMARK_CAPTURE(scaleByPixman, twoFifths, twoFifths)->Apply(forEverySize);
 BENCHMARK_CAPTURE(scaleByCairo, twoFifths, twoFifths)->Apply(forEverySize);
 BENCHMARK_CAPTURE(scaleToSize, twoFifths, twoFifths)->Apply(forEverySize);
 

@@ -4,7 +4,7 @@
 run_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-wayland libsystemd-dev libgmime-3.0-dev libglib2.0-dev
-    libpipewire-0.3-dev libpixman-1-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
+    libcairo2-dev libpipewire-0.3-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
     dbus-daemon fonts-inter psmisc xdg-utils
 )
 # Additional packages for the tests.
@@ -17,7 +17,7 @@ test_packages=(
 )
 # Additional packages for the benchmarks.
 bench_packages=(
-    libbenchmark-dev libcairo2-dev libplist-dev python3 xvfb
+    libbenchmark-dev libplist-dev python3 xvfb
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules
 )
 # Packages to build the device's bundle and its package. The compiler, the linker, the tools and the standard library

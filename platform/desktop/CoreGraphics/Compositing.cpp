@@ -1,264 +1,236 @@
 #include "platform/desktop/CoreGraphics/Compositing.h"
 
-#include "platform/desktop/CoreGraphics/Blend.h"
 #include "platform/desktop/CoreGraphics/Shrink.h"
 
-#include <pixman.h>
+#include <cairo.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <optional>
+#include <utility>
 
 namespace brimsound::desktop {
 
 namespace {
 
-struct Unreference {
-    void operator()(pixman_image_t* image) const { pixman_image_unref(image); }
+struct Release {
+    void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+    void operator()(cairo_pattern_t* pattern) const { cairo_pattern_destroy(pattern); }
+    void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
 };
 
-using Image = std::unique_ptr<pixman_image_t, Unreference>;
+using Surface = std::unique_ptr<cairo_surface_t, Release>;
+using Pattern = std::unique_ptr<cairo_pattern_t, Release>;
+using Cairo = std::unique_ptr<cairo_t, Release>;
 
-constexpr std::array<pixman_op_t, 28> operators {
-    PIXMAN_OP_OVER,
-    PIXMAN_OP_MULTIPLY,
-    PIXMAN_OP_SCREEN,
-    PIXMAN_OP_OVERLAY,
-    PIXMAN_OP_DARKEN,
-    PIXMAN_OP_LIGHTEN,
-    PIXMAN_OP_COLOR_DODGE,
-    PIXMAN_OP_COLOR_BURN,
-    PIXMAN_OP_SOFT_LIGHT,
-    PIXMAN_OP_HARD_LIGHT,
-    PIXMAN_OP_DIFFERENCE,
-    PIXMAN_OP_EXCLUSION,
-    PIXMAN_OP_HSL_HUE,
-    PIXMAN_OP_HSL_SATURATION,
-    PIXMAN_OP_HSL_COLOR,
-    PIXMAN_OP_HSL_LUMINOSITY,
-    PIXMAN_OP_CLEAR,
-    PIXMAN_OP_SRC,
-    PIXMAN_OP_IN,
-    PIXMAN_OP_OUT,
-    PIXMAN_OP_ATOP,
-    PIXMAN_OP_OVER_REVERSE,
-    PIXMAN_OP_IN_REVERSE,
-    PIXMAN_OP_OUT_REVERSE,
-    PIXMAN_OP_ATOP_REVERSE,
-    PIXMAN_OP_XOR,
-    PIXMAN_OP_SRC, // PlusDarker, which is done by hand
-    PIXMAN_OP_ADD,
+constexpr std::array<cairo_operator_t, 28> operators {
+    CAIRO_OPERATOR_OVER,
+    CAIRO_OPERATOR_MULTIPLY,
+    CAIRO_OPERATOR_SCREEN,
+    CAIRO_OPERATOR_OVERLAY,
+    CAIRO_OPERATOR_DARKEN,
+    CAIRO_OPERATOR_LIGHTEN,
+    CAIRO_OPERATOR_COLOR_DODGE,
+    CAIRO_OPERATOR_COLOR_BURN,
+    CAIRO_OPERATOR_SOFT_LIGHT,
+    CAIRO_OPERATOR_HARD_LIGHT,
+    CAIRO_OPERATOR_DIFFERENCE,
+    CAIRO_OPERATOR_EXCLUSION,
+    CAIRO_OPERATOR_HSL_HUE,
+    CAIRO_OPERATOR_HSL_SATURATION,
+    CAIRO_OPERATOR_HSL_COLOR,
+    CAIRO_OPERATOR_HSL_LUMINOSITY,
+    CAIRO_OPERATOR_CLEAR,
+    CAIRO_OPERATOR_SOURCE,
+    CAIRO_OPERATOR_IN,
+    CAIRO_OPERATOR_OUT,
+    CAIRO_OPERATOR_ATOP,
+    CAIRO_OPERATOR_DEST_OVER,
+    CAIRO_OPERATOR_DEST_IN,
+    CAIRO_OPERATOR_DEST_OUT,
+    CAIRO_OPERATOR_DEST_ATOP,
+    CAIRO_OPERATOR_XOR,
+    CAIRO_OPERATOR_SOURCE, // PlusDarker: not used, see addDarkening
+    CAIRO_OPERATOR_ADD,
 };
 
-/// Which of the four bytes pixman takes for which color. It is fast in one order only, and most modes do not
-/// tell the colors apart, so that is the order unless the mode does.
-pixman_format_code_t formatFor(CGBlendMode mode)
+cairo_operator_t operatorFor(CGBlendMode mode)
 {
-    const bool tellsColorsApart = mode >= CGBlendMode::Hue && mode <= CGBlendMode::Luminosity;
-    return tellsColorsApart ? PIXMAN_a8b8g8r8 : PIXMAN_a8r8g8b8;
+    return operators[static_cast<std::size_t>(mode)];
 }
 
-Image imageOn(const Pixels& pixels, pixman_format_code_t format)
+/// A surface on the pixels. Cairo reads the first byte of a pixel as blue and the third as red; this makes no
+/// difference in the modes that process each color component on its own.
+Surface surfaceOn(const Pixels& pixels)
 {
-    return Image(pixman_image_create_bits_no_clear(format, static_cast<int>(pixels.width),
-        static_cast<int>(pixels.height), reinterpret_cast<std::uint32_t*>(pixels.bytes),
-        static_cast<int>(pixels.bytesPerRow)));
+    return Surface(
+        cairo_image_surface_create_for_data(pixels.bytes, CAIRO_FORMAT_ARGB32, static_cast<int>(pixels.width),
+            static_cast<int>(pixels.height), static_cast<int>(pixels.bytesPerRow)));
 }
 
-void composite(pixman_op_t operation, const Image& source, const Image& mask, const Pixels& onto,
-    pixman_format_code_t format)
+/// The picture's pixels, stretched between the edges.
+Pattern patternOf(const Pixels& picture, const Edges& edges)
 {
-    const auto destination = imageOn(onto, format);
-    pixman_image_composite32(operation, source.get(), mask.get(), destination.get(), 0, 0, 0, 0, 0, 0,
-        static_cast<int>(onto.width), static_cast<int>(onto.height));
+    Pattern pattern(cairo_pattern_create_for_surface(surfaceOn(picture).get()));
+    const double columns = static_cast<double>(picture.width) / (edges.right - edges.left);
+    const double rows = static_cast<double>(picture.height) / (edges.bottom - edges.top);
+    const cairo_matrix_t toPicture { columns, 0, 0, rows, -edges.left * columns, -edges.top * rows };
+    cairo_pattern_set_matrix(pattern.get(), &toPicture);
+    // Without this the picture becomes transparent along its edges.
+    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    cairo_pattern_set_filter(pattern.get(), CAIRO_FILTER_BILINEAR);
+    return pattern;
 }
 
-/// Pixels from the edges' own top left corner: the part of some others that the edges touch.
-struct Part {
-    Pixels pixels;
-    /// Where the edges are within it.
-    Edges edges;
-};
+/// The premultiplied color is rounded to 256 levels.
+Pattern patternOf(const Color& color)
+{
+    const auto level = [](double part) { return std::round(std::clamp(part, 0.0, 1.0) * 255) / 255; };
+    const double alpha = std::clamp(color.alpha, 0.0, 1.0);
+    const auto component = [&](double part) {
+        return level(std::clamp(part, 0.0, 1.0) * alpha) / std::max(level(alpha), 1.0 / 255);
+    };
+    return Pattern(cairo_pattern_create_rgba(
+        component(color.blue), component(color.green), component(color.red), level(alpha)));
+}
 
 bool isWhole(double edge)
 {
     return edge == std::floor(edge);
 }
 
-bool cutThroughPixels(const Part& part)
+bool cutThroughPixels(const Edges& edges)
 {
-    const auto& [left, top, right, bottom] = part.edges;
-    return !(isWhole(left) && isWhole(top) && isWhole(right) && isWhole(bottom));
+    return !(isWhole(edges.left) && isWhole(edges.top) && isWhole(edges.right) && isWhole(edges.bottom));
 }
 
-/// Nothing where the edges are outside, or too far apart.
-std::optional<Part> partWithin(const Pixels& pixels, const Edges& edges)
+/// Whether any of `length` pixels in a row or column lies between the edges, and the edges are at most
+/// `longestSide` apart.
+bool isDrawableAlong(std::size_t length, double edge, double otherEdge)
 {
-    const auto [left, right] = std::minmax({ edges.left, edges.right });
-    const auto [top, bottom] = std::minmax({ edges.top, edges.bottom });
-    const double firstColumn = std::max(0.0, std::floor(left));
-    const double firstRow = std::max(0.0, std::floor(top));
-    const double endColumn = std::min(static_cast<double>(pixels.width), std::ceil(right));
-    const double endRow = std::min(static_cast<double>(pixels.height), std::ceil(bottom));
-    // Asked so that it is false for what is no number, too.
-    const bool isSeen = left < right && top < bottom && firstColumn < endColumn && firstRow < endRow
-        && right - left <= longestSide && bottom - top <= longestSide;
-    if (!isSeen)
-        return std::nullopt;
-    const Pixels within { pixels.row(static_cast<std::size_t>(firstRow))
-            + static_cast<std::size_t>(firstColumn) * Bitmap::bytesPerPixel,
-        static_cast<std::size_t>(endColumn - firstColumn), static_cast<std::size_t>(endRow - firstRow),
-        pixels.bytesPerRow };
-    return Part { within,
-        { edges.left - firstColumn, edges.top - firstRow, edges.right - firstColumn,
-            edges.bottom - firstRow } };
+    const auto [first, last] = std::minmax(edge, otherEdge);
+    // False for NaN as well.
+    return first < last && last - first <= longestSide && first < static_cast<double>(length) && last > 0;
 }
 
-/// How much of the pixel at `index` lies between two edges, from 0 to 255.
-double covered(std::size_t index, double edge, double otherEdge)
+bool isDrawable(const Pixels& onto, const Edges& edges)
 {
-    const double first = std::max(static_cast<double>(index), std::min(edge, otherEdge));
-    const double last = std::min(static_cast<double>(index + 1), std::max(edge, otherEdge));
-    return last - first;
+    return isDrawableAlong(onto.width, edges.left, edges.right)
+        && isDrawableAlong(onto.height, edges.top, edges.bottom);
 }
 
-/// Opaque within the edges.
-Image coverage(const Part& part)
-{
-    const auto& [left, top, right, bottom] = part.edges;
-    Image mask(pixman_image_create_bits(
-        PIXMAN_a8, static_cast<int>(part.pixels.width), static_cast<int>(part.pixels.height), nullptr, 0));
-    if (!mask)
-        return mask;
-    auto* bytes = reinterpret_cast<std::uint8_t*>(pixman_image_get_data(mask.get()));
-    const auto bytesPerRow = static_cast<std::size_t>(pixman_image_get_stride(mask.get()));
-    for (std::size_t y = 0; y < part.pixels.height; ++y) {
-        for (std::size_t x = 0; x < part.pixels.width; ++x) {
-            const double share = covered(x, left, right) * covered(y, top, bottom);
-            bytes[y * bytesPerRow + x] = static_cast<std::uint8_t>(std::lround(share * 255));
-        }
-    }
-    return mask;
-}
-
-/// Calls `paint` with the part of the pixels that the edges touch, or with a copy of it of which every pixel
-/// then replaces the original as far as it lies within the edges.
-template <typename Paint> void paintWithin(const Pixels& pixels, const Edges& edges, const Paint& paint)
-{
-    const auto part = partWithin(pixels, edges);
-    if (!part)
-        return;
-    if (!cutThroughPixels(*part)) {
-        paint(*part);
-        return;
-    }
-    const auto copy = Bitmap::copyOf(part->pixels);
-    const auto mask = coverage(*part);
-    if (!copy || !mask)
-        return;
-    paint(Part { copy->pixels(), part->edges });
-    const auto format = PIXMAN_a8r8g8b8;
-    composite(PIXMAN_OP_OUT_REVERSE, mask, nullptr, part->pixels, format);
-    composite(PIXMAN_OP_ADD, imageOn(copy->pixels(), format), mask, part->pixels, format);
-}
-
-void blend(CGBlendMode mode, const Image& source, const Pixels& onto)
-{
-    if (mode != CGBlendMode::PlusDarker) {
-        composite(operators[static_cast<std::size_t>(mode)], source, nullptr, onto, formatFor(mode));
-        return;
-    }
-    if (const auto painted = Bitmap::make(onto.width, onto.height)) {
-        composite(PIXMAN_OP_SRC, source, nullptr, painted->pixels(), formatFor(mode));
-        addDarkening(onto, painted->pixels());
-    }
-}
-
-/// Has the picture's pixels appear between the edges. False when they are too near each other for that.
-bool place(const Image& image, const Pixels& picture, const Edges& edges)
-{
-    const double columns = static_cast<double>(picture.width) / (edges.right - edges.left);
-    const double rows = static_cast<double>(picture.height) / (edges.bottom - edges.top);
-    const pixman_f_transform toPicture { {
-        { columns, 0, -edges.left * columns },
-        { 0, rows, -edges.top * rows },
-        { 0, 0, 1 },
-    } };
-    pixman_transform_t transform;
-    if (!pixman_transform_from_pixman_f_transform(&transform, &toPicture))
-        return false;
-    pixman_image_set_transform(image.get(), &transform);
-    pixman_image_set_filter(image.get(), PIXMAN_FILTER_BILINEAR, nullptr, 0);
-    // Otherwise the picture would fade into nothing along its edges.
-    pixman_image_set_repeat(image.get(), PIXMAN_REPEAT_PAD);
-    return true;
-}
-
-/// How many pixels lie between the edges, where it is fewer than the picture has along either side.
-struct Smaller {
+struct Size {
     std::size_t width;
     std::size_t height;
 };
 
-std::optional<Smaller> smallerSize(const Part& part, const Pixels& picture)
+/// The number of pixels between the edges when the picture has more, in either dimension.
+std::optional<Size> smallerSize(const Pixels& picture, const Edges& edges)
 {
-    const double width = std::abs(part.edges.right - part.edges.left);
-    const double height = std::abs(part.edges.bottom - part.edges.top);
+    const double width = std::abs(edges.right - edges.left);
+    const double height = std::abs(edges.bottom - edges.top);
     const auto oldWidth = static_cast<double>(picture.width);
     const auto oldHeight = static_cast<double>(picture.height);
     if (width >= oldWidth && height >= oldHeight)
         return std::nullopt;
-    // In the middle of four pixels a linear change between them comes to their mean, which is faster.
-    if (width * 2 == oldWidth && height * 2 == oldHeight && !cutThroughPixels(part))
+    // Linear interpolation in the middle of four pixels is their mean, and faster.
+    if (width * 2 == oldWidth && height * 2 == oldHeight && !cutThroughPixels(edges))
         return std::nullopt;
-    return Smaller { static_cast<std::size_t>(std::ceil(std::min(width, oldWidth))),
+    return Size { static_cast<std::size_t>(std::ceil(std::min(width, oldWidth))),
         static_cast<std::size_t>(std::ceil(std::min(height, oldHeight))) };
 }
 
-Pixel premultiplied(const Color& color)
+Edges allOf(const Pixels& pixels)
 {
-    const double alpha = std::clamp(color.alpha, 0.0, 1.0);
-    const auto level = [](double part) { return static_cast<std::uint8_t>(std::lround(part * 255)); };
-    const auto component = [&](double part) { return level(std::clamp(part, 0.0, 1.0) * alpha); };
-    return { component(color.red), component(color.green), component(color.blue), level(alpha) };
+    return { 0, 0, static_cast<double>(pixels.width), static_cast<double>(pixels.height) };
 }
 
-Image imageOf(const Pixel& pixel, pixman_format_code_t format)
+void paint(const Pixels& onto, cairo_operator_t operation, const Pattern& source, const Edges& edges)
 {
-    const auto component = [](std::uint8_t level) { return static_cast<std::uint16_t>(level * 0x101); };
-    const bool redIsFirst = format == PIXMAN_a8b8g8r8;
-    const pixman_color_t color { component(pixel[redIsFirst ? 0 : 2]), component(pixel[1]),
-        component(pixel[redIsFirst ? 2 : 0]), component(pixel[3]) };
-    return Image(pixman_image_create_solid_fill(&color));
+    const Cairo cairo(cairo_create(surfaceOn(onto).get()));
+    // Some operators also change pixels outside of the source, but none outside of the clip.
+    cairo_rectangle(cairo.get(), edges.left, edges.top, edges.right - edges.left, edges.bottom - edges.top);
+    cairo_clip(cairo.get());
+    cairo_set_operator(cairo.get(), operation);
+    cairo_set_source(cairo.get(), source.get());
+    cairo_paint(cairo.get());
+}
+
+/// CGBlendMode::PlusDarker, which cairo lacks, with a source of the same size.
+void addDarkening(const Pixels& onto, const Pixels& source)
+{
+    for (std::size_t y = 0; y < onto.height; ++y) {
+        auto* bytes = onto.row(y);
+        const auto* added = source.row(y);
+        for (std::size_t i = 0; i < onto.width * Bitmap::bytesPerPixel; ++i)
+            bytes[i] = static_cast<std::uint8_t>(std::max(bytes[i] + added[i] - 255, 0));
+    }
+}
+
+void swapRedAndBlue(const Pixels& pixels)
+{
+    for (std::size_t y = 0; y < pixels.height; ++y) {
+        auto* bytes = pixels.row(y);
+        for (std::size_t i = 0; i < pixels.width * Bitmap::bytesPerPixel; i += Bitmap::bytesPerPixel)
+            std::swap(bytes[i], bytes[i + 2]);
+    }
+}
+
+/// Blends with all pixels in a mode that cairo lacks, or that needs its order of the color components.
+void blendPainted(const Pixels& onto, CGBlendMode mode, const Pattern& source)
+{
+    const auto painted = Bitmap::make(onto.width, onto.height);
+    if (!painted)
+        return;
+    paint(painted->pixels(), CAIRO_OPERATOR_SOURCE, source, allOf(onto));
+    if (mode == CGBlendMode::PlusDarker) {
+        addDarkening(onto, painted->pixels());
+        return;
+    }
+    swapRedAndBlue(painted->pixels());
+    swapRedAndBlue(onto);
+    paint(onto, operatorFor(mode), patternOf(painted->pixels(), allOf(onto)), allOf(onto));
+    swapRedAndBlue(onto);
+}
+
+void blend(const Pixels& onto, CGBlendMode mode, const Pattern& source, const Edges& edges)
+{
+    const bool needsColorOrder = mode >= CGBlendMode::Hue && mode <= CGBlendMode::Luminosity;
+    const bool needsPainting = needsColorOrder || mode == CGBlendMode::PlusDarker;
+    if (!needsPainting && !cutThroughPixels(edges)) {
+        paint(onto, operatorFor(mode), source, edges);
+        return;
+    }
+    const auto copy = Bitmap::copyOf(onto);
+    if (!copy)
+        return;
+    const auto& pixels = copy->pixels();
+    if (needsPainting)
+        blendPainted(pixels, mode, source);
+    else
+        paint(pixels, operatorFor(mode), source, allOf(pixels));
+    // With this operator cairo changes partly covered pixels in proportion to their coverage.
+    paint(onto, CAIRO_OPERATOR_SOURCE, patternOf(pixels, allOf(pixels)), edges);
 }
 
 } // namespace
 
 void drawPicture(const Pixels& onto, CGBlendMode mode, const Pixels& picture, const Edges& edges)
 {
-    paintWithin(onto, edges, [&](const Part& part) {
-        const auto size = smallerSize(part, picture);
-        const auto smaller = size ? shrunk(picture, size->width, size->height) : nullptr;
-        if (size && !smaller)
-            return;
-        const auto& drawn = smaller ? smaller->pixels() : picture;
-        const auto image = imageOn(drawn, formatFor(mode));
-        if (place(image, drawn, part.edges))
-            blend(mode, image, part.pixels);
-    });
+    if (!isDrawable(onto, edges))
+        return;
+    const auto size = smallerSize(picture, edges);
+    const auto smaller = size ? shrunk(picture, size->width, size->height) : nullptr;
+    if (!size || smaller)
+        blend(onto, mode, patternOf(smaller ? smaller->pixels() : picture, edges), edges);
 }
 
 void fill(const Pixels& onto, CGBlendMode mode, const Color& color, const Edges& edges)
 {
-    const auto pixel = premultiplied(color);
-    paintWithin(onto, edges, [&](const Part& part) {
-        if (mode == CGBlendMode::Darken) {
-            fillDarkening(part.pixels, pixel);
-            return;
-        }
-        blend(mode, imageOf(pixel, formatFor(mode)), part.pixels);
-    });
+    if (isDrawable(onto, edges))
+        blend(onto, mode, patternOf(color), edges);
 }
 
 } // namespace brimsound::desktop

@@ -1,4 +1,4 @@
-// Laying images and colors over pixels.
+// Drawing images and colors on pixels.
 #pragma once
 
 #include "platform/CoreGraphics/CGContext.h"
@@ -7,8 +7,8 @@
 
 namespace brimsound::desktop {
 
-/// Where something lies on pixels, which count from the top left corner; between pixels too. An image whose
-/// bottom is above its top is drawn upside down, one whose right is left of its left mirrored.
+/// A rectangle in pixels from the top left corner; its edges may lie between pixels. An image whose bottom
+/// edge is above its top edge is drawn upside down, one whose right edge is left of its left edge mirrored.
 struct Edges {
     double left = 0;
     double top = 0;
@@ -16,13 +16,13 @@ struct Edges {
     double bottom = 0;
 };
 
-/// What both write is within one of 256 levels of the blend mode's formula (CGContext.h), and within two in
-/// Multiply; Normal, Darken and DestinationIn round to the nearest. Pixels that the edges cut through change
-/// as much as lies within. What is larger than `longestSide`, or needs memory that there is not, is not
-/// drawn.
+/// The results of both functions are within one of 256 levels of the blend mode's formula (CGContext.h),
+/// within two for Multiply, and rounded to the nearest level for Normal, Darken and DestinationIn. A pixel
+/// between the edges only in part changes in proportion to that part, within another two levels. Nothing is
+/// drawn when the edges are more than `longestSide` apart or memory is missing.
 
-/// Where a picture is drawn smaller each pixel is the mean of the area that it covers, within one level.
-/// Between the pixels of one that is drawn larger colors change linearly, within two levels.
+/// In a picture that is drawn smaller each pixel is the mean of the area that it covers, within one level.
+/// A picture that is drawn larger is interpolated linearly, within two levels.
 void drawPicture(const Pixels& onto, CGBlendMode, const Pixels& picture, const Edges&);
 /// The color itself is rounded to 256 levels first, premultiplied.
 void fill(const Pixels& onto, CGBlendMode, const Color&, const Edges&);
