@@ -21,6 +21,8 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
+namespace fs = std::filesystem;
+
 constexpr auto preferences = "/var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
 
 Json flat()
@@ -57,6 +59,41 @@ protected:
     TemporaryRoot root;
     TestBus bus;
 };
+
+/// With a home folder of its own.
+class AScriptWithoutARoot : public AScript {
+protected:
+    /// Runs a script, and returns whether that created the device's folders below the given folder.
+    bool createsFoldersIn(const fs::path& folder) const
+    {
+        std::ofstream(script) << "wait 0\n";
+        const auto run = runProgram({ "--headless", "--script", script });
+        EXPECT_EQ(run.status, 0) << run.errors;
+        return fs::is_directory(folder / "brimsound/var/mobile/Library/Preferences");
+    }
+
+    const fs::path script = root.path() / "script";
+    const fs::path home = root.path() / "home";
+    const EnvironmentVariable homeFolder { "HOME", home.c_str() };
+};
+
+TEST_F(AScriptWithoutARoot, UsesTheUsersDataFolder)
+{
+    const auto data = root.path() / "data";
+    const EnvironmentVariable folder("XDG_DATA_HOME", data.c_str());
+    EXPECT_TRUE(createsFoldersIn(data));
+    EXPECT_FALSE(fs::exists(home / ".local"));
+}
+
+TEST_F(AScriptWithoutARoot, UsesTheDefaultDataFolderWhenNoneOrARelativeOneIsSet)
+{
+    for (const auto* value : { static_cast<const char*>(nullptr), "", "relative-data" }) {
+        fs::remove_all(home);
+        const EnvironmentVariable folder("XDG_DATA_HOME", value);
+        EXPECT_TRUE(createsFoldersIn(home / ".local/share")) << (value ? value : "none");
+    }
+    EXPECT_FALSE(fs::exists("relative-data"));
+}
 
 using AProgramWithoutABus = AScript;
 using TwoPanes = AScript;

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <pwd.h>
+#include <glib.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace brimsound::desktop {
 
@@ -13,20 +11,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path homeFolder()
-{
-    if (const char* home = std::getenv("HOME"); home && *home)
-        return home;
-    const passwd* user = getpwuid(getuid());
-    return user ? user->pw_dir : "/";
-}
-
 fs::path userDataFolder()
 {
-    // The XDG specification requires absolute paths and says to ignore others.
-    if (const char* folder = std::getenv("XDG_DATA_HOME"); folder && *folder == '/')
-        return folder;
-    return homeFolder() / ".local/share";
+    const fs::path folder = g_get_user_data_dir();
+    // The XDG specification requires absolute paths and says to ignore others, which GLib does not.
+    return folder.is_absolute() ? folder : fs::path(g_get_home_dir()) / ".local/share";
 }
 
 fs::path& mutableDeviceRoot()

@@ -1,6 +1,6 @@
 #include "platform/UIKit/UIDevice.h"
 
-#include "platform/desktop/System/OsRelease.h"
+#include "platform/desktop/System/SystemVersion.h"
 
 namespace brimsound {
 
