@@ -6,7 +6,7 @@
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
-#include <future>
+#include <glib.h>
 #include <optional>
 #include <spawn.h>
 #include <string_view>
@@ -76,17 +76,26 @@ std::optional<pid_t> start(std::vector<std::string> arguments)
     return error == 0 ? std::optional(process) : std::nullopt;
 }
 
-/// Waits for the program to end, for a limited time. After that a thread waits for it.
+/// The status from waitpid after the process has ended; nothing before.
+std::optional<int> statusOf(pid_t process)
+{
+    int status = 0;
+    return waitpid(process, &status, WNOHANG) == process ? std::optional(status) : std::nullopt;
+}
+
+/// Waits for the program to end, for a limited time. After that GLib's main loop, which is also Qt's, waits
+/// for it.
 bool hasFailed(pid_t process)
 {
-    std::packaged_task<int()> waiting([process] {
-        int status = 0;
-        waitpid(process, &status, 0);
-        return status;
-    });
-    auto status = waiting.get_future();
-    std::thread(std::move(waiting)).detach();
-    return status.wait_for(patience) == std::future_status::ready && status.get() != 0;
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (std::chrono::steady_clock::now() < deadline) {
+        if (const auto status = statusOf(process))
+            return *status != 0;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    g_child_watch_add(
+        process, [](GPid, int, void*) {}, nullptr);
+    return false;
 }
 
 } // namespace
