@@ -1,6 +1,6 @@
 // Draws the parts of the preset list in one picture.
-#include "desktop/gallery/CurveSheet.h"
-#include "desktop/gallery/ImageSheet.h"
+#include "art/gallery/CurveSheet.h"
+#include "art/gallery/ImageSheet.h"
 #include "platform/desktop/Qt/Snapshot.h"
 #include "platform/desktop/UIKit/HostedView.h"
 #include "toolkit/drawing/Theme.h"

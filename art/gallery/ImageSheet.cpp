@@ -1,6 +1,6 @@
-#include "desktop/gallery/ImageSheet.h"
+#include "art/gallery/ImageSheet.h"
 
-#include "desktop/gallery/Caption.h"
+#include "art/gallery/Caption.h"
 #include "platform/UIKit/UIImageView.h"
 #include "settings/UIImage+Equalizer.h"
 

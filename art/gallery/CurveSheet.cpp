@@ -1,6 +1,6 @@
-#include "desktop/gallery/CurveSheet.h"
+#include "art/gallery/CurveSheet.h"
 
-#include "desktop/gallery/Caption.h"
+#include "art/gallery/Caption.h"
 #include "settings/SBEqualizerBackgroundView.h"
 #include "settings/TenGains.h"
 #include "settings/store/presets.h"

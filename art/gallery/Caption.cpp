@@ -1,4 +1,4 @@
-#include "desktop/gallery/Caption.h"
+#include "art/gallery/Caption.h"
 
 namespace brimsound::desktop {
 
