@@ -17,9 +17,6 @@ enum class NSPropertyListFormat {
 /// Options of dataWithPropertyList. The platform defines none.
 using NSPropertyListWriteOptions = unsigned long;
 
-/// Whether a file is replaced by way of a temporary file.
-enum class Atomically { No, Yes };
-
 /// Reads a property list of any format from a device path. Every container in it can be changed. Nothing when
 /// the file is missing, cannot be read, or is not a property list.
 std::optional<PropertyList> readPropertyListFile(const std::string& path);
@@ -28,8 +25,8 @@ std::optional<PropertyList> readPropertyListFile(const std::string& path);
 std::optional<PropertyList::Data> dataWithPropertyList(
     const PropertyList&, NSPropertyListFormat, NSPropertyListWriteOptions);
 
-/// Writes the bytes to a device path. Returns false, without reporting anything, when the file cannot be
-/// written. A failed write that is not atomic may have changed part of the file.
-bool writeToFile(const PropertyList::Data&, const std::string& path, Atomically);
+/// Writes the bytes to a device path, in place. Returns false, without reporting anything, when the file
+/// cannot be written. A failed write may have changed part of the file.
+bool writeToFile(const PropertyList::Data&, const std::string& path);
 
 } // namespace brimsound

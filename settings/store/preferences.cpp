@@ -23,7 +23,7 @@ void write_preferences(PropertyList::Dictionary preferences)
     const auto data
         = dataWithPropertyList(std::move(preferences), NSPropertyListFormat::BinaryFormat_v1_0, 0);
     if (data)
-        writeToFile(*data, preferencesPath, Atomically::No);
+        writeToFile(*data, preferencesPath);
 }
 
 } // namespace brimsound

@@ -29,7 +29,7 @@ protected:
     void store(const PropertyList& preferences)
     {
         const auto data = dataWithPropertyList(preferences, NSPropertyListFormat::BinaryFormat_v1_0, 0);
-        ASSERT_TRUE(data && writeToFile(*data, preferencesPath, Atomically::No));
+        ASSERT_TRUE(data && writeToFile(*data, preferencesPath));
     }
 
     void send(const PropertyList& vals) { send(equalizerSendMessage, { { valsKey, vals } }); }

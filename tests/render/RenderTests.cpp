@@ -80,7 +80,7 @@ protected:
     {
         const auto data
             = dataWithPropertyList(std::move(preferences), NSPropertyListFormat::BinaryFormat_v1_0, 0);
-        ASSERT_TRUE(data && writeToFile(*data, preferencesPath, Atomically::No));
+        ASSERT_TRUE(data && writeToFile(*data, preferencesPath));
     }
 
     std::vector<std::string> files() const

@@ -1,9 +1,7 @@
 #include "platform/desktop/Foundation/FileContents.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
-#include <string>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -128,18 +126,6 @@ bool overwriteFile(const std::filesystem::path& path, std::span<const std::byte>
     return writeAll(file.number(), bytes)
         && (bytes.size() >= *oldLength || ftruncate(file.number(), static_cast<off_t>(bytes.size())) == 0)
         && file.close();
-}
-
-bool replaceFile(const std::filesystem::path& path, std::span<const std::byte> bytes)
-{
-    auto temporaryPath = path.string() + ".XXXXXX";
-    FileDescriptor file(mkostemp(temporaryPath.data(), O_CLOEXEC));
-    if (file.number() < 0)
-        return false;
-    if (writeAll(file.number(), bytes) && file.close() && rename(temporaryPath.c_str(), path.c_str()) == 0)
-        return true;
-    unlink(temporaryPath.c_str());
-    return false;
 }
 
 } // namespace brimsound::desktop

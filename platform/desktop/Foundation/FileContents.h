@@ -19,8 +19,4 @@ std::optional<std::vector<std::byte>> readRegularFile(const std::filesystem::pat
 /// blocks to a new place and finds no space for them.
 bool overwriteFile(const std::filesystem::path&, std::span<const std::byte>);
 
-/// Replaces the file with a new one, accessible by the user only. At any time either the complete old file or
-/// the complete new file is there. Returns false on failure.
-bool replaceFile(const std::filesystem::path&, std::span<const std::byte>);
-
 } // namespace brimsound::desktop

@@ -24,11 +24,9 @@ std::optional<PropertyList::Data> dataWithPropertyList(
                                                              : desktop::writeXmlPropertyList(value);
 }
 
-bool writeToFile(const PropertyList::Data& data, const std::string& path, Atomically atomically)
+bool writeToFile(const PropertyList::Data& data, const std::string& path)
 {
-    const auto place = desktop::resolveDevicePath(path);
-    const bool written = atomically == Atomically::Yes ? desktop::replaceFile(place, data)
-                                                       : desktop::overwriteFile(place, data);
+    const bool written = desktop::overwriteFile(desktop::resolveDevicePath(path), data);
     if (written)
         desktop::effects().fileWritten(path);
     return written;

@@ -50,12 +50,10 @@ std::optional<PropertyList::Data> dataWithPropertyList(
     return data;
 }
 
-bool writeToFile(const PropertyList::Data& data, const std::string& path, Atomically atomically)
+bool writeToFile(const PropertyList::Data& data, const std::string& path)
 {
     ::NSData* native = [::NSData dataWithBytes:data.data() length:data.size()];
-    return [native writeToFile:ios::nativeText(path)
-                       options:atomically == Atomically::Yes ? NSDataWritingAtomic : 0
-                         error:NULL];
+    return [native writeToFile:ios::nativeText(path) options:0 error:NULL];
 }
 
 } // namespace brimsound

@@ -92,7 +92,7 @@ protected:
     std::optional<PropertyList> rereading(const PropertyList& value, NSPropertyListFormat format)
     {
         const auto bytes = dataWithPropertyList(value, format, 0);
-        if (!bytes || !writeToFile(*bytes, path, Atomically::No))
+        if (!bytes || !writeToFile(*bytes, path))
             return std::nullopt;
         return readPropertyListFile(path);
     }
@@ -418,54 +418,40 @@ TEST_F(WritingAPropertyListFile, AcceptsTenThousandPresets)
     EXPECT_EQ(rereading(presets, binary), PropertyList(presets));
 }
 
-TEST_F(WritingAPropertyListFile, InPlaceKeepsTheFileAndTruncatesIt)
+TEST_F(WritingAPropertyListFile, KeepsTheFileAndTruncatesIt)
 {
     root.write(path, "an older and longer text");
     const auto inode = inodeOf(file());
-    EXPECT_TRUE(writeToFile(data("new"), path, Atomically::No));
+    EXPECT_TRUE(writeToFile(data("new"), path));
     EXPECT_EQ(root.read(path), "new");
     EXPECT_EQ(inodeOf(file()), inode);
 }
 
-TEST_F(WritingAPropertyListFile, AtomicallyReplacesTheFile)
-{
-    root.write(path, "old");
-    fs::create_hard_link(file(), root.path() / "old.plist");
-    EXPECT_TRUE(writeToFile(data("new"), path, Atomically::Yes));
-    EXPECT_EQ(root.read(path), "new");
-    EXPECT_EQ(root.read("/old.plist"), "old");
-    EXPECT_EQ(std::distance(fs::directory_iterator(root.path()), {}), 3) << "a temporary file was left";
-}
-
 TEST_F(WritingAPropertyListFile, CreatesItForTheUserOnly)
 {
-    for (const auto atomically : { Atomically::No, Atomically::Yes }) {
-        fs::remove(file());
-        ASSERT_TRUE(writeToFile(data("new"), path, atomically));
-        EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    }
+    ASSERT_TRUE(writeToFile(data("new"), path));
+    EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
 TEST_F(WritingAPropertyListFile, IsReportedAsAnEffectWhenItIsDone)
 {
-    writeToFile(data("new"), path, Atomically::No);
-    writeToFile(data("new"), "/other.plist", Atomically::Yes);
+    writeToFile(data("new"), path);
+    writeToFile(data("new"), "/other.plist");
     EXPECT_THAT(effects.trace(), ElementsAre("write /values.plist", "write /other.plist"));
 }
 
 TEST_F(WritingAPropertyListFile, CreatesNoFolders)
 {
-    for (const auto atomically : { Atomically::No, Atomically::Yes })
-        EXPECT_FALSE(writeToFile(data("new"), "/missing/values.plist", atomically));
+    EXPECT_FALSE(writeToFile(data("new"), "/missing/values.plist"));
     EXPECT_FALSE(root.contains("/missing"));
     EXPECT_THAT(effects.trace(), IsEmpty());
 }
 
-TEST_F(WritingAPropertyListFile, InPlaceRejectsPipesAndFoldersWithoutBlocking)
+TEST_F(WritingAPropertyListFile, RejectsPipesAndFoldersWithoutBlocking)
 {
     ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
-    EXPECT_FALSE(writeToFile(data("new"), path, Atomically::No));
-    EXPECT_FALSE(writeToFile(data("new"), "/var", Atomically::No));
+    EXPECT_FALSE(writeToFile(data("new"), path));
+    EXPECT_FALSE(writeToFile(data("new"), "/var"));
     EXPECT_THAT(effects.trace(), IsEmpty());
 }
 
@@ -478,8 +464,8 @@ TEST_F(WritingAPropertyListFile, FailsWhenOnlyAPartCanBeWritten)
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     root.write("/kept.plist", "old");
     const PropertyList::Data large(5000);
-    EXPECT_FALSE(writeToFile(large, path, Atomically::No));
-    EXPECT_FALSE(writeToFile(large, "/kept.plist", Atomically::Yes));
+    EXPECT_FALSE(writeToFile(large, path));
+    EXPECT_FALSE(writeToFile(large, "/kept.plist"));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handlerBefore);
 

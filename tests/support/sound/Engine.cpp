@@ -48,7 +48,7 @@ void storePreferences(const Gains& gains, PropertyList::Dictionary more)
     more.set(preampKey, gains[0]);
     more.set(peakingEqValuesKey, arrayOf(gains, 1));
     const auto data = dataWithPropertyList(more, NSPropertyListFormat::BinaryFormat_v1_0, 0);
-    if (!data || !writeToFile(*data, preferencesPath, Atomically::No))
+    if (!data || !writeToFile(*data, preferencesPath))
         throw std::runtime_error("the preferences cannot be written");
 }
 
