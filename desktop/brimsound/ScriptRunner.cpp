@@ -238,10 +238,9 @@ void ScriptRunner::flipSwitch(const Words& words)
     for (const auto& specifier : pane().specifiers()) {
         if (!isOfType(*specifier, switchCellType) || stringProperty(*specifier, "key") != words[0])
             continue;
-        const auto& toggle
-            = *static_cast<SpecifierCell&>(objectOf<UITableViewCell>(rowOf(*specifier))).toggle();
+        auto& toggle = *static_cast<SpecifierCell&>(objectOf<UITableViewCell>(rowOf(*specifier))).toggle();
         if (toggle.isOn() != (words[1] == "on"))
-            tap(nativeView(toggle), words[0]);
+            tap(toggle, words[0]);
         return;
     }
     throw ScriptError("there is no switch \"" + words[0] + "\"");

@@ -1,8 +1,9 @@
 #include "platform/desktop/Preferences/SpecifierCell.h"
 
+#include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/Color.h"
-#include "platform/desktop/UIKit/HostedView.h"
 #include "toolkit/drawing/Theme.h"
+#include "toolkit/table/Cell.h"
 
 #include <array>
 
@@ -67,14 +68,18 @@ SpecifierCell::SpecifierCell(const std::string& cellType, PSListController& cont
     : UITableViewCell(UITableViewCellStyle::Default, cellType)
     , _controller(controller)
 {
+    auto& native = nativeOf<toolkit::Cell>(*this);
     if (cellType == switchCellType) {
-        _toggle = make<UISwitch>();
-        _toggle->addTargetActionForControlEvents(*this, "toggled:", UIControlEventValueChanged);
-        setAccessoryView(_toggle);
-        // It names the switch, with which it is read.
+        _toggle = toolkit::make<toolkit::Switch>();
+        _toggle->onEvent = [this](toolkit::ControlEvent event) {
+            if (event == toolkit::ControlEvent::ValueChanged)
+                storeValue(_controller, *_specifier, _toggle->isOn());
+        };
+        native.setAccessory(_toggle);
+        // A screen reader reads it as the name of the switch.
         textLabel().setIsAccessibilityElement(false);
     } else if (cellType == linkCellType) {
-        setAccessoryView(adopt(viewOf(new Chevron)));
+        native.setAccessory(toolkit::make<Chevron>());
     }
     if (cellType == buttonCellType)
         textLabel().setTextColor(uiColor(theme::tint));
@@ -89,19 +94,8 @@ void SpecifierCell::show(PSSpecifier& specifier)
     textLabel().setText(specifier.name());
     if (!_toggle)
         return;
-    _toggle->setAccessibilityLabel(specifier.name());
-    _toggle->setOn(currentValue(_controller, specifier).boolValue(), Animated::No);
-}
-
-std::span<const Method> SpecifierCell::methods() const
-{
-    static const std::array table { method<&SpecifierCell::toggled>("toggled:") };
-    return table;
-}
-
-void SpecifierCell::toggled(UISwitch& toggle)
-{
-    storeValue(_controller, *_specifier, toggle.isOn());
+    _toggle->setLabel(specifier.name());
+    _toggle->setOn(currentValue(_controller, specifier).boolValue(), false);
 }
 
 } // namespace brimsound::desktop

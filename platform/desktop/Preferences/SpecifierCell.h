@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Preferences/PSListController.h"
-#include "platform/UIKit/UISwitch.h"
 #include "platform/UIKit/UITableViewCell.h"
+#include "toolkit/control/Switch.h"
 
 #include <string>
 
@@ -33,16 +33,12 @@ public:
     void show(PSSpecifier&);
 
     /// The switch of a switch row, otherwise null.
-    UISwitch* toggle() const { return _toggle.get(); }
-
-    std::span<const Method> methods() const override;
+    toolkit::Switch* toggle() const { return _toggle.get(); }
 
 private:
-    void toggled(UISwitch&);
-
     PSListController& _controller;
     RetainPtr<PSSpecifier> _specifier;
-    RetainPtr<UISwitch> _toggle;
+    toolkit::Ref<toolkit::Switch> _toggle;
 };
 
 } // namespace brimsound::desktop

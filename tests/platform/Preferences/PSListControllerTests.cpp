@@ -123,12 +123,13 @@ protected:
         return *found;
     }
 
-    void tap(const UIView& view) const
+    void tap(const toolkit::View& view) const
     {
-        const auto middle = nativeView(view).toWindow(nativeView(view).bounds().middle());
+        const auto middle = view.toWindow(view.bounds().middle());
         window->touchDown({ middle });
         window->touchUp(middle);
     }
+    void tap(const UIView& view) const { tap(nativeView(view)); }
 
     static constexpr CGSize size { 320, 568 };
 
