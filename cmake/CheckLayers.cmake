@@ -22,7 +22,7 @@ set(frameworks "Foundation|CoreFoundation|CoreGraphics|CommonCrypto|UIKit|Prefer
 check_layer("settings;include" "\"(settings|include|platform/(${frameworks}))/")
 check_layer(
   "platform/Foundation;platform/CoreFoundation;platform/CoreGraphics;platform/CommonCrypto;platform/UIKit;platform/Preferences;platform/AppSupport;platform/MessageUI;platform/QuartzCore;platform/System"
-  "\"platform/(${frameworks})/")
+  "(\"platform/(${frameworks})/|<xlocale\\.h>)")
 check_layer("platform/desktop/UIKit;platform/desktop/Preferences;platform/desktop/QuartzCore" "\"(platform|toolkit)/")
 check_layer("toolkit" "\"toolkit/")
 check_layer("desktop/engine/audio" "(\"desktop/engine/audio/|<xmmintrin\\.h>)")

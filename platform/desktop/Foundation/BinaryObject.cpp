@@ -1,6 +1,6 @@
 #include "platform/desktop/Foundation/BinaryObject.h"
 
-#include "platform/common/Foundation/Utf16.h"
+#include "platform/Foundation/Utf16.h"
 #include "platform/desktop/Foundation/BinaryFormat.h"
 
 #include <bit>

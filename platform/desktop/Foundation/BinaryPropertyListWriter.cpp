@@ -1,6 +1,6 @@
 #include "platform/desktop/Foundation/BinaryPropertyListWriter.h"
 
-#include "platform/common/Foundation/Utf16.h"
+#include "platform/Foundation/Utf16.h"
 #include "platform/desktop/Foundation/BinaryFormat.h"
 #include "platform/desktop/Foundation/PropertyListBudget.h"
 #include "platform/desktop/Foundation/UniqueObjects.h"

@@ -1,6 +1,6 @@
 #include "platform/ios/Foundation/NativeText.h"
 
-#include "platform/common/Foundation/Utf16.h"
+#include "platform/Foundation/Utf16.h"
 
 #include <vector>
 

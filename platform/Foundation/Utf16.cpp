@@ -1,4 +1,4 @@
-#include "platform/common/Foundation/Utf16.h"
+#include "platform/Foundation/Utf16.h"
 
 #include <cstring>
 
