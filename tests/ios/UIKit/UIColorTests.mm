@@ -25,10 +25,10 @@ protected:
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(AColor, HasItsComponentsClampedFromZeroToOne)
+TEST_F(AColor, KeepsComponentsOutsideOfZeroToOneAsFromIOS10On)
 {
     EXPECT_THAT(
-        componentsOf([UIColor colorWithRed:0.25 green:-1 blue:7 alpha:0.5]), ElementsAre(0.25, 0, 1, 0.5));
+        componentsOf([UIColor colorWithRed:0.25 green:-1 blue:7 alpha:1.5]), ElementsAre(0.25, -1, 7, 1));
     EXPECT_THAT(componentsOf([UIColor lightGrayColor]), ElementsAre(2.0 / 3, 2.0 / 3, 2.0 / 3, 1));
     EXPECT_THAT(componentsOf([UIColor clearColor]), ElementsAre(0, 0, 0, 0));
     EXPECT_THAT(componentsOf([UIColor yellowColor]), ElementsAre(1, 1, 0, 1));

@@ -18,10 +18,9 @@ Components brimsound::doubles::componentsOf(UIColor* color)
 - (instancetype)initWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha
 {
     self = [super init];
-    // Up to iOS 9 there are no colors beyond this range.
+    // As from iOS 10 on, only the alpha is clamped.
     if (self)
-        std::ranges::transform(Components { red, green, blue, alpha }, _components,
-            [](CGFloat component) { return std::clamp(component, 0.0, 1.0); });
+        std::ranges::copy(Components { red, green, blue, std::clamp(alpha, 0.0, 1.0) }, _components);
     return self;
 }
 
