@@ -1,4 +1,3 @@
-// Pixels in memory.
 #pragma once
 
 #include <cstddef>
@@ -8,29 +7,29 @@
 
 namespace brimsound::desktop {
 
-/// Somebody's pixels, the top row first: four bytes each, red, green, blue, alpha, premultiplied.
+/// Pixels in memory that it does not own, the top row first. A pixel is four bytes: red, green, blue, alpha,
+/// with premultiplied colors.
 struct Pixels {
     std::uint8_t* bytes = nullptr;
     std::size_t width = 0;
     std::size_t height = 0;
-    /// From one row to the next; a multiple of four.
+    /// A multiple of four.
     std::size_t bytesPerRow = 0;
 
     std::uint8_t* row(std::size_t y) const { return bytes + y * bytesPerRow; }
 };
 
-/// The most pixels that a bitmap may have on a side: what the library that draws on them can address.
+/// The largest width and height of a bitmap: the limit of the library that draws on it.
 inline constexpr std::size_t longestSide = 32767;
 
-/// Pixels of its own, in rows without gaps.
+/// Owns its pixels, in rows without gaps.
 class Bitmap {
 public:
     static constexpr std::size_t bytesPerPixel = 4;
 
-    /// A transparent one. Null when it would have no pixels, too many on a side, or more than there is memory
-    /// for.
+    /// A transparent bitmap. Null when a side is 0 or larger than `longestSide`, and without enough memory.
     static std::shared_ptr<Bitmap> make(std::size_t width, std::size_t height);
-    /// Null when there is no memory for it.
+    /// Null without enough memory.
     static std::shared_ptr<Bitmap> copyOf(const Pixels&);
 
     const Pixels& pixels() const { return _pixels; }
@@ -45,7 +44,7 @@ private:
 
     Bitmap(Memory, std::size_t width, std::size_t height);
 
-    /// Fresh from the system, which hands out zeros without anybody writing them.
+    /// From calloc: the system provides large blocks of zeros without writing them.
     const Memory _memory;
     const Pixels _pixels;
 };

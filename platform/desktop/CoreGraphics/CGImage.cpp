@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGImage.h"
 
-#include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/CoreGraphics/ImageBitmap.h"
 #include "platform/desktop/Foundation/Peer.h"
 
 namespace brimsound {
@@ -14,8 +14,9 @@ namespace desktop {
 
 namespace {
 
-struct CGImagePeer : toolkit::Object {
-    explicit CGImagePeer(std::shared_ptr<const Bitmap> pixels)
+/// The native object of every CGImage.
+struct ImageBitmap : toolkit::Object {
+    explicit ImageBitmap(std::shared_ptr<const Bitmap> pixels)
         : bitmap(std::move(pixels))
     {
     }
@@ -23,24 +24,16 @@ struct CGImagePeer : toolkit::Object {
     const std::shared_ptr<const Bitmap> bitmap;
 };
 
-class Image : public CGImage {
-public:
-    explicit Image(std::shared_ptr<const Bitmap> bitmap)
-        : CGImage(desktop::peer(new CGImagePeer(std::move(bitmap))))
-    {
-    }
-};
-
 } // namespace
 
 RetainPtr<CGImage> makeCGImage(std::shared_ptr<const Bitmap> bitmap)
 {
-    return bitmap ? RetainPtr<CGImage>(make<Image>(std::move(bitmap))) : nullptr;
+    return bitmap ? adopt(&objectOf<CGImage>(*new ImageBitmap(std::move(bitmap)))) : nullptr;
 }
 
 const Bitmap& bitmapOf(const CGImage& image)
 {
-    return *nativeOf<CGImagePeer>(image).bitmap;
+    return *nativeOf<ImageBitmap>(image).bitmap;
 }
 
 } // namespace desktop

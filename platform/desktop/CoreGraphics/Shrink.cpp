@@ -10,13 +10,13 @@ namespace {
 
 constexpr std::size_t channels = Bitmap::bytesPerPixel;
 
-/// An old pixel along one side, and how much of it a new one covers.
+/// An old column or row, and its share in a new one.
 struct Part {
     std::size_t index;
     float share;
 };
 
-/// What each of the new pixels along one side is made of; the shares add up to one.
+/// The parts of each new column or row. The shares of one add up to 1.
 std::vector<std::vector<Part>> partsAlong(std::size_t oldLength, std::size_t newLength)
 {
     const double ratio = static_cast<double>(oldLength) / static_cast<double>(newLength);

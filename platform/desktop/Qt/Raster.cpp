@@ -1,6 +1,6 @@
 #include "platform/desktop/Qt/Raster.h"
 
-#include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/CoreGraphics/ImageBitmap.h"
 #include "platform/desktop/Qt/QtCanvas.h"
 
 #include <cmath>

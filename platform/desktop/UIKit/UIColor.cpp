@@ -1,7 +1,7 @@
 #include "platform/UIKit/UIColor.h"
 
 #include "platform/UIKit/UIGraphics.h"
-#include "platform/desktop/CoreGraphics/CGContextPeer.h"
+#include "platform/desktop/CoreGraphics/BitmapContext.h"
 #include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/Color.h"
 
@@ -126,7 +126,7 @@ bool UIColor::getHueSaturationBrightnessAlpha(
 void UIColor::setFill() const
 {
     if (const auto* context = UIGraphicsGetCurrentContext())
-        desktop::peerOf(*context).fillColor = componentsOf(*this);
+        desktop::bitmapContextOf(*context).fillColor = componentsOf(*this);
 }
 
 namespace desktop {

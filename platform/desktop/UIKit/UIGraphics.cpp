@@ -1,7 +1,7 @@
 #include "platform/UIKit/UIGraphics.h"
 
 #include "platform/UIKit/UIScreen.h"
-#include "platform/desktop/CoreGraphics/CGContextPeer.h"
+#include "platform/desktop/CoreGraphics/BitmapContext.h"
 #include "platform/desktop/UIKit/BitmapImage.h"
 
 #include <cmath>
@@ -40,7 +40,7 @@ void UIGraphicsBeginImageContextWithOptions(CGSize size, CGFloat scale)
     if (scale == 0)
         scale = UIScreen::mainScreen().scale();
     imageContexts().push_back(
-        { desktop::makeContext(wholePixels(size.width * scale), wholePixels(size.height * scale), scale),
+        { desktop::makeCGContext(wholePixels(size.width * scale), wholePixels(size.height * scale), scale),
             scale });
 }
 

@@ -3,8 +3,8 @@
 #include "platform/Foundation/NSData.h"
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UIScreen.h"
-#include "platform/desktop/CoreGraphics/CGContextPeer.h"
-#include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/CoreGraphics/BitmapContext.h"
+#include "platform/desktop/CoreGraphics/ImageBitmap.h"
 #include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/BitmapImage.h"
 #include "platform/desktop/UIKit/Geometry.h"
@@ -70,7 +70,7 @@ void UIImage::drawInRect(const CGRect& rect) const
     const auto* context = UIGraphicsGetCurrentContext();
     const auto* picture = CGImage();
     if (context && picture)
-        desktop::peerOf(*context).draw(rect, *picture, desktop::CGContextPeer::Top::AtLeastY);
+        desktop::bitmapContextOf(*context).draw(rect, *picture, desktop::BitmapContext::Top::AtLeastY);
 }
 
 namespace desktop {

@@ -1,7 +1,7 @@
 #include "platform/UIKit/UISlider.h"
 
 #include "platform/UIKit/UIScreen.h"
-#include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/CoreGraphics/ImageBitmap.h"
 #include "platform/desktop/UIKit/BitmapImage.h"
 #include "platform/desktop/UIKit/Color.h"
 #include "platform/desktop/UIKit/ControlTargets.h"

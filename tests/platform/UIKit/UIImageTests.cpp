@@ -2,7 +2,7 @@
 
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UISlider.h"
-#include "platform/desktop/CoreGraphics/CGImagePeer.h"
+#include "platform/desktop/CoreGraphics/ImageBitmap.h"
 #include "platform/desktop/Qt/Raster.h"
 #include "platform/desktop/UIKit/BitmapImage.h"
 #include "platform/desktop/UIKit/Screen.h"

@@ -1,4 +1,3 @@
-// What stands behind a CGImage.
 #pragma once
 
 #include "platform/CoreGraphics/CGImage.h"
@@ -6,7 +5,7 @@
 
 namespace brimsound::desktop {
 
-/// The picture of the bitmap, which nobody changes any more. Null for null.
+/// An image of the bitmap, which must not change any more. Null for null.
 RetainPtr<CGImage> makeCGImage(std::shared_ptr<const Bitmap>);
 
 const Bitmap& bitmapOf(const CGImage&);
