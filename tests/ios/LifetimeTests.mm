@@ -2,8 +2,8 @@
 #include "platform/UIKit/UILabel.h"
 #include "platform/UIKit/UISlider.h"
 #include "platform/ios/Foundation/Peer.h"
-#include "tests/settings/Pane.h"
-#include "tests/settings/PresetPane.h"
+#include "tests/unit/settings/Pane.h"
+#include "tests/unit/settings/PresetPane.h"
 
 #import <UIKit/UIKit.h>
 

@@ -1,6 +1,6 @@
 // The bundle's principal class as the Settings app uses it: by its name and through the runtime.
 #include "settings/BrimsoundSettings.h"
-#include "tests/settings/TestPlatform.h"
+#include "tests/unit/settings/TestPlatform.h"
 
 #import <Preferences/PSListController.h>
 #import <objc/runtime.h>
