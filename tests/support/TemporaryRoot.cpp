@@ -5,7 +5,6 @@
 namespace brimsound::tests {
 
 TemporaryRoot::TemporaryRoot()
-    : _rootBefore(desktop::deviceRoot())
 {
     desktop::setDeviceRoot(path());
     desktop::prepareDeviceRoot();
@@ -13,7 +12,7 @@ TemporaryRoot::TemporaryRoot()
 
 TemporaryRoot::~TemporaryRoot()
 {
-    desktop::setDeviceRoot(_rootBefore);
+    desktop::setDeviceRoot({});
 }
 
 void TemporaryRoot::write(std::string_view devicePath, std::string_view text) const

@@ -8,7 +8,7 @@
 namespace brimsound::tests {
 
 /// A new folder that is the device root and contains the folder of the preferences file. The destructor
-/// removes it and restores the previous device root. All paths are device paths.
+/// removes it and restores the default device root. All paths are device paths.
 class TemporaryRoot {
 public:
     TemporaryRoot();
@@ -27,7 +27,6 @@ public:
 
 private:
     TemporaryFolder _folder;
-    std::filesystem::path _rootBefore;
 };
 
 } // namespace brimsound::tests

@@ -18,11 +18,8 @@ fs::path userDataFolder()
     return folder.is_absolute() ? folder : fs::path(g_get_home_dir()) / ".local/share";
 }
 
-fs::path& mutableDeviceRoot()
-{
-    static fs::path root = userDataFolder() / "brimsound";
-    return root;
-}
+/// Empty until it is set or asked for: GLib reads the environment once, when it is asked first.
+fs::path root;
 
 const fs::path& installedResources()
 {
@@ -40,12 +37,14 @@ bool startsWith(const fs::path& path, const fs::path& folder)
 
 const fs::path& deviceRoot()
 {
-    return mutableDeviceRoot();
+    if (root.empty())
+        root = userDataFolder() / "brimsound";
+    return root;
 }
 
-void setDeviceRoot(fs::path root)
+void setDeviceRoot(fs::path folder)
 {
-    mutableDeviceRoot() = std::move(root);
+    root = std::move(folder);
 }
 
 void prepareDeviceRoot()

@@ -11,7 +11,8 @@ namespace brimsound::desktop {
 /// ($XDG_DATA_HOME, otherwise ~/.local/share).
 const std::filesystem::path& deviceRoot();
 
-/// Sets the device root for the whole process. For the start of a program and for tests.
+/// Sets the device root for the whole process; an empty one is the default. For the start of a program and
+/// for tests.
 void setDeviceRoot(std::filesystem::path);
 
 /// Creates the folders that the pane expects on a device (those of the preferences file), accessible by the
