@@ -4,6 +4,7 @@
 #include "platform/desktop/CoreGraphics/BitmapContext.h"
 #include "platform/desktop/Foundation/Peer.h"
 #include "platform/desktop/UIKit/Color.h"
+#include "toolkit/drawing/Hsv.h"
 
 #include <algorithm>
 #include <cmath>
@@ -44,21 +45,11 @@ RetainPtr<UIColor> UIColor::colorWithRedGreenBlueAlpha(
     return desktop::uiColor(toolkit::Color { inRange(red), inRange(green), inRange(blue), inRange(alpha) });
 }
 
-// Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
-
 RetainPtr<UIColor> UIColor::colorWithHueSaturationBrightnessAlpha(
     CGFloat hue, CGFloat saturation, CGFloat brightness, CGFloat alpha)
 {
-    hue = inRange(hue);
-    saturation = inRange(saturation);
-    brightness = inRange(brightness);
-    // Each component stands at the brightness for a third of the circle, and goes down and up beside it.
-    const auto component = [&](double peakOfFall) {
-        const double sixth = std::fmod(peakOfFall + 6 * hue, 6);
-        const double below = std::clamp(std::min(sixth, 4 - sixth), 0.0, 1.0);
-        return brightness * (1 - saturation * below);
-    };
-    return colorWithRedGreenBlueAlpha(component(5), component(3), component(1), alpha);
+    return desktop::uiColor(
+        toolkit::colorOf({ inRange(hue), inRange(saturation), inRange(brightness) }, inRange(alpha)));
 }
 
 RetainPtr<UIColor> UIColor::colorWithWhiteAlpha(CGFloat white, CGFloat alpha)
@@ -104,22 +95,15 @@ bool UIColor::getRedGreenBlueAlpha(CGFloat& red, CGFloat& green, CGFloat& blue, 
 bool UIColor::getHueSaturationBrightnessAlpha(
     CGFloat& hue, CGFloat& saturation, CGFloat& brightness, CGFloat& alpha) const
 {
-    const auto& [red, green, blue, opacity] = componentsOf(*this);
-    if (!std::isfinite(red) || !std::isfinite(green) || !std::isfinite(blue) || !std::isfinite(opacity))
+    const auto& color = componentsOf(*this);
+    if (!std::isfinite(color.red) || !std::isfinite(color.green) || !std::isfinite(color.blue)
+        || !std::isfinite(color.alpha))
         return false;
-    const double highest = std::max({ red, green, blue });
-    const double range = highest - std::min({ red, green, blue });
-    double sixths = 0;
-    if (range > 0 && highest == red)
-        sixths = (green - blue) / range;
-    else if (range > 0 && highest == green)
-        sixths = 2 + (blue - red) / range;
-    else if (range > 0)
-        sixths = 4 + (red - green) / range;
-    hue = (sixths < 0 ? sixths + 6 : sixths) / 6;
-    saturation = highest > 0 ? range / highest : 0;
-    brightness = highest;
-    alpha = opacity;
+    const auto hsv = toolkit::hsvOf(color);
+    hue = hsv.hue;
+    saturation = hsv.saturation;
+    brightness = hsv.value;
+    alpha = color.alpha;
     return true;
 }
 
