@@ -7,40 +7,46 @@
 
 namespace brimsound::toolkit {
 
-namespace {
-
-double changesDuration = 0;
-
-} // namespace
+Transition::Changes& Transition::changes()
+{
+    static Changes current;
+    return current;
+}
 
 void View::animate(double seconds, const std::function<void()>& changes, std::function<void()> completion)
 {
-    const double outer = std::exchange(changesDuration, std::max(0.0, seconds));
+    const auto outer = std::exchange(Transition::changes(), { .duration = seconds });
     changes();
-    changesDuration = outer;
+    Transition::changes() = outer;
     if (completion)
         Clock::shared().after(seconds, std::move(completion));
 }
 
 template <typename Value>
-void Transition::change(View& view, std::optional<Movement<Value>> Transition::*property, const Value& shown)
+void Transition::change(
+    View& view, std::optional<Movement<Value>> Transition::*property, const Value& shown, const Value& value)
 {
     auto& transition = view._transition;
-    if (changesDuration <= 0) {
+    const auto [duration, fromValue] = changes();
+    if (duration <= 0) {
         if (transition)
             ((*transition).*property).reset();
         return;
     }
     if (!transition)
         transition = std::make_unique<Transition>(view);
-    ((*transition).*property) = Movement<Value> { shown, shown, 0, changesDuration };
+    const auto& from = fromValue ? value : shown;
+    ((*transition).*property) = Movement<Value> { from, from, 0, duration };
     if (!transition->_animation.isRunning())
         transition->_animation.run([&moving = *transition](double seconds) { return moving.step(seconds); });
 }
 
-template void Transition::change(View&, std::optional<Movement<Rect>> Transition::*, const Rect&);
-template void Transition::change(View&, std::optional<Movement<double>> Transition::*, const double&);
-template void Transition::change(View&, std::optional<Movement<Color>> Transition::*, const Color&);
+template void Transition::change(
+    View&, std::optional<Movement<Rect>> Transition::*, const Rect&, const Rect&);
+template void Transition::change(
+    View&, std::optional<Movement<double>> Transition::*, const double&, const double&);
+template void Transition::change(
+    View&, std::optional<Movement<Color>> Transition::*, const Color&, const Color&);
 
 bool Transition::step(double seconds)
 {

@@ -38,11 +38,26 @@ public:
     {
     }
 
+    /// How changes of views show that are made now.
+    struct Changes {
+        /// In seconds; 0 for changes that show at once.
+        double duration = 0;
+        /// Whether a property that is already moving starts at the value that it was moving to, instead of
+        /// where it shows.
+        bool fromValue = false;
+    };
+    /// For code that cannot make its changes in one call of View::animate.
+    static Changes& changes();
+
     // The property is about to change. Within View::animate it moves from how it shows now to its new value;
     // else it changes at once, wherever it was moving.
-    static void frame(View& view) { change(view, &Transition::_frame, view.shownFrame()); }
-    static void alpha(View& view) { change(view, &Transition::_alpha, view.shownAlpha()); }
-    static void background(View& view) { change(view, &Transition::_background, view.shownBackground()); }
+    static void frame(View& view) { change(view, &Transition::_frame, view.shownFrame(), view.frame()); }
+    static void alpha(View& view) { change(view, &Transition::_alpha, view.shownAlpha(), view.alpha()); }
+    static void background(View& view)
+    {
+        change(
+            view, &Transition::_background, view.shownBackground(), view.background().value_or(transparent));
+    }
 
     bool isMoving() const { return _frame || _alpha || _background; }
     Rect frame(const Rect& target) const { return _frame ? _frame->shown : target; }
@@ -51,7 +66,8 @@ public:
 
 private:
     template <typename Value>
-    static void change(View&, std::optional<Movement<Value>> Transition::*, const Value& shown);
+    static void change(
+        View&, std::optional<Movement<Value>> Transition::*, const Value& shown, const Value& value);
     bool step(double seconds);
 
     View& _view;

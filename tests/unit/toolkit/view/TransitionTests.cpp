@@ -1,8 +1,11 @@
 #include "tests/unit/toolkit/Geometry.h"
 #include "toolkit/time/Clock.h"
+#include "toolkit/view/Transition.h"
 #include "toolkit/window/Window.h"
 
 #include <gmock/gmock.h>
+
+#include <utility>
 
 namespace brimsound::tests {
 
@@ -16,6 +19,7 @@ using toolkit::make;
 using toolkit::makeRect;
 using toolkit::Rect;
 using toolkit::Size;
+using toolkit::Transition;
 using toolkit::View;
 using toolkit::Window;
 
@@ -100,6 +104,19 @@ TEST(AnAnimatedView, ContinuesFromWhereItShowsWhenItIsAnimatedAgain)
     Clock::shared().advance(0.15);
     EXPECT_NE(view->shownFrame(), here);
     Clock::shared().advance(0.1);
+    EXPECT_EQ(view->shownFrame(), here);
+}
+
+TEST(AnAnimatedView, StartsAtItsFormerValueOnRequest)
+{
+    const auto view = make<View>(here);
+    moveIn(0.2, *view, there);
+    Clock::shared().advance(0.1);
+    const auto outer = std::exchange(Transition::changes(), { .duration = 0.2, .fromValue = true });
+    view->setFrame(here);
+    Transition::changes() = outer;
+    EXPECT_EQ(view->shownFrame(), there);
+    Clock::shared().advance(0.21);
     EXPECT_EQ(view->shownFrame(), here);
 }
 
