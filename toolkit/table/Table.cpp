@@ -130,13 +130,14 @@ void Table::makeCells(double distanceBelow)
             return;
         if (!cell)
             continue;
-        cell->setFrame(offset(rect, { 0, distanceBelow }));
+        cell->setFrame(rect);
         cell->setSelected(row == _selectedRow, false);
         _cells.emplace(row, cell);
         _source->willShow(*cell, row);
         if (changes != _changes)
             return;
         add(*cell);
+        cell->setFrame(offset(rect, { 0, distanceBelow }));
     }
 }
 

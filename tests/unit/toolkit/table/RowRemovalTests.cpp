@@ -9,6 +9,7 @@ namespace brimsound::tests {
 
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 using toolkit::Cell;
@@ -73,6 +74,14 @@ TEST_F(RemovingRows, MovesTheRowsInAThirdOfASecond)
     Clock::shared().advance(0.2);
     EXPECT_EQ(below.shownFrame().top(), 132);
     EXPECT_EQ(newcomer.shownFrame().top(), 396);
+}
+
+TEST_F(RemovingRows, TellsItsSourceAboutNewCellsAtTheirPlaces)
+{
+    std::vector<double> tops;
+    rows.onWillShow = [&](const Cell& shown, RowPath) { tops.push_back(shown.frame().top()); };
+    removeRows({ { 1, 1 } });
+    EXPECT_THAT(tops, ElementsAre(396));
 }
 
 TEST_F(RemovingRows, SlidesAndFadesTheRowOutAndReusesItsCell)
