@@ -7,8 +7,7 @@
 
 namespace brimsound::doubles {
 
-/// Restores the state of an app that has just started: no animations, alerts or first responder, and no
-/// programs for URLs.
+/// Restores the state of an app that has just started: no animations, no alerts, and no programs for URLs.
 void resetUIKit();
 
 /// Advances the clock of animations, in seconds.

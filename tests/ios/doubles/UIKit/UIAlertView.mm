@@ -1,6 +1,7 @@
 #include "tests/ios/doubles/Trace.h"
 #include "tests/ios/doubles/UIKit/AlertQueue.h"
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
 
 #include <cstdarg>
 #include <deque>

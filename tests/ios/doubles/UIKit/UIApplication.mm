@@ -2,7 +2,6 @@
 #include "tests/ios/doubles/Trace.h"
 #include "tests/ios/doubles/UIKit/AlertQueue.h"
 #include "tests/ios/doubles/UIKit/Animation.h"
-#include "tests/ios/doubles/UIKit/UIResponderState.h"
 #include "tests/ios/doubles/UIKit/UIWindowState.h"
 
 namespace {
@@ -53,7 +52,6 @@ void resetUIKit()
 {
     resetAnimations();
     dismissAlerts();
-    [currentFirstResponder() resignFirstResponder];
     setSchemesThatOpen(nil);
 }
 

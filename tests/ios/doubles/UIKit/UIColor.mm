@@ -1,18 +1,24 @@
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/UIKit/Color.h"
+
+#include "toolkit/drawing/Hsv.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
-using brimsound::doubles::Components;
+namespace toolkit = brimsound::toolkit;
 
 @implementation UIColor
 
-Components brimsound::doubles::componentsOf(UIColor* color)
+// In here, because the components are not visible elsewhere.
+std::optional<toolkit::Color> brimsound::doubles::toolkitColor(UIColor* color)
 {
-    Components components {};
-    if (color)
-        std::ranges::copy(color->_components, components.begin());
-    return components;
+    if (!color)
+        return std::nullopt;
+    const auto [red, green, blue, alpha] = color->_components;
+    return toolkit::Color { red, green, blue, alpha };
 }
 
 - (instancetype)initWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha
@@ -20,24 +26,17 @@ Components brimsound::doubles::componentsOf(UIColor* color)
     self = [super init];
     // As from iOS 10 on, only the alpha is clamped.
     if (self)
-        std::ranges::copy(Components { red, green, blue, std::clamp(alpha, 0.0, 1.0) }, _components);
+        std::ranges::copy(std::array { red, green, blue, std::clamp(alpha, 0.0, 1.0) }, _components);
     return self;
 }
-
-// Both ways: J. Foley, A. van Dam et al., "Computer Graphics: Principles and Practice", on the HSV model.
 
 - (instancetype)initWithHue:(CGFloat)hue
                  saturation:(CGFloat)saturation
                  brightness:(CGFloat)brightness
                       alpha:(CGFloat)alpha
 {
-    // Each component stands at the brightness for a third of the circle, and goes down and up beside it.
-    const auto component = [&](double peakOfFall) {
-        const double sixth = std::fmod(peakOfFall + 6 * hue, 6);
-        const double below = std::clamp(std::min(sixth, 4 - sixth), 0.0, 1.0);
-        return brightness * (1 - saturation * below);
-    };
-    return [self initWithRed:component(5) green:component(3) blue:component(1) alpha:alpha];
+    const auto color = toolkit::colorOf({ hue, saturation, brightness }, alpha);
+    return [self initWithRed:color.red green:color.green blue:color.blue alpha:color.alpha];
 }
 
 - (instancetype)initWithWhite:(CGFloat)white alpha:(CGFloat)alpha
@@ -104,26 +103,15 @@ Components brimsound::doubles::componentsOf(UIColor* color)
     brightness:(CGFloat*)brightness
          alpha:(CGFloat*)alpha
 {
-    const auto [red, green, blue, opacity] = _components;
     if (!std::ranges::all_of(_components, [](CGFloat component) { return std::isfinite(component); }))
         return NO;
-    const double highest = std::max({ red, green, blue });
-    const double range = highest - std::min({ red, green, blue });
-    double sixths = 0;
-    if (range > 0 && highest == red)
-        sixths = (green - blue) / range;
-    else if (range > 0 && highest == green)
-        sixths = 2 + (blue - red) / range;
-    else if (range > 0)
-        sixths = 4 + (red - green) / range;
-    if (hue)
-        *hue = (sixths < 0 ? sixths + 6 : sixths) / 6;
-    if (saturation)
-        *saturation = highest > 0 ? range / highest : 0;
-    if (brightness)
-        *brightness = highest;
-    if (alpha)
-        *alpha = opacity;
+    const auto hsv = toolkit::hsvOf(*brimsound::doubles::toolkitColor(self));
+    const std::pair<CGFloat*, CGFloat> values[] = { { hue, hsv.hue }, { saturation, hsv.saturation },
+        { brightness, hsv.value }, { alpha, _components[3] } };
+    for (const auto& [place, value] : values) {
+        if (place)
+            *place = value;
+    }
     return YES;
 }
 
@@ -139,15 +127,14 @@ Components brimsound::doubles::componentsOf(UIColor* color)
     return [self retain];
 }
 
-- (BOOL)isEqual:(id)other
-{
-    return [other isKindOfClass:[UIColor class]]
-        && std::ranges::equal(_components, static_cast<UIColor*>(other)->_components);
-}
-
-- (NSUInteger)hash
-{
-    return static_cast<NSUInteger>(255 * (_components[0] + 2 * _components[1] + 4 * _components[2]));
-}
-
 @end
+
+namespace brimsound::doubles {
+
+UIColor* uiColor(const std::optional<toolkit::Color>& color)
+{
+    return color ? [UIColor colorWithRed:color->red green:color->green blue:color->blue alpha:color->alpha]
+                 : nil;
+}
+
+} // namespace brimsound::doubles

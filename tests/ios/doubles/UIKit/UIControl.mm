@@ -1,7 +1,10 @@
-#import <UIKit/UIKit.h>
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/control/Control.h"
 
 #include <algorithm>
 #include <vector>
+
+using brimsound::toolkit::ControlEvent;
 
 namespace {
 
@@ -12,6 +15,15 @@ struct Action {
     UIControlEvents events;
 };
 
+UIControlEvents bit(ControlEvent event)
+{
+    if (event == ControlEvent::ValueChanged)
+        return UIControlEventValueChanged;
+    // The others are in the platform's order, where a repeated touch follows the first.
+    return event == ControlEvent::TouchDown ? UIControlEventTouchDown
+                                            : UIControlEventTouchDown << (static_cast<unsigned>(event) + 1);
+}
+
 } // namespace
 
 struct UIControlState {
@@ -20,11 +32,14 @@ struct UIControlState {
 
 @implementation UIControl
 
-- (instancetype)initWithFrame:(CGRect)frame
+- (instancetype)initWithNative:(brimsound::toolkit::View*)native
 {
-    self = [super initWithFrame:frame];
-    if (self)
+    self = [super initWithNative:native];
+    if (self) {
         _controlState = new UIControlState;
+        static_cast<brimsound::toolkit::Control*>(native)->onEvent
+            = [self](ControlEvent event) { [self sendActionsForControlEvents:bit(event)]; };
+    }
     return self;
 }
 
@@ -47,7 +62,7 @@ struct UIControlState {
 
 - (void)sendActionsForControlEvents:(UIControlEvents)controlEvents
 {
-    // An action may let go of the control, and add targets to it.
+    // An action may release the control, and add targets to it.
     [self retain];
     const auto actions = _controlState->actions;
     for (const auto& action : actions) {

@@ -1,4 +1,6 @@
-#import <UIKit/UIKit.h>
+#include "tests/ios/doubles/UIKit/Font.h"
+
+#include "tests/ios/doubles/UIKit/Text.h"
 
 namespace {
 
@@ -15,6 +17,9 @@ bool isInstalled(NSString* name)
 } // namespace
 
 @implementation UIFont
+
+@synthesize fontName = _fontName;
+@synthesize pointSize = _pointSize;
 
 + (UIFont*)systemFontOfSize:(CGFloat)size
 {
@@ -42,16 +47,6 @@ bool isInstalled(NSString* name)
     return [UIFont fontWithName:_fontName size:size];
 }
 
-- (NSString*)fontName
-{
-    return _fontName;
-}
-
-- (CGFloat)pointSize
-{
-    return _pointSize;
-}
-
 - (id)copyWithZone:(NSZone*)zone
 {
     // It never changes.
@@ -59,3 +54,20 @@ bool isInstalled(NSString* name)
 }
 
 @end
+
+namespace brimsound::doubles {
+
+std::optional<toolkit::Font> toolkitFont(UIFont* font)
+{
+    return font ? std::optional(toolkit::Font { textOf([font fontName]), [font pointSize] }) : std::nullopt;
+}
+
+UIFont* uiFont(const std::optional<toolkit::Font>& font)
+{
+    if (!font)
+        return nil;
+    return font->name.empty() ? [UIFont systemFontOfSize:font->size]
+                              : [UIFont fontWithName:nsString(font->name) size:font->size];
+}
+
+} // namespace brimsound::doubles

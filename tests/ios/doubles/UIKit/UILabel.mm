@@ -1,5 +1,5 @@
+#include "tests/ios/doubles/UIKit/Assign.h"
 #include "tests/ios/doubles/UIKit/UITableViewCellState.h"
-#include "tests/ios/doubles/UIKit/UIViewState.h"
 
 using brimsound::doubles::assignCopied;
 using brimsound::doubles::assignRetained;

@@ -1,22 +1,7 @@
-#include "tests/ios/doubles/UIKit/UIResponderState.h"
-
 #import <UIKit/UIKit.h>
 
-namespace {
-
-/// Who has the keyboard. Not retained.
-UIResponder* firstResponder = nil;
-
-} // namespace
-
+/// Only views can take the keyboard here.
 @implementation UIResponder
-
-- (void)dealloc
-{
-    if (firstResponder == self)
-        firstResponder = nil;
-    [super dealloc];
-}
 
 - (BOOL)canBecomeFirstResponder
 {
@@ -25,33 +10,17 @@ UIResponder* firstResponder = nil;
 
 - (BOOL)becomeFirstResponder
 {
-    if (firstResponder == self)
-        return YES;
-    if (![self canBecomeFirstResponder] || (firstResponder && ![firstResponder resignFirstResponder]))
-        return NO;
-    firstResponder = self;
-    return YES;
+    return NO;
 }
 
 - (BOOL)resignFirstResponder
 {
-    if (firstResponder == self)
-        firstResponder = nil;
     return YES;
 }
 
 - (BOOL)isFirstResponder
 {
-    return firstResponder == self;
+    return NO;
 }
 
 @end
-
-namespace brimsound::doubles {
-
-UIResponder* currentFirstResponder()
-{
-    return firstResponder;
-}
-
-} // namespace brimsound::doubles

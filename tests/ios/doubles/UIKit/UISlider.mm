@@ -1,80 +1,70 @@
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/UIKit/Color.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/control/Slider.h"
 
-#include <algorithm>
-#include <cmath>
+using namespace brimsound;
 
-struct UISliderState {
-    float value = 0;
-    float minimum = 0;
-    float maximum = 1;
-    UIColor* minimumTrackTintColor = nil;
-};
+namespace {
+
+toolkit::Slider& native(UISlider* slider)
+{
+    return doubles::nativeOf<toolkit::Slider>(slider);
+}
+
+} // namespace
 
 @implementation UISlider
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [super initWithFrame:frame];
-    if (self)
-        _sliderState = new UISliderState;
-    return self;
-}
-
-- (void)dealloc
-{
-    [_sliderState->minimumTrackTintColor release];
-    delete _sliderState;
-    [super dealloc];
+    auto* const slider = new doubles::Hosted<toolkit::Slider>;
+    slider->setFrame(doubles::toolkitRect(frame));
+    return [self initWithNative:slider];
 }
 
 - (float)value
 {
-    return _sliderState->value;
+    return native(self).value();
 }
 
 - (void)setValue:(float)value
 {
-    if (!std::isnan(value))
-        _sliderState->value = std::clamp(value, _sliderState->minimum, _sliderState->maximum);
+    native(self).setValue(value);
 }
 
 - (float)minimumValue
 {
-    return _sliderState->minimum;
+    return native(self).minimum();
 }
 
 - (void)setMinimumValue:(float)minimum
 {
-    _sliderState->minimum = minimum;
-    _sliderState->maximum = std::max(_sliderState->maximum, minimum);
-    [self setValue:_sliderState->value];
+    native(self).setMinimum(minimum);
 }
 
 - (float)maximumValue
 {
-    return _sliderState->maximum;
+    return native(self).maximum();
 }
 
 - (void)setMaximumValue:(float)maximum
 {
-    _sliderState->maximum = maximum;
-    _sliderState->minimum = std::min(_sliderState->minimum, maximum);
-    [self setValue:_sliderState->value];
+    native(self).setMaximum(maximum);
 }
 
 - (UIColor*)minimumTrackTintColor
 {
-    return _sliderState->minimumTrackTintColor;
+    return doubles::uiColor(native(self).tint());
 }
 
 - (void)setMinimumTrackTintColor:(UIColor*)color
 {
-    brimsound::doubles::assignRetained(_sliderState->minimumTrackTintColor, color);
+    native(self).setTint(doubles::toolkitColor(color));
 }
 
 - (UIImage*)currentThumbImage
 {
-    // The standard thumb is drawn without an image to hand out.
+    // The platform draws the standard thumb without an image.
     return nil;
 }
 

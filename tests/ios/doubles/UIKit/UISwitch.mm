@@ -1,17 +1,31 @@
 #include "tests/ios/doubles/Doubles.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/control/Switch.h"
+
+using namespace brimsound;
+
+namespace {
+
+toolkit::Switch& native(UISwitch* control)
+{
+    return doubles::nativeOf<toolkit::Switch>(control);
+}
+
+} // namespace
 
 @implementation UISwitch
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
+    auto* const control = new doubles::Hosted<toolkit::Switch>;
     // The size is the platform's own.
-    frame.size = CGSizeMake(51, 31);
-    return [super initWithFrame:frame];
+    control->setFrame({ doubles::toolkitRect(frame).origin, control->frame().size });
+    return [self initWithNative:control];
 }
 
 - (BOOL)isOn
 {
-    return _on;
+    return native(self).isOn();
 }
 
 - (void)setOn:(BOOL)on
@@ -21,7 +35,7 @@
 
 - (void)setOn:(BOOL)on animated:(BOOL)animated
 {
-    _on = on;
+    native(self).setOn(on, animated);
 }
 
 @end
@@ -30,8 +44,9 @@ namespace brimsound::doubles {
 
 void flip(UISwitch* control)
 {
-    [control setOn:![control isOn] animated:YES];
-    [control sendActionsForControlEvents:UIControlEventValueChanged];
+    const toolkit::Touch touch { native(control).toWindow(native(control).bounds().middle()) };
+    native(control).touchBegan(touch);
+    native(control).touchEnded(touch);
 }
 
 } // namespace brimsound::doubles

@@ -1,4 +1,5 @@
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
 
 #include <algorithm>
 #include <compare>

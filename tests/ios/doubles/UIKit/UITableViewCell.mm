@@ -1,5 +1,6 @@
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
 #include "tests/ios/doubles/UIKit/UITableViewCellState.h"
-#include "tests/ios/doubles/UIKit/UIViewState.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +38,7 @@ void setContentsHighlighted(UIView* view, BOOL highlighted)
         [static_cast<UILabel*>(view) setHighlighted:highlighted];
     else if ([view isKindOfClass:[UIImageView class]])
         [static_cast<UIImageView*>(view) setHighlighted:highlighted];
-    for (UIView* subview : brimsound::doubles::stateOf(view).subviews)
+    for (UIView* subview in [view subviews])
         setContentsHighlighted(subview, highlighted);
 }
 

@@ -1,130 +1,93 @@
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/Doubles.h"
+#include "tests/ios/doubles/UIKit/Color.h"
+#include "tests/ios/doubles/UIKit/Font.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "tests/ios/doubles/UIKit/Text.h"
+#include "toolkit/text/TextField.h"
 
-using brimsound::doubles::assignCopied;
-using brimsound::doubles::assignRetained;
+using namespace brimsound;
 
-struct UITextFieldState {
-    NSString* text = @"";
-    UIFont* font = [[UIFont systemFontOfSize:17] retain];
-    UIColor* textColor = [[UIColor blackColor] retain];
-    /// Not retained.
-    id<UITextFieldDelegate> delegate = nil;
-    UIKeyboardAppearance keyboardAppearance = UIKeyboardAppearanceDefault;
-    UIReturnKeyType returnKeyType = UIReturnKeyDefault;
-    UITextAutocapitalizationType autocapitalizationType = UITextAutocapitalizationTypeSentences;
+namespace {
+
+/// A field that tells its UITextField when typing begins and ends.
+class Field : public doubles::Hosted<toolkit::TextField> {
+public:
+    using Hosted::Hosted;
+
+private:
+    void keyboardChanged() override
+    {
+        Hosted::keyboardChanged();
+        auto* const field = static_cast<UITextField*>(doubles::existingViewOf(*this));
+        [field sendActionsForControlEvents:hasKeyboard() ? UIControlEventEditingDidBegin
+                                                         : UIControlEventEditingDidEnd];
+    }
 };
+
+toolkit::TextField& native(UITextField* field)
+{
+    return doubles::nativeOf<toolkit::TextField>(field);
+}
+
+} // namespace
 
 @implementation UITextField
 
+@synthesize delegate = _delegate;
+@synthesize keyboardAppearance = _keyboardAppearance;
+@synthesize returnKeyType = _returnKeyType;
+@synthesize autocapitalizationType = _autocapitalizationType;
+
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [super initWithFrame:frame];
-    if (self)
-        _textFieldState = new UITextFieldState;
+    self = [self initWithNative:new Field(doubles::toolkitRect(frame))];
+    if (self) {
+        native(self).onReturn = [self] { [self returnPressed]; };
+        _autocapitalizationType = UITextAutocapitalizationTypeSentences;
+    }
     return self;
 }
 
-- (void)dealloc
+- (void)returnPressed
 {
-    [_textFieldState->text release];
-    [_textFieldState->font release];
-    [_textFieldState->textColor release];
-    delete _textFieldState;
-    [super dealloc];
+    if (![_delegate respondsToSelector:@selector(textFieldShouldReturn:)] ||
+        [_delegate textFieldShouldReturn:self])
+        [self sendActionsForControlEvents:UIControlEventEditingDidEndOnExit];
 }
 
 - (NSString*)text
 {
-    return _textFieldState->text;
+    return doubles::nsString(native(self).text());
 }
 
 - (void)setText:(NSString*)text
 {
-    assignCopied(_textFieldState->text, text ? text : @"");
+    native(self).setText(doubles::textOf(text));
 }
 
 - (UIFont*)font
 {
-    return _textFieldState->font;
+    return doubles::uiFont(native(self).font());
 }
 
 - (void)setFont:(UIFont*)font
 {
-    assignRetained(_textFieldState->font, font);
+    native(self).setFont(doubles::toolkitFont(font));
 }
 
 - (UIColor*)textColor
 {
-    return _textFieldState->textColor;
+    return doubles::uiColor(native(self).color());
 }
 
 - (void)setTextColor:(UIColor*)color
 {
-    assignRetained(_textFieldState->textColor, color ? color : [UIColor blackColor]);
-}
-
-- (id<UITextFieldDelegate>)delegate
-{
-    return _textFieldState->delegate;
-}
-
-- (void)setDelegate:(id<UITextFieldDelegate>)delegate
-{
-    _textFieldState->delegate = delegate;
-}
-
-- (UIKeyboardAppearance)keyboardAppearance
-{
-    return _textFieldState->keyboardAppearance;
-}
-
-- (void)setKeyboardAppearance:(UIKeyboardAppearance)appearance
-{
-    _textFieldState->keyboardAppearance = appearance;
-}
-
-- (UIReturnKeyType)returnKeyType
-{
-    return _textFieldState->returnKeyType;
-}
-
-- (void)setReturnKeyType:(UIReturnKeyType)type
-{
-    _textFieldState->returnKeyType = type;
-}
-
-- (UITextAutocapitalizationType)autocapitalizationType
-{
-    return _textFieldState->autocapitalizationType;
-}
-
-- (void)setAutocapitalizationType:(UITextAutocapitalizationType)type
-{
-    _textFieldState->autocapitalizationType = type;
+    native(self).setColor(doubles::toolkitColor(color).value_or(toolkit::Color {}));
 }
 
 - (BOOL)canBecomeFirstResponder
 {
     return YES;
-}
-
-- (BOOL)becomeFirstResponder
-{
-    if ([self isFirstResponder])
-        return YES;
-    if (![super becomeFirstResponder])
-        return NO;
-    [self sendActionsForControlEvents:UIControlEventEditingDidBegin];
-    return YES;
-}
-
-- (BOOL)resignFirstResponder
-{
-    const BOOL wasFirstResponder = [self isFirstResponder];
-    const BOOL resigned = [super resignFirstResponder];
-    if (wasFirstResponder && resigned)
-        [self sendActionsForControlEvents:UIControlEventEditingDidEnd];
-    return resigned;
 }
 
 @end
@@ -134,19 +97,13 @@ namespace brimsound::doubles {
 void type(UITextField* field, NSString* text)
 {
     [field becomeFirstResponder];
-    [field setText:[[field text] stringByAppendingString:text]];
+    native(field).type(textOf(text));
     [field sendActionsForControlEvents:UIControlEventEditingChanged];
 }
 
 void pressReturn(UITextField* field)
 {
-    // The delegate may let go of the field.
-    [field retain];
-    id delegate = [field delegate];
-    if (![delegate respondsToSelector:@selector(textFieldShouldReturn:)] ||
-        [delegate textFieldShouldReturn:field])
-        [field sendActionsForControlEvents:UIControlEventEditingDidEndOnExit];
-    [field release];
+    native(field).confirm();
 }
 
 } // namespace brimsound::doubles

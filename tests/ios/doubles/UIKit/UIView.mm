@@ -1,76 +1,52 @@
-#include "tests/ios/doubles/UIKit/UIResponderState.h"
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/Color.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "tests/ios/doubles/UIKit/Text.h"
+#include "toolkit/image/ImageView.h"
+#include "toolkit/text/Label.h"
+#include "toolkit/window/Window.h"
 
 #import <QuartzCore/QuartzCore.h>
 
-#include <algorithm>
 #include <cmath>
-#include <utility>
 
-using brimsound::doubles::assignCopied;
-using brimsound::doubles::componentsOf;
-using brimsound::doubles::stateOf;
-using brimsound::doubles::willChange;
+using namespace brimsound;
+using doubles::nativeView;
+using doubles::viewOf;
 
 namespace {
 
+/// The only trait that is kept.
+constexpr UIAccessibilityTraits selected = 1 << 3;
+
 /// A layer is placed by its middle.
-void refuseWhatIsNoNumber(CGRect frame)
+void refuseNaN(const toolkit::Rect& frame)
 {
-    const CGFloat x = frame.origin.x + frame.size.width / 2;
-    const CGFloat y = frame.origin.y + frame.size.height / 2;
+    const auto [x, y] = frame.middle();
     if (std::isnan(x) || std::isnan(y))
         [NSException raise:@"CALayerInvalidGeometry" format:@"CALayer position contains NaN: [%f %f]", x, y];
-}
-
-void layOutTree(UIView* view)
-{
-    if (std::exchange(stateOf(view).needsLayout, false)) {
-        [view layoutSubviews];
-        [stateOf(view).controller viewDidLayoutSubviews];
-    }
-    // Laying out a view may add and remove others.
-    const auto subviews = stateOf(view).subviews;
-    for (UIView* subview : subviews)
-        [subview retain];
-    for (UIView* subview : subviews) {
-        if ([subview superview] == view)
-            layOutTree(subview);
-        [subview release];
-    }
-}
-
-/// Has the subviews follow a change of their superview's size.
-void resizeSubviews(UIView* view, CGSize before, CGSize after)
-{
-    for (UIView* subview in [view subviews]) {
-        const UIViewAutoresizing mask = [subview autoresizingMask];
-        if (mask == UIViewAutoresizingNone)
-            continue;
-        CGRect frame = [subview frame];
-        if (mask & UIViewAutoresizingFlexibleWidth)
-            frame.size.width += after.width - before.width;
-        if (mask & UIViewAutoresizingFlexibleHeight)
-            frame.size.height += after.height - before.height;
-        [subview setFrame:frame];
-    }
-}
-
-void resignWithin(UIView* view)
-{
-    UIResponder* responder = brimsound::doubles::currentFirstResponder();
-    if ([responder isKindOfClass:[UIView class]] && [static_cast<UIView*>(responder) isDescendantOfView:view])
-        [responder resignFirstResponder];
 }
 
 } // namespace
 
 @implementation UIView
 
-// Here, as others do not see where the state is kept.
-UIViewState& brimsound::doubles::stateOf(UIView* view)
+// In here, because the variables are not visible elsewhere.
+
+toolkit::View& doubles::nativeView(UIView* view)
 {
-    return *view->_viewState;
+    return *static_cast<toolkit::View*>(view->_native);
+}
+
+UIViewController* doubles::controllerOf(UIView* view)
+{
+    return view ? view->_controller : nil;
+}
+
+void doubles::setController(UIView* view, UIViewController* controller)
+{
+    if (view)
+        view->_controller = controller;
 }
 
 - (instancetype)init
@@ -80,259 +56,235 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
+    const auto rect = doubles::toolkitRect(frame);
+    refuseNaN(rect);
+    return [self initWithNative:new doubles::Hosted<toolkit::View>(rect)];
+}
+
+- (instancetype)initWithNative:(toolkit::View*)native
+{
     self = [super init];
     if (self) {
-        refuseWhatIsNoNumber(frame);
-        _viewState = new UIViewState;
-        _viewState->frame = frame;
+        _native = native;
+        native->setCounterpart(self, [](void* view) { [static_cast<UIView*>(view) dealloc]; });
     }
     return self;
 }
 
 - (void)dealloc
 {
-    for (UIView* subview : _viewState->subviews) {
-        resignWithin(subview);
-        stateOf(subview).superview = nil;
-        [subview release];
-    }
-    [_viewState->backgroundColor release];
-    [_viewState->layer release];
-    [_viewState->accessibilityLabel release];
-    [_viewState->accessibilityValue release];
-    delete _viewState;
+    [_backgroundColor release];
+    [_layer release];
     [super dealloc];
+}
+
+- (instancetype)retain
+{
+    nativeView(self).retain();
+    return self;
+}
+
+- (oneway void)release
+{
+    nativeView(self).release();
+}
+
+- (NSUInteger)retainCount
+{
+    return nativeView(self).retainCount();
 }
 
 - (CGRect)frame
 {
-    return _viewState->frame;
+    return doubles::cgRect(nativeView(self).frame());
 }
 
 - (void)setFrame:(CGRect)frame
 {
-    const auto former = _viewState->frame;
-    if (NSEqualRects(former, frame))
-        return;
-    refuseWhatIsNoNumber(frame);
-    willChange(_viewState->animation.frame, former);
-    _viewState->frame = frame;
-    if (!NSEqualSizes(former.size, frame.size)) {
-        [self setNeedsLayout];
-        resizeSubviews(self, former.size, frame.size);
-    }
+    const auto rect = doubles::toolkitRect(frame);
+    refuseNaN(rect);
+    nativeView(self).View::setFrame(rect);
 }
 
 - (CGRect)bounds
 {
-    CGRect bounds;
-    bounds.origin = _viewState->boundsOrigin;
-    bounds.size = _viewState->frame.size;
-    return bounds;
+    return doubles::cgRect(nativeView(self).bounds());
 }
 
 - (void)setBounds:(CGRect)bounds
 {
-    if (!NSEqualPoints(bounds.origin, _viewState->boundsOrigin)) {
-        _viewState->boundsOrigin = bounds.origin;
-        [self setNeedsLayout];
-    }
-    const auto former = _viewState->frame;
-    if (NSEqualSizes(bounds.size, former.size))
-        return;
+    auto& native = nativeView(self);
+    const auto [origin, size] = doubles::toolkitRect(bounds);
+    native.setOrigin(origin);
     // The middle stays where it is.
-    const auto frame = CGRectMake(former.origin.x + (former.size.width - bounds.size.width) / 2,
-        former.origin.y + (former.size.height - bounds.size.height) / 2, bounds.size.width,
-        bounds.size.height);
-    refuseWhatIsNoNumber(frame);
-    willChange(_viewState->animation.frame, former);
-    _viewState->frame = frame;
-    [self setNeedsLayout];
-    resizeSubviews(self, former.size, frame.size);
+    const auto former = native.frame();
+    const auto frame = toolkit::inset(
+        former, (former.size.width - size.width) / 2, (former.size.height - size.height) / 2);
+    refuseNaN(frame);
+    native.View::setFrame({ frame.origin, size });
 }
 
 - (UIViewAutoresizing)autoresizingMask
 {
-    return _viewState->autoresizingMask;
+    const auto& native = nativeView(self);
+    return (native.followsWidth() ? UIViewAutoresizingFlexibleWidth : UIViewAutoresizingNone)
+        | (native.followsHeight() ? UIViewAutoresizingFlexibleHeight : UIViewAutoresizingNone);
 }
 
 - (void)setAutoresizingMask:(UIViewAutoresizing)mask
 {
-    _viewState->autoresizingMask = mask;
+    nativeView(self).setFollowsParent(
+        mask & UIViewAutoresizingFlexibleWidth, mask & UIViewAutoresizingFlexibleHeight);
 }
 
 - (UIView*)superview
 {
-    return _viewState->superview;
+    return viewOf(nativeView(self).parent());
 }
 
 - (NSArray*)subviews
 {
-    return [NSArray arrayWithObjects:_viewState->subviews.data() count:_viewState->subviews.size()];
+    NSMutableArray* const views = [NSMutableArray array];
+    for (const auto& child : nativeView(self).children())
+        [views addObject:viewOf(child.get())];
+    return views;
 }
 
 - (UIWindow*)window
 {
-    UIView* view = self;
-    while (view && ![view isKindOfClass:[UIWindow class]])
-        view = [view superview];
-    return static_cast<UIWindow*>(view);
+    return static_cast<UIWindow*>(viewOf(nativeView(self).window()));
 }
 
 - (void)addSubview:(UIView*)view
 {
-    if (!view)
-        return;
-    [view retain];
-    [view removeFromSuperview];
-    _viewState->subviews.push_back(view);
-    stateOf(view).superview = self;
-    [self setNeedsLayout];
+    if (view)
+        nativeView(self).add(nativeView(view));
 }
 
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index
 {
-    [self addSubview:view];
-    auto& subviews = _viewState->subviews;
-    if (view && static_cast<std::size_t>(index) < subviews.size())
-        std::rotate(subviews.begin() + index, subviews.end() - 1, subviews.end());
+    if (view)
+        nativeView(self).insert(nativeView(view), static_cast<std::size_t>(index));
 }
 
 - (void)removeFromSuperview
 {
-    if (!_viewState->superview)
-        return;
-    resignWithin(self);
-    auto& formerState = stateOf(std::exchange(_viewState->superview, nil));
-    std::erase(formerState.subviews, self);
-    formerState.needsLayout = true;
-    [self release];
-}
-
-- (BOOL)isDescendantOfView:(UIView*)ancestor
-{
-    UIView* view = self;
-    while (view && view != ancestor)
-        view = [view superview];
-    return view != nil;
+    nativeView(self).removeFromParent();
 }
 
 - (void)setNeedsLayout
 {
-    _viewState->needsLayout = true;
+    nativeView(self).setNeedsLayout();
 }
 
 - (void)layoutIfNeeded
 {
-    layOutTree(self);
+    nativeView(self).layOutIfNeeded();
 }
 
 - (void)layoutSubviews
 {
+    // The views that the toolkit made for itself have nothing to lay out.
+    if (auto* hosted = dynamic_cast<doubles::HostedView*>(&nativeView(self)))
+        hosted->layOutItself();
 }
 
 - (UIColor*)backgroundColor
 {
-    return _viewState->backgroundColor;
+    return _backgroundColor ? _backgroundColor : doubles::uiColor(nativeView(self).background());
 }
 
 - (void)setBackgroundColor:(UIColor*)color
 {
-    const auto former = componentsOf(_viewState->backgroundColor);
-    if (componentsOf(color) != former)
-        willChange(_viewState->animation.background, former);
-    assignCopied(_viewState->backgroundColor, color);
+    nativeView(self).setBackground(doubles::toolkitColor(color));
+    doubles::assignCopied(_backgroundColor, color);
 }
 
 - (CGFloat)alpha
 {
-    return _viewState->alpha;
+    return nativeView(self).alpha();
 }
 
 - (void)setAlpha:(CGFloat)alpha
 {
-    alpha = std::clamp(alpha, 0.0, 1.0);
-    if (alpha == _viewState->alpha)
-        return;
-    willChange(_viewState->animation.alpha, _viewState->alpha);
-    _viewState->alpha = alpha;
+    nativeView(self).setAlpha(alpha);
 }
 
 - (BOOL)isHidden
 {
-    return _viewState->isHidden;
+    return nativeView(self).isHidden();
 }
 
 - (void)setHidden:(BOOL)hidden
 {
-    _viewState->isHidden = hidden;
+    nativeView(self).setHidden(hidden);
 }
 
 - (BOOL)clipsToBounds
 {
-    return _viewState->clipsToBounds;
+    return nativeView(self).clips();
 }
 
 - (void)setClipsToBounds:(BOOL)clips
 {
-    _viewState->clipsToBounds = clips;
+    nativeView(self).setClips(clips);
 }
 
 - (BOOL)isUserInteractionEnabled
 {
-    return _viewState->isUserInteractionEnabled;
+    return nativeView(self).isInteractive();
 }
 
 - (void)setUserInteractionEnabled:(BOOL)enabled
 {
-    _viewState->isUserInteractionEnabled = enabled;
+    nativeView(self).setInteractive(enabled);
 }
 
 - (CALayer*)layer
 {
-    if (!_viewState->layer)
-        _viewState->layer = [[CALayer alloc] init];
-    return _viewState->layer;
+    if (!_layer)
+        _layer = [[CALayer alloc] init];
+    return _layer;
 }
 
 - (NSInteger)tag
 {
-    return _viewState->tag;
+    return nativeView(self).tag();
 }
 
 - (void)setTag:(NSInteger)tag
 {
-    _viewState->tag = tag;
+    nativeView(self).setTag(tag);
+}
+
+- (UIView*)viewWithTag:(NSInteger)tag
+{
+    return viewOf(nativeView(self).withTag(tag));
 }
 
 - (NSString*)accessibilityLabel
 {
-    return _viewState->accessibilityLabel;
+    return doubles::textOrNil(nativeView(self).label());
 }
 
 - (void)setAccessibilityLabel:(NSString*)label
 {
-    assignCopied(_viewState->accessibilityLabel, label);
+    nativeView(self).setLabel(doubles::textOf(label));
 }
 
 - (BOOL)isAccessibilityElement
 {
-    return _viewState->isAccessibilityElement;
+    return nativeView(self).isRead();
 }
 
 - (void)setIsAccessibilityElement:(BOOL)isElement
 {
-    _viewState->isAccessibilityElement = isElement;
+    nativeView(self).setRead(isElement);
 }
 
 - (NSString*)accessibilityValue
 {
-    return _viewState->accessibilityValue;
-}
-
-- (void)setAccessibilityValue:(NSString*)value
-{
-    assignCopied(_viewState->accessibilityValue, value);
+    return nil;
 }
 
 - (void)accessibilityIncrement
@@ -345,50 +297,51 @@ UIViewState& brimsound::doubles::stateOf(UIView* view)
 
 - (UIAccessibilityTraits)accessibilityTraits
 {
-    return _viewState->accessibilityTraits;
+    return nativeView(self).isChosen() ? selected : 0;
 }
 
 - (void)setAccessibilityTraits:(UIAccessibilityTraits)traits
 {
-    _viewState->accessibilityTraits = traits;
-}
-
-- (UIView*)viewWithTag:(NSInteger)tag
-{
-    if (_viewState->tag == tag)
-        return self;
-    for (UIView* subview : _viewState->subviews) {
-        if (UIView* found = [subview viewWithTag:tag])
-            return found;
-    }
-    return nil;
+    nativeView(self).setChosen(traits & selected);
 }
 
 - (BOOL)becomeFirstResponder
 {
-    return [self window] && [super becomeFirstResponder];
+    auto* const window = nativeView(self).window();
+    if (!window || ![self canBecomeFirstResponder])
+        return NO;
+    window->focus().giveTo(nativeView(self));
+    return YES;
+}
+
+- (BOOL)resignFirstResponder
+{
+    if ([self isFirstResponder])
+        nativeView(self).window()->focus().takeFrom(nativeView(self));
+    return YES;
+}
+
+- (BOOL)isFirstResponder
+{
+    const auto* const window = nativeView(self).window();
+    return window && [self canBecomeFirstResponder] && window->focus().isGivenTo(nativeView(self));
 }
 
 @end
 
 namespace brimsound::doubles {
 
-CGRect shownFrame(UIView* view)
+UIView* viewOf(toolkit::View* native)
 {
-    const auto& state = stateOf(view);
-    return shown(state.animation.frame, state.frame);
-}
-
-Components shownBackground(UIView* view)
-{
-    const auto& state = stateOf(view);
-    return shown(state.animation.background, componentsOf(state.backgroundColor));
-}
-
-CGFloat shownAlpha(UIView* view)
-{
-    const auto& state = stateOf(view);
-    return shown(state.animation.alpha, state.alpha);
+    if (!native)
+        return nil;
+    if (UIView* existing = existingViewOf(*native))
+        return existing;
+    if (dynamic_cast<toolkit::Label*>(native))
+        return [[UILabel alloc] initWithNative:native];
+    if (dynamic_cast<toolkit::ImageView*>(native))
+        return [[UIImageView alloc] initWithNative:native];
+    return [[UIView alloc] initWithNative:native];
 }
 
 } // namespace brimsound::doubles

@@ -1,7 +1,8 @@
-#include "tests/ios/doubles/UIKit/Animation.h"
-#include "tests/ios/doubles/UIKit/Block.h"
-#include "tests/ios/doubles/UIKit/UIViewState.h"
+#include "tests/ios/doubles/Doubles.h"
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
 #include "tests/ios/doubles/UIKit/UIWindowState.h"
+#include "toolkit/time/Animation.h"
 
 struct UIViewControllerState {
     UIView* view = nil;
@@ -13,20 +14,23 @@ struct UIViewControllerState {
 
 namespace {
 
-/// When the sheet that was presented or dismissed last has arrived, on the clock, in seconds.
-double sheetArrival = 0;
+/// Runs while the sheet that was presented or dismissed last is on its way.
+brimsound::toolkit::Animation sheetMovement;
 
 void sheetMoves(bool animated)
 {
     constexpr double sheetTime = 0.5;
-    sheetArrival = animated ? brimsound::doubles::currentTime() + sheetTime : 0;
+    if (animated)
+        sheetMovement.wait(sheetTime, [] {});
+    else
+        sheetMovement.cancel();
 }
 
 } // namespace
 
 bool brimsound::doubles::isSheetMoving()
 {
-    return currentTime() < sheetArrival;
+    return sheetMovement.isRunning();
 }
 
 @implementation UIViewController
@@ -47,8 +51,7 @@ bool brimsound::doubles::isSheetMoving()
             [[presented view] removeFromSuperview];
         [presented release];
     }
-    if (_viewControllerState->view)
-        brimsound::doubles::stateOf(_viewControllerState->view).controller = nil;
+    brimsound::doubles::setController(_viewControllerState->view, nil);
     [_viewControllerState->view release];
     delete _viewControllerState;
     [super dealloc];
@@ -65,11 +68,9 @@ bool brimsound::doubles::isSheetMoving()
 
 - (void)setView:(UIView*)view
 {
-    if (_viewControllerState->view)
-        brimsound::doubles::stateOf(_viewControllerState->view).controller = nil;
+    brimsound::doubles::setController(_viewControllerState->view, nil);
     brimsound::doubles::assignRetained(_viewControllerState->view, view);
-    if (view)
-        brimsound::doubles::stateOf(view).controller = self;
+    brimsound::doubles::setController(view, self);
 }
 
 - (BOOL)isViewLoaded
@@ -115,7 +116,6 @@ bool brimsound::doubles::isSheetMoving()
     UIWindow* const window = brimsound::doubles::currentKeyWindow();
     [[viewController view] setFrame:[window bounds]];
     [window addSubview:[viewController view]];
-    brimsound::doubles::callBlock(completion);
 }
 
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(id)completion
@@ -130,7 +130,6 @@ bool brimsound::doubles::isSheetMoving()
     presented->_viewControllerState->presenting = nil;
     [[presented view] removeFromSuperview];
     sheetMoves(animated);
-    brimsound::doubles::callBlock(completion);
     [presented release];
 }
 

@@ -1,10 +1,8 @@
 #include "tests/ios/doubles/UIKit/UIWindowState.h"
 
-#import <UIKit/UIKit.h>
-
-struct UIWindowState {
-    UIViewController* rootViewController = nil;
-};
+#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/window/Window.h"
 
 namespace {
 
@@ -17,43 +15,39 @@ UIWindow* keyWindow = nil;
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [super initWithFrame:frame];
-    if (self)
-        _windowState = new UIWindowState;
-    return self;
+    const auto [origin, size] = brimsound::doubles::toolkitRect(frame);
+    auto* const native = new brimsound::doubles::Hosted<brimsound::toolkit::Window>(size);
+    native->View::setFrame({ origin, size });
+    return [self initWithNative:native];
 }
 
 - (void)dealloc
 {
     if (keyWindow == self)
         keyWindow = nil;
-    [_windowState->rootViewController release];
-    delete _windowState;
+    [_rootViewController release];
     [super dealloc];
 }
 
 - (UIViewController*)rootViewController
 {
-    return _windowState->rootViewController;
+    return _rootViewController;
 }
 
 - (void)setRootViewController:(UIViewController*)controller
 {
-    if (controller == _windowState->rootViewController)
+    if (controller == _rootViewController)
         return;
-    UIViewController* const former = _windowState->rootViewController;
-    if ([former isViewLoaded])
-        [[former view] removeFromSuperview];
-    _windowState->rootViewController = [controller retain];
-    [former release];
-    if (controller)
-        [self insertSubview:[controller view] atIndex:0];
+    if ([_rootViewController isViewLoaded])
+        [[_rootViewController view] removeFromSuperview];
+    brimsound::doubles::assignRetained(_rootViewController, controller);
+    [self insertSubview:[controller view] atIndex:0];
     [self setNeedsLayout];
 }
 
 - (void)layoutSubviews
 {
-    [[_windowState->rootViewController view] setFrame:[self bounds]];
+    [[_rootViewController view] setFrame:[self bounds]];
 }
 
 - (void)makeKeyAndVisible

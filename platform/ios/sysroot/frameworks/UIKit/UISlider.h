@@ -6,11 +6,6 @@
 @class UIImage;
 
 @interface UISlider : UIControl
-#if defined(GNUSTEP)
-{
-    struct UISliderState* _sliderState;
-}
-#endif
 
 @property (nonatomic) float value;
 @property (nonatomic) float minimumValue;

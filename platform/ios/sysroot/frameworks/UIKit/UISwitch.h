@@ -3,11 +3,6 @@
 #import <UIKit/UIControl.h>
 
 @interface UISwitch : UIControl
-#if defined(GNUSTEP)
-{
-    BOOL _on;
-}
-#endif
 
 @property (nonatomic, getter=isOn) BOOL on;
 - (void)setOn:(BOOL)on animated:(BOOL)animated;

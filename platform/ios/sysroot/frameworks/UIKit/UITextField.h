@@ -32,7 +32,10 @@ typedef enum UITextAutocapitalizationType : NSInteger {
 @interface UITextField : UIControl
 #if defined(GNUSTEP)
 {
-    struct UITextFieldState* _textFieldState;
+    id<UITextFieldDelegate> _delegate;
+    UIKeyboardAppearance _keyboardAppearance;
+    UIReturnKeyType _returnKeyType;
+    UITextAutocapitalizationType _autocapitalizationType;
 }
 #endif
 

@@ -5,6 +5,7 @@
 
 @class CALayer;
 @class UIColor;
+@class UIViewController;
 @class UIWindow;
 
 typedef uint64_t UIAccessibilityTraits;
@@ -19,7 +20,11 @@ enum {
 @interface UIView : UIResponder
 #if defined(GNUSTEP)
 {
-    struct UIViewState* _viewState;
+    /// The view behind it, of the toolkit.
+    void* _native;
+    UIViewController* _controller;
+    UIColor* _backgroundColor;
+    CALayer* _layer;
 }
 #endif
 
@@ -35,7 +40,6 @@ enum {
 - (void)addSubview:(UIView*)view;
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index;
 - (void)removeFromSuperview;
-- (BOOL)isDescendantOfView:(UIView*)view;
 
 - (void)setNeedsLayout;
 - (void)layoutIfNeeded;
@@ -50,7 +54,7 @@ enum {
 
 @property (nonatomic, copy) NSString* accessibilityLabel;
 @property (nonatomic) BOOL isAccessibilityElement;
-@property (nonatomic, copy) NSString* accessibilityValue;
+@property (nonatomic, readonly, copy) NSString* accessibilityValue;
 @property (nonatomic) UIAccessibilityTraits accessibilityTraits;
 - (void)accessibilityIncrement;
 - (void)accessibilityDecrement;

@@ -7,7 +7,7 @@
 @interface UIWindow : UIView
 #if defined(GNUSTEP)
 {
-    struct UIWindowState* _windowState;
+    UIViewController* _rootViewController;
 }
 #endif
 
