@@ -45,6 +45,8 @@ public:
 
     /// As last measured, which is before the table is drawn.
     const TableLayout& rows() const { return _rows; }
+    /// Whether the rows were measured since the last reload.
+    bool isMeasured() const { return _measuredSize.has_value(); }
     /// Measured now where the rows or the width changed since.
     const TableLayout& measuredRows();
     /// The cell of a row that is on view, else null.

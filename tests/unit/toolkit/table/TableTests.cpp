@@ -161,6 +161,17 @@ TEST(ATable, AsksForItsRowsAgainWhenItIsReloaded)
     EXPECT_NE(list.table->cellOf({ 1, 3 }), nullptr);
 }
 
+TEST(ATable, HasNotMeasuredItsRowsFromAReloadToTheNextLayout)
+{
+    Rows rows { { 3 } };
+    const TableInWindow list(rows, phone);
+    EXPECT_TRUE(list.table->isMeasured());
+    list.table->reload();
+    EXPECT_FALSE(list.table->isMeasured());
+    list.window->layOutAll();
+    EXPECT_TRUE(list.table->isMeasured());
+}
+
 TEST(ATable, IsNotLeftScrolledBeyondItsEndWhenItIsReloadedWithFewerRows)
 {
     Rows rows { { 100 } };
