@@ -5,7 +5,7 @@
 // the references that the toolkit's views hold to one another are the ones that their UIViews count.
 #pragma once
 
-#include "tests/ios/doubles/UIKit/Geometry.h"
+#include "tests/ios/doubles/UIKit/Conversion.h"
 #include "toolkit/view/View.h"
 
 #import <UIKit/UIKit.h>
@@ -25,20 +25,22 @@ template <typename Native> Native& nativeOf(::UIView* view)
     return static_cast<Native&>(nativeView(view));
 }
 
-/// Nothing for nil.
-inline toolkit::Ref<toolkit::View> nativeOrNull(::UIView* view)
-{
-    return toolkit::keep(view ? &nativeView(view) : nullptr);
-}
-
 /// The UIView in front of the toolkit's view; nil before it is made and after it is deallocated.
 inline ::UIView* existingViewOf(const toolkit::View& native)
 {
     return static_cast<::UIView*>(native.counterpart());
 }
 
-/// The same, made when there is none. Nil for null.
-::UIView* viewOf(toolkit::View*);
+// Null is nil. A UIView is made when there is none.
+::UIView* toPlatform(toolkit::View*);
+inline ::UIView* toPlatform(toolkit::View& native)
+{
+    return toPlatform(&native);
+}
+inline toolkit::Ref<toolkit::View> toToolkit(::UIView* view)
+{
+    return toolkit::keep(view ? &nativeView(view) : nullptr);
+}
 
 /// Whose view it is; nil for nobody. Not retained.
 ::UIViewController* controllerOf(::UIView*);
@@ -60,7 +62,7 @@ public:
     void setFrame(const toolkit::Rect& frame) override
     {
         if (auto* view = existingViewOf(*this))
-            [view setFrame:cgRect(frame)];
+            [view setFrame:toPlatform(frame)];
         else
             Native::setFrame(frame);
     }

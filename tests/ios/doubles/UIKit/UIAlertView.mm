@@ -1,41 +1,85 @@
+#include "tests/ios/doubles/Doubles.h"
 #include "tests/ios/doubles/Trace.h"
-#include "tests/ios/doubles/UIKit/AlertQueue.h"
-#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/App.h"
 #include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/alert/Alert.h"
+#include "toolkit/window/Window.h"
 
 #include <cstdarg>
-#include <deque>
-#include <string>
+#include <iterator>
 #include <utility>
 
-using brimsound::doubles::assignCopied;
-
-struct UIAlertViewState {
-    NSString* title = nil;
-    NSString* message = nil;
-    /// Not retained.
-    id delegate = nil;
-    NSMutableArray* buttonTitles = [[NSMutableArray alloc] init];
-};
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
 namespace {
 
-/// Retained; the first one is shown, the others wait.
-std::deque<UIAlertView*> alerts;
-
-/// Records that the first one is shown.
-void recordAlert()
+std::vector<std::string> textsOf(NSArray* strings)
 {
-    UIAlertView* const alert = alerts.front();
-    std::string buttons;
-    for (NSInteger i = 0; i < [alert numberOfButtons]; ++i)
-        buttons += (i == 0 ? "" : ", ") + std::string([[alert buttonTitleAtIndex:i] UTF8String]);
-    brimsound::doubles::record("alert " + std::string([[alert message] UTF8String]) + " (" + buttons + ")");
+    std::vector<std::string> texts;
+    for (NSString* string in strings)
+        texts.push_back(doubles::toToolkit(string));
+    return texts;
+}
+
+/// Shows what the UIAlertView says, and retains it until a button is pressed.
+class ShownAlert : public toolkit::Alert {
+public:
+    ShownAlert(UIAlertView* view, NSArray* titles)
+        : Alert(doubles::toToolkit([view title]), doubles::toToolkit([view message]), textsOf(titles))
+        , _view([view retain])
+    {
+        onShown = [this] { record(); };
+        onAnswer = [this](std::size_t button) { answer(static_cast<NSInteger>(button)); };
+    }
+
+    UIAlertView* view() const { return _view; }
+
+protected:
+    ~ShownAlert() override { [_view release]; }
+
+private:
+    void record() const
+    {
+        std::string titles;
+        for (const auto& title : buttonTitles())
+            titles += (titles.empty() ? "" : ", ") + title;
+        doubles::record("alert " + message() + " (" + titles + ")");
+    }
+
+    void answer(NSInteger button)
+    {
+        UIAlertView* const view = std::exchange(_view, nil);
+        id delegate = [view delegate];
+        if ([delegate respondsToSelector:@selector(alertView:clickedButtonAtIndex:)])
+            [delegate alertView:view clickedButtonAtIndex:button];
+        [view release];
+    }
+
+    UIAlertView* _view;
+};
+
+/// The platform shows alerts in a window of their own. Null until there is one.
+toolkit::Ref<toolkit::Window>& alertWindow()
+{
+    // Never destroyed, because the program ends with alerts that are shown.
+    static auto& window = *new toolkit::Ref<toolkit::Window>;
+    return window;
+}
+
+/// Null when there is none.
+ShownAlert* current()
+{
+    return alertWindow() ? static_cast<ShownAlert*>(alertWindow()->alerts().current()) : nullptr;
 }
 
 } // namespace
 
 @implementation UIAlertView
+
+@synthesize title = _title;
+@synthesize message = _message;
+@synthesize delegate = _delegate;
 
 - (instancetype)initWithTitle:(NSString*)title
                       message:(NSString*)message
@@ -43,13 +87,13 @@ void recordAlert()
             cancelButtonTitle:(NSString*)cancelButtonTitle
             otherButtonTitles:(NSString*)otherButtonTitles, ...
 {
-    self = [super initWithFrame:CGRect {}];
+    self = [super init];
     if (!self)
         return nil;
-    _alertViewState = new UIAlertViewState;
-    [self setTitle:title];
-    [self setMessage:message];
-    [self setDelegate:delegate];
+    _title = [title copy];
+    _message = [message copy];
+    _delegate = delegate;
+    _buttonTitles = [[NSMutableArray alloc] init];
     if (cancelButtonTitle)
         [self addButtonWithTitle:cancelButtonTitle];
     va_list others;
@@ -60,86 +104,35 @@ void recordAlert()
     return self;
 }
 
-- (instancetype)initWithFrame:(CGRect)frame
-{
-    return [self initWithTitle:nil message:nil delegate:nil cancelButtonTitle:nil otherButtonTitles:nil];
-}
-
 - (void)dealloc
 {
-    [_alertViewState->title release];
-    [_alertViewState->message release];
-    [_alertViewState->buttonTitles release];
-    delete _alertViewState;
+    [_title release];
+    [_message release];
+    [_buttonTitles release];
     [super dealloc];
-}
-
-- (NSString*)title
-{
-    return _alertViewState->title;
-}
-
-- (void)setTitle:(NSString*)title
-{
-    assignCopied(_alertViewState->title, title);
-}
-
-- (NSString*)message
-{
-    return _alertViewState->message;
-}
-
-- (void)setMessage:(NSString*)message
-{
-    assignCopied(_alertViewState->message, message);
-}
-
-- (id)delegate
-{
-    return _alertViewState->delegate;
-}
-
-- (void)setDelegate:(id)delegate
-{
-    _alertViewState->delegate = delegate;
-}
-
-- (NSInteger)numberOfButtons
-{
-    return static_cast<NSInteger>([_alertViewState->buttonTitles count]);
 }
 
 - (NSInteger)addButtonWithTitle:(NSString*)title
 {
-    [_alertViewState->buttonTitles addObject:title];
-    return [self numberOfButtons] - 1;
+    [_buttonTitles addObject:title];
+    return static_cast<NSInteger>([_buttonTitles count]) - 1;
 }
 
 - (NSString*)buttonTitleAtIndex:(NSInteger)buttonIndex
 {
-    return [_alertViewState->buttonTitles objectAtIndex:static_cast<NSUInteger>(buttonIndex)];
+    return [_buttonTitles objectAtIndex:static_cast<NSUInteger>(buttonIndex)];
 }
 
 - (BOOL)isVisible
 {
-    return !alerts.empty() && alerts.front() == self;
+    return doubles::currentAlert() == self;
 }
 
 - (void)show
 {
-    alerts.push_back([self retain]);
-    if (alerts.size() == 1)
-        recordAlert();
-}
-
-- (void)dismissWithClickedButtonIndex:(NSInteger)buttonIndex animated:(BOOL)animated
-{
-    const bool wasShown = [self isVisible];
-    if (!std::erase(alerts, self))
-        return;
-    if (wasShown && !alerts.empty())
-        recordAlert();
-    [self release];
+    if (!alertWindow())
+        alertWindow() = toolkit::make<toolkit::Window>(toolkit::Size { 320, 568 });
+    alertWindow()->alerts().add(*toolkit::make<ShownAlert>(self, _buttonTitles));
 }
 
 @end
@@ -148,27 +141,21 @@ namespace brimsound::doubles {
 
 UIAlertView* currentAlert()
 {
-    return alerts.empty() ? nil : alerts.front();
+    const auto* const alert = current();
+    return alert ? alert->view() : nil;
 }
 
 bool pressAlertButton(NSInteger index)
 {
-    UIAlertView* const alert = currentAlert();
-    if (!alert || index < 0 || index >= [alert numberOfButtons])
+    const auto* const alert = current();
+    if (!alert || index < 0 || index >= std::ssize(alert->buttons()))
         return false;
-    [alert retain];
-    id delegate = [alert delegate];
-    if ([delegate respondsToSelector:@selector(alertView:clickedButtonAtIndex:)])
-        [delegate alertView:alert clickedButtonAtIndex:index];
-    [alert dismissWithClickedButtonIndex:index animated:YES];
-    [alert release];
-    return true;
+    return alert->buttons()[static_cast<std::size_t>(index)]->press();
 }
 
 void dismissAlerts()
 {
-    for (UIAlertView* alert : std::exchange(alerts, {}))
-        [alert release];
+    alertWindow() = nullptr;
 }
 
 } // namespace brimsound::doubles

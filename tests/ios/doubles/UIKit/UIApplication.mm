@@ -1,8 +1,6 @@
 #include "tests/ios/doubles/Doubles.h"
 #include "tests/ios/doubles/Trace.h"
-#include "tests/ios/doubles/UIKit/AlertQueue.h"
-#include "tests/ios/doubles/UIKit/Animation.h"
-#include "tests/ios/doubles/UIKit/UIWindowState.h"
+#include "tests/ios/doubles/UIKit/App.h"
 
 namespace {
 
@@ -17,11 +15,6 @@ NSArray* schemesThatOpen = nil;
 {
     static UIApplication* const application = [[UIApplication alloc] init];
     return application;
-}
-
-- (UIWindow*)keyWindow
-{
-    return brimsound::doubles::currentKeyWindow();
 }
 
 - (BOOL)canOpenURL:(NSURL*)url

@@ -1,12 +1,14 @@
 #include "tests/ios/doubles/UIKit/HostedView.h"
 #include "toolkit/control/Button.h"
 
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
+
 @implementation UIButton
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    using namespace brimsound;
-    return [self initWithNative:new doubles::Hosted<toolkit::Button>(doubles::toolkitRect(frame))];
+    return [self initWithNative:new doubles::Hosted<toolkit::Button>(doubles::toToolkit(frame))];
 }
 
 + (instancetype)buttonWithType:(UIButtonType)buttonType

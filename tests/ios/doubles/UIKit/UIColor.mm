@@ -1,4 +1,4 @@
-#include "tests/ios/doubles/UIKit/Color.h"
+#include "tests/ios/doubles/UIKit/Conversion.h"
 
 #include "toolkit/drawing/Hsv.h"
 
@@ -13,7 +13,7 @@ namespace toolkit = brimsound::toolkit;
 @implementation UIColor
 
 // In here, because the components are not visible elsewhere.
-std::optional<toolkit::Color> brimsound::doubles::toolkitColor(UIColor* color)
+std::optional<toolkit::Color> brimsound::doubles::toToolkit(UIColor* color)
 {
     if (!color)
         return std::nullopt;
@@ -105,7 +105,7 @@ std::optional<toolkit::Color> brimsound::doubles::toolkitColor(UIColor* color)
 {
     if (!std::ranges::all_of(_components, [](CGFloat component) { return std::isfinite(component); }))
         return NO;
-    const auto hsv = toolkit::hsvOf(*brimsound::doubles::toolkitColor(self));
+    const auto hsv = toolkit::hsvOf(*brimsound::doubles::toToolkit(self));
     const std::pair<CGFloat*, CGFloat> values[] = { { hue, hsv.hue }, { saturation, hsv.saturation },
         { brightness, hsv.value }, { alpha, _components[3] } };
     for (const auto& [place, value] : values) {
@@ -121,17 +121,11 @@ std::optional<toolkit::Color> brimsound::doubles::toolkitColor(UIColor* color)
         CGContextSetRGBFillColor(context, _components[0], _components[1], _components[2], _components[3]);
 }
 
-- (id)copyWithZone:(NSZone*)zone
-{
-    // It never changes.
-    return [self retain];
-}
-
 @end
 
 namespace brimsound::doubles {
 
-UIColor* uiColor(const std::optional<toolkit::Color>& color)
+UIColor* toPlatform(const std::optional<toolkit::Color>& color)
 {
     return color ? [UIColor colorWithRed:color->red green:color->green blue:color->blue alpha:color->alpha]
                  : nil;

@@ -1,6 +1,4 @@
-#include "tests/ios/doubles/UIKit/Font.h"
-
-#include "tests/ios/doubles/UIKit/Text.h"
+#include "tests/ios/doubles/UIKit/Conversion.h"
 
 namespace {
 
@@ -47,27 +45,22 @@ bool isInstalled(NSString* name)
     return [UIFont fontWithName:_fontName size:size];
 }
 
-- (id)copyWithZone:(NSZone*)zone
-{
-    // It never changes.
-    return [self retain];
-}
-
 @end
 
 namespace brimsound::doubles {
 
-std::optional<toolkit::Font> toolkitFont(UIFont* font)
+std::optional<toolkit::Font> toToolkit(UIFont* font)
 {
-    return font ? std::optional(toolkit::Font { textOf([font fontName]), [font pointSize] }) : std::nullopt;
+    return font ? std::optional(toolkit::Font { toToolkit([font fontName]), [font pointSize] })
+                : std::nullopt;
 }
 
-UIFont* uiFont(const std::optional<toolkit::Font>& font)
+UIFont* toPlatform(const std::optional<toolkit::Font>& font)
 {
     if (!font)
         return nil;
     return font->name.empty() ? [UIFont systemFontOfSize:font->size]
-                              : [UIFont fontWithName:nsString(font->name) size:font->size];
+                              : [UIFont fontWithName:toPlatform(font->name) size:font->size];
 }
 
 } // namespace brimsound::doubles

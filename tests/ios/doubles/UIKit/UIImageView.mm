@@ -1,63 +1,81 @@
-#include "tests/ios/doubles/UIKit/Assign.h"
-#include "tests/ios/doubles/UIKit/UITableViewCellState.h"
+#include "tests/ios/doubles/CoreGraphics/Picture.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
+#include "toolkit/image/ImageView.h"
 
-using brimsound::doubles::assignRetained;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
-struct UIImageViewState {
-    UIImage* image = nil;
-    UIImage* highlightedImage = nil;
-    bool isHighlighted = false;
+namespace brimsound::doubles {
+
+namespace {
+
+/// A UIImage as an image of the toolkit, which retains it.
+class NativeImage : public toolkit::Image {
+public:
+    explicit NativeImage(UIImage* image)
+        : Image({ [image size].width, [image size].height })
+        , _image([image retain])
+    {
+    }
+
+    UIImage* image() const { return _image; }
+    void draw(toolkit::Canvas& canvas, const toolkit::Rect& rect) const override
+    {
+        const ::CGImageRef picture = [_image CGImage];
+        const auto& pixels = picture->bitmap->pixels();
+        canvas.drawPixels({ pixels.bytes, pixels.width, pixels.height, pixels.bytesPerRow }, rect);
+    }
+
+protected:
+    ~NativeImage() override { [_image release]; }
+
+private:
+    UIImage* const _image;
 };
+
+} // namespace
+
+// Not in the namespace without a name, because the macros look beside the other conversions.
+
+static toolkit::Ref<toolkit::Image> toToolkit(::UIImage* image)
+{
+    if (!image)
+        return nullptr;
+    return toolkit::make<NativeImage>(image);
+}
+
+static ::UIImage* toPlatform(toolkit::Image* image)
+{
+    return image ? static_cast<NativeImage*>(image)->image() : nil;
+}
+
+} // namespace brimsound::doubles
+
+namespace {
+
+toolkit::ImageView& native(UIImageView* view)
+{
+    return doubles::nativeOf<toolkit::ImageView>(view);
+}
+
+} // namespace
 
 @implementation UIImageView
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [super initWithFrame:frame];
-    if (self) {
-        _imageViewState = new UIImageViewState;
-        [self setUserInteractionEnabled:NO];
-    }
+    return [self initWithNative:new doubles::Hosted<toolkit::ImageView>(doubles::toToolkit(frame))];
+}
+
+- (instancetype)initWithNative:(toolkit::View*)view
+{
+    self = [super initWithNative:view];
+    [self setUserInteractionEnabled:NO];
     return self;
 }
 
-- (void)dealloc
-{
-    [_imageViewState->image release];
-    [_imageViewState->highlightedImage release];
-    delete _imageViewState;
-    [super dealloc];
-}
-
-- (UIImage*)image
-{
-    return _imageViewState->image;
-}
-
-- (void)setImage:(UIImage*)image
-{
-    assignRetained(_imageViewState->image, image);
-    brimsound::doubles::rowContentsChanged(self);
-}
-
-- (UIImage*)highlightedImage
-{
-    return _imageViewState->highlightedImage;
-}
-
-- (void)setHighlightedImage:(UIImage*)image
-{
-    assignRetained(_imageViewState->highlightedImage, image);
-}
-
-- (BOOL)isHighlighted
-{
-    return _imageViewState->isHighlighted;
-}
-
-- (void)setHighlighted:(BOOL)highlighted
-{
-    _imageViewState->isHighlighted = highlighted;
-}
+FORWARD_PROPERTY(UIImage*, image, setImage, image, setImage)
+FORWARD_PROPERTY(UIImage*, highlightedImage, setHighlightedImage, highlightedImage, setHighlightedImage)
+FORWARD_PROPERTY(BOOL, isHighlighted, setHighlighted, isHighlighted, setHighlighted)
 
 @end

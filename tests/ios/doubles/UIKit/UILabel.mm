@@ -1,100 +1,61 @@
-#include "tests/ios/doubles/UIKit/Assign.h"
-#include "tests/ios/doubles/UIKit/UITableViewCellState.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
+#include "toolkit/text/Label.h"
 
-using brimsound::doubles::assignCopied;
-using brimsound::doubles::assignRetained;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
-struct UILabelState {
-    NSString* text = nil;
-    UIFont* font = [[UIFont systemFontOfSize:17] retain];
-    UIColor* textColor = [[UIColor blackColor] retain];
-    UIColor* highlightedTextColor = nil;
-    bool isHighlighted = false;
-    NSTextAlignment textAlignment = NSTextAlignmentLeft;
-};
+// Their alignments have the same order.
+static_assert(NSTextAlignmentCenter == static_cast<NSInteger>(toolkit::Alignment::Center));
+static_assert(NSTextAlignmentRight == static_cast<NSInteger>(toolkit::Alignment::Right));
+
+namespace {
+
+toolkit::Label& native(UILabel* label)
+{
+    return doubles::nativeOf<toolkit::Label>(label);
+}
+
+} // namespace
 
 @implementation UILabel
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [super initWithFrame:frame];
-    if (self) {
-        _labelState = new UILabelState;
-        [self setUserInteractionEnabled:NO];
-    }
+    return [self initWithNative:new doubles::Hosted<toolkit::Label>(doubles::toToolkit(frame))];
+}
+
+- (instancetype)initWithNative:(toolkit::View*)label
+{
+    self = [super initWithNative:label];
+    [self setUserInteractionEnabled:NO];
     return self;
 }
 
-- (void)dealloc
-{
-    [_labelState->text release];
-    [_labelState->font release];
-    [_labelState->textColor release];
-    [_labelState->highlightedTextColor release];
-    delete _labelState;
-    [super dealloc];
-}
-
-- (NSString*)text
-{
-    return _labelState->text;
-}
-
-- (void)setText:(NSString*)text
-{
-    assignCopied(_labelState->text, text);
-    brimsound::doubles::rowContentsChanged(self);
-}
-
-- (UIFont*)font
-{
-    return _labelState->font;
-}
+FORWARD_PROPERTY(NSString*, text, setText, text, setText)
+FORWARD_PROPERTY(
+    UIColor*, highlightedTextColor, setHighlightedTextColor, highlightedColor, setHighlightedColor)
+FORWARD_PROPERTY(BOOL, isHighlighted, setHighlighted, isHighlighted, setHighlighted)
+FORWARD_GETTER(UIFont*, font, font)
+FORWARD_GETTER(UIColor*, textColor, color)
 
 - (void)setFont:(UIFont*)font
 {
-    assignRetained(_labelState->font, font ? font : [UIFont systemFontOfSize:17]);
-    brimsound::doubles::rowContentsChanged(self);
-}
-
-- (UIColor*)textColor
-{
-    return _labelState->textColor;
+    native(self).setFont(doubles::toToolkit(font).value_or(toolkit::Font {}));
 }
 
 - (void)setTextColor:(UIColor*)color
 {
-    assignRetained(_labelState->textColor, color ? color : [UIColor blackColor]);
-}
-
-- (UIColor*)highlightedTextColor
-{
-    return _labelState->highlightedTextColor;
-}
-
-- (void)setHighlightedTextColor:(UIColor*)color
-{
-    assignRetained(_labelState->highlightedTextColor, color);
-}
-
-- (BOOL)isHighlighted
-{
-    return _labelState->isHighlighted;
-}
-
-- (void)setHighlighted:(BOOL)highlighted
-{
-    _labelState->isHighlighted = highlighted;
+    native(self).setColor(doubles::toToolkit(color).value_or(toolkit::Color {}));
 }
 
 - (NSTextAlignment)textAlignment
 {
-    return _labelState->textAlignment;
+    return static_cast<NSTextAlignment>(native(self).alignment());
 }
 
 - (void)setTextAlignment:(NSTextAlignment)alignment
 {
-    _labelState->textAlignment = alignment;
+    native(self).setAlignment(static_cast<toolkit::Alignment>(alignment));
 }
 
 @end

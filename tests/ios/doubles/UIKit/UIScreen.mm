@@ -1,6 +1,4 @@
-#include "tests/ios/doubles/UIKit/UIWindowState.h"
-
-#include "tests/ios/doubles/UIKit/UIWindowState.h"
+#include "tests/ios/doubles/UIKit/App.h"
 
 #import <UIKit/UIKit.h>
 
@@ -15,7 +13,7 @@
 - (CGRect)bounds
 {
     // A screen is as large as the window that fills it.
-    UIWindow* const window = brimsound::doubles::currentKeyWindow();
+    UIWindow* const window = brimsound::doubles::keyWindow();
     const CGSize size = window ? [window bounds].size : CGSizeMake(320, 568);
     return CGRectMake(0, 0, size.width, size.height);
 }

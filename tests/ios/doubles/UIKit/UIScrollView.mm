@@ -1,26 +1,20 @@
-#import <UIKit/UIKit.h>
+#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "toolkit/scroll/ScrollView.h"
 
-struct UIScrollViewState {
-    CGSize contentSize {};
-};
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
+namespace {
+
+toolkit::ScrollView& native(UIScrollView* view)
+{
+    return doubles::nativeOf<toolkit::ScrollView>(view);
+}
+
+} // namespace
+
+/// The base class of tables. Nothing else scrolls.
 @implementation UIScrollView
-
-- (instancetype)initWithFrame:(CGRect)frame
-{
-    self = [super initWithFrame:frame];
-    if (self) {
-        _scrollViewState = new UIScrollViewState;
-        [self setClipsToBounds:YES];
-    }
-    return self;
-}
-
-- (void)dealloc
-{
-    delete _scrollViewState;
-    [super dealloc];
-}
 
 - (CGPoint)contentOffset
 {
@@ -29,19 +23,14 @@ struct UIScrollViewState {
 
 - (void)setContentOffset:(CGPoint)offset
 {
-    CGRect bounds = [self bounds];
-    bounds.origin = offset;
-    [self setBounds:bounds];
+    // The platform does not limit it to the edges of the content.
+    native(self).stop();
+    native(self).setOrigin({ offset.x, offset.y });
 }
 
 - (CGSize)contentSize
 {
-    return _scrollViewState->contentSize;
-}
-
-- (void)setContentSize:(CGSize)size
-{
-    _scrollViewState->contentSize = size;
+    return CGSizeMake([self bounds].size.width, native(self).contentHeight());
 }
 
 @end

@@ -1,8 +1,8 @@
-#include "tests/ios/doubles/UIKit/Color.h"
-#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
 #include "toolkit/control/Slider.h"
 
-using namespace brimsound;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
 namespace {
 
@@ -18,49 +18,14 @@ toolkit::Slider& native(UISlider* slider)
 - (instancetype)initWithFrame:(CGRect)frame
 {
     auto* const slider = new doubles::Hosted<toolkit::Slider>;
-    slider->setFrame(doubles::toolkitRect(frame));
+    slider->setFrame(doubles::toToolkit(frame));
     return [self initWithNative:slider];
 }
 
-- (float)value
-{
-    return native(self).value();
-}
-
-- (void)setValue:(float)value
-{
-    native(self).setValue(value);
-}
-
-- (float)minimumValue
-{
-    return native(self).minimum();
-}
-
-- (void)setMinimumValue:(float)minimum
-{
-    native(self).setMinimum(minimum);
-}
-
-- (float)maximumValue
-{
-    return native(self).maximum();
-}
-
-- (void)setMaximumValue:(float)maximum
-{
-    native(self).setMaximum(maximum);
-}
-
-- (UIColor*)minimumTrackTintColor
-{
-    return doubles::uiColor(native(self).tint());
-}
-
-- (void)setMinimumTrackTintColor:(UIColor*)color
-{
-    native(self).setTint(doubles::toolkitColor(color));
-}
+FORWARD_PROPERTY(float, value, setValue, value, setValue)
+FORWARD_PROPERTY(float, minimumValue, setMinimumValue, minimum, setMinimum)
+FORWARD_PROPERTY(float, maximumValue, setMaximumValue, maximum, setMaximum)
+FORWARD_PROPERTY(UIColor*, minimumTrackTintColor, setMinimumTrackTintColor, tint, setTint)
 
 - (UIImage*)currentThumbImage
 {

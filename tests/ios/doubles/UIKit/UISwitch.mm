@@ -1,8 +1,9 @@
 #include "tests/ios/doubles/Doubles.h"
-#include "tests/ios/doubles/UIKit/HostedView.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
 #include "toolkit/control/Switch.h"
 
-using namespace brimsound;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
 namespace {
 
@@ -19,14 +20,11 @@ toolkit::Switch& native(UISwitch* control)
 {
     auto* const control = new doubles::Hosted<toolkit::Switch>;
     // The size is the platform's own.
-    control->setFrame({ doubles::toolkitRect(frame).origin, control->frame().size });
+    control->setFrame({ doubles::toToolkit(frame).origin, control->frame().size });
     return [self initWithNative:control];
 }
 
-- (BOOL)isOn
-{
-    return native(self).isOn();
-}
+FORWARD_GETTER(BOOL, isOn, isOn)
 
 - (void)setOn:(BOOL)on
 {

@@ -1,11 +1,9 @@
 #include "tests/ios/doubles/Doubles.h"
-#include "tests/ios/doubles/UIKit/Color.h"
-#include "tests/ios/doubles/UIKit/Font.h"
-#include "tests/ios/doubles/UIKit/HostedView.h"
-#include "tests/ios/doubles/UIKit/Text.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
 #include "toolkit/text/TextField.h"
 
-using namespace brimsound;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 
 namespace {
 
@@ -40,7 +38,7 @@ toolkit::TextField& native(UITextField* field)
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    self = [self initWithNative:new Field(doubles::toolkitRect(frame))];
+    self = [self initWithNative:new Field(doubles::toToolkit(frame))];
     if (self) {
         native(self).onReturn = [self] { [self returnPressed]; };
         _autocapitalizationType = UITextAutocapitalizationTypeSentences;
@@ -57,32 +55,20 @@ toolkit::TextField& native(UITextField* field)
 
 - (NSString*)text
 {
-    return doubles::nsString(native(self).text());
+    return doubles::toPlatform(native(self).text());
 }
 
 - (void)setText:(NSString*)text
 {
-    native(self).setText(doubles::textOf(text));
+    native(self).setText(doubles::toToolkit(text));
 }
 
-- (UIFont*)font
-{
-    return doubles::uiFont(native(self).font());
-}
-
-- (void)setFont:(UIFont*)font
-{
-    native(self).setFont(doubles::toolkitFont(font));
-}
-
-- (UIColor*)textColor
-{
-    return doubles::uiColor(native(self).color());
-}
+FORWARD_PROPERTY(UIFont*, font, setFont, font, setFont)
+FORWARD_GETTER(UIColor*, textColor, color)
 
 - (void)setTextColor:(UIColor*)color
 {
-    native(self).setColor(doubles::toolkitColor(color).value_or(toolkit::Color {}));
+    native(self).setColor(doubles::toToolkit(color).value_or(toolkit::Color {}));
 }
 
 - (BOOL)canBecomeFirstResponder
@@ -97,7 +83,7 @@ namespace brimsound::doubles {
 void type(UITextField* field, NSString* text)
 {
     [field becomeFirstResponder];
-    native(field).type(textOf(text));
+    native(field).type(doubles::toToolkit(text));
     [field sendActionsForControlEvents:UIControlEventEditingChanged];
 }
 

@@ -1,7 +1,4 @@
-#include "tests/ios/doubles/UIKit/Assign.h"
-#include "tests/ios/doubles/UIKit/Color.h"
-#include "tests/ios/doubles/UIKit/HostedView.h"
-#include "tests/ios/doubles/UIKit/Text.h"
+#include "tests/ios/doubles/UIKit/Forward.h"
 #include "toolkit/image/ImageView.h"
 #include "toolkit/text/Label.h"
 #include "toolkit/window/Window.h"
@@ -10,14 +7,19 @@
 
 #include <cmath>
 
-using namespace brimsound;
+namespace doubles = brimsound::doubles;
+namespace toolkit = brimsound::toolkit;
 using doubles::nativeView;
-using doubles::viewOf;
 
 namespace {
 
 /// The only trait that is kept.
 constexpr UIAccessibilityTraits selected = 1 << 3;
+
+toolkit::View& native(UIView* view)
+{
+    return nativeView(view);
+}
 
 /// A layer is placed by its middle.
 void refuseNaN(const toolkit::Rect& frame)
@@ -56,17 +58,17 @@ void doubles::setController(UIView* view, UIViewController* controller)
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    const auto rect = doubles::toolkitRect(frame);
+    const auto rect = doubles::toToolkit(frame);
     refuseNaN(rect);
     return [self initWithNative:new doubles::Hosted<toolkit::View>(rect)];
 }
 
-- (instancetype)initWithNative:(toolkit::View*)native
+- (instancetype)initWithNative:(toolkit::View*)view
 {
     self = [super init];
     if (self) {
-        _native = native;
-        native->setCounterpart(self, [](void* view) { [static_cast<UIView*>(view) dealloc]; });
+        _native = view;
+        view->setCounterpart(self, [](void* object) { [static_cast<UIView*>(object) dealloc]; });
     }
     return self;
 }
@@ -80,164 +82,117 @@ void doubles::setController(UIView* view, UIViewController* controller)
 
 - (instancetype)retain
 {
-    nativeView(self).retain();
+    native(self).retain();
     return self;
 }
 
 - (oneway void)release
 {
-    nativeView(self).release();
+    native(self).release();
 }
 
 - (NSUInteger)retainCount
 {
-    return nativeView(self).retainCount();
+    return native(self).retainCount();
 }
 
-- (CGRect)frame
-{
-    return doubles::cgRect(nativeView(self).frame());
-}
+FORWARD_GETTER(CGRect, frame, frame)
+FORWARD_GETTER(CGRect, bounds, bounds)
+FORWARD_GETTER(UIView*, superview, parent)
+FORWARD_PROPERTY(CGFloat, alpha, setAlpha, alpha, setAlpha)
+FORWARD_PROPERTY(BOOL, isHidden, setHidden, isHidden, setHidden)
+FORWARD_PROPERTY(BOOL, clipsToBounds, setClipsToBounds, clips, setClips)
+FORWARD_PROPERTY(BOOL, isUserInteractionEnabled, setUserInteractionEnabled, isInteractive, setInteractive)
+FORWARD_PROPERTY(NSInteger, tag, setTag, tag, setTag)
+FORWARD_PROPERTY(NSString*, accessibilityLabel, setAccessibilityLabel, label, setLabel)
+FORWARD_PROPERTY(BOOL, isAccessibilityElement, setIsAccessibilityElement, isRead, setRead)
 
 - (void)setFrame:(CGRect)frame
 {
-    const auto rect = doubles::toolkitRect(frame);
+    const auto rect = doubles::toToolkit(frame);
     refuseNaN(rect);
-    nativeView(self).View::setFrame(rect);
-}
-
-- (CGRect)bounds
-{
-    return doubles::cgRect(nativeView(self).bounds());
+    native(self).View::setFrame(rect);
 }
 
 - (void)setBounds:(CGRect)bounds
 {
-    auto& native = nativeView(self);
-    const auto [origin, size] = doubles::toolkitRect(bounds);
-    native.setOrigin(origin);
+    auto& view = native(self);
+    const auto [origin, size] = doubles::toToolkit(bounds);
+    view.setOrigin(origin);
     // The middle stays where it is.
-    const auto former = native.frame();
+    const auto former = view.frame();
     const auto frame = toolkit::inset(
         former, (former.size.width - size.width) / 2, (former.size.height - size.height) / 2);
     refuseNaN(frame);
-    native.View::setFrame({ frame.origin, size });
+    view.View::setFrame({ frame.origin, size });
 }
 
 - (UIViewAutoresizing)autoresizingMask
 {
-    const auto& native = nativeView(self);
-    return (native.followsWidth() ? UIViewAutoresizingFlexibleWidth : UIViewAutoresizingNone)
-        | (native.followsHeight() ? UIViewAutoresizingFlexibleHeight : UIViewAutoresizingNone);
+    const auto& view = native(self);
+    return (view.followsWidth() ? UIViewAutoresizingFlexibleWidth : UIViewAutoresizingNone)
+        | (view.followsHeight() ? UIViewAutoresizingFlexibleHeight : UIViewAutoresizingNone);
 }
 
 - (void)setAutoresizingMask:(UIViewAutoresizing)mask
 {
-    nativeView(self).setFollowsParent(
+    native(self).setFollowsParent(
         mask & UIViewAutoresizingFlexibleWidth, mask & UIViewAutoresizingFlexibleHeight);
-}
-
-- (UIView*)superview
-{
-    return viewOf(nativeView(self).parent());
 }
 
 - (NSArray*)subviews
 {
     NSMutableArray* const views = [NSMutableArray array];
-    for (const auto& child : nativeView(self).children())
-        [views addObject:viewOf(child.get())];
+    for (const auto& child : native(self).children())
+        [views addObject:doubles::toPlatform(child.get())];
     return views;
-}
-
-- (UIWindow*)window
-{
-    return static_cast<UIWindow*>(viewOf(nativeView(self).window()));
 }
 
 - (void)addSubview:(UIView*)view
 {
     if (view)
-        nativeView(self).add(nativeView(view));
+        native(self).add(nativeView(view));
 }
 
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index
 {
     if (view)
-        nativeView(self).insert(nativeView(view), static_cast<std::size_t>(index));
+        native(self).insert(nativeView(view), static_cast<std::size_t>(index));
 }
 
 - (void)removeFromSuperview
 {
-    nativeView(self).removeFromParent();
+    native(self).removeFromParent();
 }
 
 - (void)setNeedsLayout
 {
-    nativeView(self).setNeedsLayout();
+    native(self).setNeedsLayout();
 }
 
 - (void)layoutIfNeeded
 {
-    nativeView(self).layOutIfNeeded();
+    native(self).layOutIfNeeded();
 }
 
 - (void)layoutSubviews
 {
     // The views that the toolkit made for itself have nothing to lay out.
-    if (auto* hosted = dynamic_cast<doubles::HostedView*>(&nativeView(self)))
+    if (auto* hosted = dynamic_cast<doubles::HostedView*>(&native(self)))
         hosted->layOutItself();
 }
 
 - (UIColor*)backgroundColor
 {
-    return _backgroundColor ? _backgroundColor : doubles::uiColor(nativeView(self).background());
+    return _backgroundColor ? _backgroundColor : doubles::toPlatform(native(self).background());
 }
 
 - (void)setBackgroundColor:(UIColor*)color
 {
-    nativeView(self).setBackground(doubles::toolkitColor(color));
-    doubles::assignCopied(_backgroundColor, color);
-}
-
-- (CGFloat)alpha
-{
-    return nativeView(self).alpha();
-}
-
-- (void)setAlpha:(CGFloat)alpha
-{
-    nativeView(self).setAlpha(alpha);
-}
-
-- (BOOL)isHidden
-{
-    return nativeView(self).isHidden();
-}
-
-- (void)setHidden:(BOOL)hidden
-{
-    nativeView(self).setHidden(hidden);
-}
-
-- (BOOL)clipsToBounds
-{
-    return nativeView(self).clips();
-}
-
-- (void)setClipsToBounds:(BOOL)clips
-{
-    nativeView(self).setClips(clips);
-}
-
-- (BOOL)isUserInteractionEnabled
-{
-    return nativeView(self).isInteractive();
-}
-
-- (void)setUserInteractionEnabled:(BOOL)enabled
-{
-    nativeView(self).setInteractive(enabled);
+    native(self).setBackground(doubles::toToolkit(color));
+    [color retain];
+    [_backgroundColor release];
+    _backgroundColor = color;
 }
 
 - (CALayer*)layer
@@ -247,39 +202,9 @@ void doubles::setController(UIView* view, UIViewController* controller)
     return _layer;
 }
 
-- (NSInteger)tag
-{
-    return nativeView(self).tag();
-}
-
-- (void)setTag:(NSInteger)tag
-{
-    nativeView(self).setTag(tag);
-}
-
 - (UIView*)viewWithTag:(NSInteger)tag
 {
-    return viewOf(nativeView(self).withTag(tag));
-}
-
-- (NSString*)accessibilityLabel
-{
-    return doubles::textOrNil(nativeView(self).label());
-}
-
-- (void)setAccessibilityLabel:(NSString*)label
-{
-    nativeView(self).setLabel(doubles::textOf(label));
-}
-
-- (BOOL)isAccessibilityElement
-{
-    return nativeView(self).isRead();
-}
-
-- (void)setIsAccessibilityElement:(BOOL)isElement
-{
-    nativeView(self).setRead(isElement);
+    return doubles::toPlatform(native(self).withTag(tag));
 }
 
 - (NSString*)accessibilityValue
@@ -297,41 +222,41 @@ void doubles::setController(UIView* view, UIViewController* controller)
 
 - (UIAccessibilityTraits)accessibilityTraits
 {
-    return nativeView(self).isChosen() ? selected : 0;
+    return native(self).isChosen() ? selected : 0;
 }
 
 - (void)setAccessibilityTraits:(UIAccessibilityTraits)traits
 {
-    nativeView(self).setChosen(traits & selected);
+    native(self).setChosen(traits & selected);
 }
 
 - (BOOL)becomeFirstResponder
 {
-    auto* const window = nativeView(self).window();
+    auto* const window = native(self).window();
     if (!window || ![self canBecomeFirstResponder])
         return NO;
-    window->focus().giveTo(nativeView(self));
+    window->focus().giveTo(native(self));
     return YES;
 }
 
 - (BOOL)resignFirstResponder
 {
     if ([self isFirstResponder])
-        nativeView(self).window()->focus().takeFrom(nativeView(self));
+        native(self).window()->focus().takeFrom(native(self));
     return YES;
 }
 
 - (BOOL)isFirstResponder
 {
-    const auto* const window = nativeView(self).window();
-    return window && [self canBecomeFirstResponder] && window->focus().isGivenTo(nativeView(self));
+    const auto* const window = native(self).window();
+    return window && [self canBecomeFirstResponder] && window->focus().isGivenTo(native(self));
 }
 
 @end
 
 namespace brimsound::doubles {
 
-UIView* viewOf(toolkit::View* native)
+UIView* toPlatform(toolkit::View* native)
 {
     if (!native)
         return nil;

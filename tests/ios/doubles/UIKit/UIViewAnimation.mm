@@ -1,5 +1,5 @@
 #include "tests/ios/doubles/Doubles.h"
-#include "tests/ios/doubles/UIKit/Animation.h"
+#include "tests/ios/doubles/UIKit/App.h"
 #include "tests/ios/doubles/UIKit/HostedView.h"
 #include "toolkit/time/Clock.h"
 #include "toolkit/view/Transition.h"
@@ -60,7 +60,7 @@ void resetAnimations()
 
 CGRect shownFrame(UIView* view)
 {
-    return cgRect(nativeView(view).shownFrame());
+    return doubles::toPlatform(nativeView(view).shownFrame());
 }
 
 Components shownBackground(UIView* view)

@@ -1,16 +1,9 @@
 #include "tests/ios/doubles/Doubles.h"
-#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/App.h"
 #include "tests/ios/doubles/UIKit/HostedView.h"
-#include "tests/ios/doubles/UIKit/UIWindowState.h"
 #include "toolkit/time/Animation.h"
 
-struct UIViewControllerState {
-    UIView* view = nil;
-    /// Retained.
-    UIViewController* presented = nil;
-    /// Not retained.
-    UIViewController* presenting = nil;
-};
+using brimsound::doubles::setController;
 
 namespace {
 
@@ -35,47 +28,38 @@ bool brimsound::doubles::isSheetMoving()
 
 @implementation UIViewController
 
-- (instancetype)init
-{
-    self = [super init];
-    if (self)
-        _viewControllerState = new UIViewControllerState;
-    return self;
-}
-
 - (void)dealloc
 {
-    if (UIViewController* presented = _viewControllerState->presented) {
-        presented->_viewControllerState->presenting = nil;
-        if ([presented isViewLoaded])
-            [[presented view] removeFromSuperview];
-        [presented release];
+    if (_presented) {
+        _presented->_presenting = nil;
+        if ([_presented isViewLoaded])
+            [[_presented view] removeFromSuperview];
+        [_presented release];
     }
-    brimsound::doubles::setController(_viewControllerState->view, nil);
-    [_viewControllerState->view release];
-    delete _viewControllerState;
+    setController(_view, nil);
+    [_view release];
     [super dealloc];
 }
 
 - (UIView*)view
 {
-    if (!_viewControllerState->view) {
+    if (!_view)
         [self loadView];
-        [self viewDidLoad];
-    }
-    return _viewControllerState->view;
+    return _view;
 }
 
 - (void)setView:(UIView*)view
 {
-    brimsound::doubles::setController(_viewControllerState->view, nil);
-    brimsound::doubles::assignRetained(_viewControllerState->view, view);
-    brimsound::doubles::setController(view, self);
+    setController(_view, nil);
+    [view retain];
+    [_view release];
+    _view = view;
+    setController(_view, self);
 }
 
 - (BOOL)isViewLoaded
 {
-    return _viewControllerState->view != nil;
+    return _view != nil;
 }
 
 - (void)loadView
@@ -83,10 +67,6 @@ bool brimsound::doubles::isSheetMoving()
     UIView* view = [[UIView alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
     [self setView:view];
     [view release];
-}
-
-- (void)viewDidLoad
-{
 }
 
 - (void)viewDidUnload
@@ -99,7 +79,7 @@ bool brimsound::doubles::isSheetMoving()
 
 - (UIViewController*)presentedViewController
 {
-    return _viewControllerState->presented;
+    return _presented;
 }
 
 - (void)presentViewController:(UIViewController*)viewController
@@ -108,26 +88,26 @@ bool brimsound::doubles::isSheetMoving()
 {
     if (!viewController)
         [NSException raise:NSInvalidArgumentException format:@"No controller to present"];
-    if (_viewControllerState->presented)
+    if (_presented)
         return;
-    _viewControllerState->presented = [viewController retain];
-    viewController->_viewControllerState->presenting = self;
+    _presented = [viewController retain];
+    viewController->_presenting = self;
     sheetMoves(animated);
-    UIWindow* const window = brimsound::doubles::currentKeyWindow();
+    UIWindow* const window = brimsound::doubles::keyWindow();
     [[viewController view] setFrame:[window bounds]];
     [window addSubview:[viewController view]];
 }
 
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(id)completion
 {
-    UIViewController* const presented = _viewControllerState->presented;
+    UIViewController* const presented = _presented;
     if (!presented) {
-        // Who is presented and presents nobody is dismissed itself.
-        [_viewControllerState->presenting dismissViewControllerAnimated:animated completion:completion];
+        // A controller that is presented and presents none is dismissed itself.
+        [_presenting dismissViewControllerAnimated:animated completion:completion];
         return;
     }
-    _viewControllerState->presented = nil;
-    presented->_viewControllerState->presenting = nil;
+    _presented = nil;
+    presented->_presenting = nil;
     [[presented view] removeFromSuperview];
     sheetMoves(animated);
     [presented release];

@@ -1,13 +1,11 @@
-#include "tests/ios/doubles/UIKit/UIWindowState.h"
-
-#include "tests/ios/doubles/UIKit/Assign.h"
+#include "tests/ios/doubles/UIKit/App.h"
 #include "tests/ios/doubles/UIKit/HostedView.h"
 #include "toolkit/window/Window.h"
 
 namespace {
 
-/// Not retained.
-UIWindow* keyWindow = nil;
+/// The key window. Not retained.
+UIWindow* keyboardWindow = nil;
 
 } // namespace
 
@@ -15,16 +13,16 @@ UIWindow* keyWindow = nil;
 
 - (instancetype)initWithFrame:(CGRect)frame
 {
-    const auto [origin, size] = brimsound::doubles::toolkitRect(frame);
-    auto* const native = new brimsound::doubles::Hosted<brimsound::toolkit::Window>(size);
-    native->View::setFrame({ origin, size });
+    const auto rect = brimsound::doubles::toToolkit(frame);
+    auto* const native = new brimsound::doubles::Hosted<brimsound::toolkit::Window>(rect.size);
+    native->setFrame(rect);
     return [self initWithNative:native];
 }
 
 - (void)dealloc
 {
-    if (keyWindow == self)
-        keyWindow = nil;
+    if (keyboardWindow == self)
+        keyboardWindow = nil;
     [_rootViewController release];
     [super dealloc];
 }
@@ -40,7 +38,9 @@ UIWindow* keyWindow = nil;
         return;
     if ([_rootViewController isViewLoaded])
         [[_rootViewController view] removeFromSuperview];
-    brimsound::doubles::assignRetained(_rootViewController, controller);
+    [controller retain];
+    [_rootViewController release];
+    _rootViewController = controller;
     [self insertSubview:[controller view] atIndex:0];
     [self setNeedsLayout];
 }
@@ -52,16 +52,16 @@ UIWindow* keyWindow = nil;
 
 - (void)makeKeyAndVisible
 {
-    keyWindow = self;
+    keyboardWindow = self;
 }
 
 @end
 
 namespace brimsound::doubles {
 
-UIWindow* currentKeyWindow()
+UIWindow* keyWindow()
 {
-    return keyWindow;
+    return keyboardWindow;
 }
 
 } // namespace brimsound::doubles

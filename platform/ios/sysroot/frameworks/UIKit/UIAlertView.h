@@ -12,7 +12,10 @@
 @interface UIAlertView : UIView
 #if defined(GNUSTEP)
 {
-    struct UIAlertViewState* _alertViewState;
+    NSString* _title;
+    NSString* _message;
+    id _delegate;
+    NSMutableArray* _buttonTitles;
 }
 #endif
 
@@ -25,11 +28,9 @@
 @property (nonatomic, copy) NSString* title;
 @property (nonatomic, copy) NSString* message;
 @property (nonatomic, assign) id delegate;
-@property (nonatomic, readonly) NSInteger numberOfButtons;
 @property (nonatomic, readonly, getter=isVisible) BOOL visible;
 /// The new button's index.
 - (NSInteger)addButtonWithTitle:(NSString*)title;
 - (NSString*)buttonTitleAtIndex:(NSInteger)buttonIndex;
 - (void)show;
-- (void)dismissWithClickedButtonIndex:(NSInteger)buttonIndex animated:(BOOL)animated;
 @end

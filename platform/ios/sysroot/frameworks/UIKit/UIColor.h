@@ -3,7 +3,7 @@
 #import <CoreGraphics/CoreGraphics.h>
 #import <Foundation/Foundation.h>
 
-@interface UIColor : NSObject <NSCopying>
+@interface UIColor : NSObject
 #if defined(GNUSTEP)
 {
     CGFloat _components[4];

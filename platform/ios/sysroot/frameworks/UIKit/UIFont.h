@@ -3,7 +3,7 @@
 #import <CoreGraphics/CoreGraphics.h>
 #import <Foundation/Foundation.h>
 
-@interface UIFont : NSObject <NSCopying>
+@interface UIFont : NSObject
 #if defined(GNUSTEP)
 {
     NSString* _fontName;

@@ -5,11 +5,6 @@
 @class UIImage;
 
 @interface UIImageView : UIView
-#if defined(GNUSTEP)
-{
-    struct UIImageViewState* _imageViewState;
-}
-#endif
 
 @property (nonatomic, retain) UIImage* image;
 @property (nonatomic, retain) UIImage* highlightedImage;

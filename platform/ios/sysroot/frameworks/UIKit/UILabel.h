@@ -12,11 +12,6 @@ typedef enum NSTextAlignment : NSInteger {
 } NSTextAlignment;
 
 @interface UILabel : UIView
-#if defined(GNUSTEP)
-{
-    struct UILabelState* _labelState;
-}
-#endif
 
 @property (nonatomic, copy) NSString* text;
 @property (nonatomic, retain) UIFont* font;

@@ -3,12 +3,7 @@
 #import <UIKit/UIView.h>
 
 @interface UIScrollView : UIView
-#if defined(GNUSTEP)
-{
-    struct UIScrollViewState* _scrollViewState;
-}
-#endif
 
 @property (nonatomic) CGPoint contentOffset;
-@property (nonatomic) CGSize contentSize;
+@property (nonatomic, readonly) CGSize contentSize;
 @end

@@ -44,15 +44,9 @@ typedef enum UITableViewRowAnimation : NSInteger {
 @end
 
 @interface UITableView : UIScrollView
-#if defined(GNUSTEP)
-{
-    struct UITableViewState* _tableViewState;
-}
-#endif
 
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;
 
-@property (nonatomic, readonly) UITableViewStyle style;
 @property (nonatomic, assign) id<UITableViewDataSource> dataSource;
 @property (nonatomic, assign) id<UITableViewDelegate> delegate;
 @property (nonatomic, retain) UIColor* separatorColor;

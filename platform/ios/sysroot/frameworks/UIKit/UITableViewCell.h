@@ -26,11 +26,6 @@ typedef enum UITableViewCellEditingStyle : NSInteger {
 } UITableViewCellEditingStyle;
 
 @interface UITableViewCell : UIView
-#if defined(GNUSTEP)
-{
-    struct UITableViewCellState* _cellState;
-}
-#endif
 
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString*)reuseIdentifier;
 
@@ -48,6 +43,4 @@ typedef enum UITableViewCellEditingStyle : NSInteger {
 @property (nonatomic, getter=isSelected) BOOL selected;
 @property (nonatomic, getter=isHighlighted) BOOL highlighted;
 - (void)setSelected:(BOOL)selected animated:(BOOL)animated;
-- (void)setHighlighted:(BOOL)highlighted animated:(BOOL)animated;
-- (void)prepareForReuse;
 @end

@@ -6,7 +6,6 @@
 @class CALayer;
 @class UIColor;
 @class UIViewController;
-@class UIWindow;
 
 typedef uint64_t UIAccessibilityTraits;
 
@@ -36,7 +35,6 @@ enum {
 
 @property (nonatomic, readonly) UIView* superview;
 @property (nonatomic, readonly, copy) NSArray* subviews;
-@property (nonatomic, readonly) UIWindow* window;
 - (void)addSubview:(UIView*)view;
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index;
 - (void)removeFromSuperview;

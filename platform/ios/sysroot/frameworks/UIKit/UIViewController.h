@@ -7,7 +7,9 @@
 @interface UIViewController : UIResponder
 #if defined(GNUSTEP)
 {
-    struct UIViewControllerState* _viewControllerState;
+    UIView* _view;
+    UIViewController* _presented;
+    UIViewController* _presenting;
 }
 #endif
 
@@ -15,7 +17,6 @@
 @property (nonatomic, retain) UIView* view;
 - (BOOL)isViewLoaded;
 - (void)loadView;
-- (void)viewDidLoad;
 - (void)viewDidUnload;
 - (void)viewDidLayoutSubviews;
 
