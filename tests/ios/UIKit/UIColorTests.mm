@@ -7,7 +7,6 @@
 namespace {
 
 using brimsound::doubles::Components;
-using testing::DoubleNear;
 using testing::ElementsAre;
 
 Components componentsOf(UIColor* color)
@@ -32,16 +31,6 @@ TEST_F(AColor, KeepsComponentsOutsideOfZeroToOneAsFromIOS10On)
     EXPECT_THAT(componentsOf([UIColor lightGrayColor]), ElementsAre(2.0 / 3, 2.0 / 3, 2.0 / 3, 1));
     EXPECT_THAT(componentsOf([UIColor clearColor]), ElementsAre(0, 0, 0, 0));
     EXPECT_THAT(componentsOf([UIColor yellowColor]), ElementsAre(1, 1, 0, 1));
-}
-
-TEST_F(AColor, IsMadeFromItsHueAndReturnsIt)
-{
-    for (const double hue : { 0.0, 0.1, 0.3, 0.5, 0.7, 0.95 }) {
-        UIColor* color = [UIColor colorWithHue:hue saturation:0.4 brightness:0.8 alpha:0.3];
-        CGFloat parts[4] {};
-        ASSERT_TRUE([color getHue:&parts[0] saturation:&parts[1] brightness:&parts[2] alpha:&parts[3]]);
-        EXPECT_THAT(parts, ElementsAre(DoubleNear(hue, 1e-9), DoubleNear(0.4, 1e-9), 0.8, 0.3));
-    }
 }
 
 TEST_F(AColor, WithANaNHasNoHue)

@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -104,29 +103,6 @@ TEST_F(AControl, DoesNotRetainItsTarget)
     EXPECT_EQ([recorder retainCount], 1u);
 }
 
-TEST_F(AControl, OfASliderClampsItsValueAndSendsNoAction)
-{
-    UISlider* slider = static_cast<UISlider*>(control);
-    [slider addTarget:recorder action:@selector(ended) forControlEvents:UIControlEventValueChanged];
-    [slider setMinimumValue:-12];
-    [slider setMaximumValue:12];
-    [slider setValue:40];
-    EXPECT_EQ([slider value], 12);
-    [slider setValue:-40];
-    EXPECT_EQ([slider value], -12);
-    [slider setValue:std::nanf("")];
-    EXPECT_EQ([slider value], -12);
-    [slider setMinimumValue:3];
-    EXPECT_EQ([slider value], 3);
-    [slider setMaximumValue:2];
-    EXPECT_EQ([slider minimumValue], 2);
-    EXPECT_EQ([slider value], 2);
-    [slider setMinimumValue:20];
-    EXPECT_EQ([slider maximumValue], 20);
-    EXPECT_EQ([slider value], 20);
-    EXPECT_THAT(calls, IsEmpty());
-}
-
 TEST_F(AControl, OfASwitchSendsAnActionOnlyForATouch)
 {
     UISwitch* button = [[[UISwitch alloc] init] autorelease];
@@ -164,20 +140,6 @@ TEST_F(ATextField, TakesTheKeyboardFromAnotherOne)
     EXPECT_FALSE([other isFirstResponder]);
     EXPECT_TRUE([field isFirstResponder]);
     EXPECT_THAT(calls, ElementsAre("ended"));
-}
-
-TEST_F(ATextField, GivesUpTheKeyboardWhenItLeavesTheWindow)
-{
-    [field becomeFirstResponder];
-    UIView* holder = [[[UIView alloc] init] autorelease];
-    [window addSubview:holder];
-    [holder addSubview:field];
-    EXPECT_FALSE([field isFirstResponder]);
-    [field becomeFirstResponder];
-    [holder removeFromSuperview];
-    EXPECT_FALSE([field isFirstResponder]);
-    [window addSubview:holder];
-    EXPECT_FALSE([field isFirstResponder]);
 }
 
 TEST_F(ATextField, GivesUpTheKeyboardWhenItsSuperviewIsRemoved)

@@ -10,7 +10,6 @@
 @interface RowSource : NSObject <UITableViewDataSource, UITableViewDelegate> {
 @public
     NSInteger counts[2];
-    int cellsMade;
     int cellsAskedFor;
     std::vector<std::string>* events;
 }
@@ -52,7 +51,6 @@
     UITableViewCell* cell = [table dequeueReusableCellWithIdentifier:@"row"];
     if (cell)
         return cell;
-    ++cellsMade;
     return [[[UITableViewCell alloc] initWithStyle:UITableViewCellStyleDefault
                                    reuseIdentifier:@"row"] autorelease];
 }
@@ -136,52 +134,6 @@ TEST_F(ATable, HasCellsOnlyForTheRowsInView)
     EXPECT_THAT(*source->events, ElementsAre("display 0", "display 0", "display 1", "display 2"));
 }
 
-TEST_F(ATable, ReusesTheCellsThatScrolledOff)
-{
-    UITableViewCell* first = cell(0, 0);
-    brimsound::doubles::tapRow(table, path(0, 0));
-    for (const CGFloat offset : { 100, 1000, 4000 }) {
-        [table setContentOffset:CGPointMake(0, offset)];
-        [table layoutIfNeeded];
-    }
-    EXPECT_EQ(cell(0, 0), nil);
-    EXPECT_LE(source->cellsMade, 6);
-    EXPECT_EQ([[table subviews] count], 5u);
-    EXPECT_FALSE([first isSelected]);
-    [table setContentOffset:CGPointMake(0, 0)];
-    [table layoutIfNeeded];
-    EXPECT_TRUE([cell(0, 0) isSelected]) << "the row is still selected";
-    EXPECT_EQ([cell(0, 0) frame], CGRectMake(0, 0, 320, 100));
-}
-
-TEST_F(ATable, AsksForItsRowsAgainWhenItIsReloaded)
-{
-    source->counts[1] = 1;
-    [table reloadData];
-    EXPECT_EQ([[table subviews] count], 0u);
-    [table layoutIfNeeded];
-    EXPECT_EQ([[table subviews] count], 2u);
-    EXPECT_EQ(cell(1, 1), nil);
-    EXPECT_EQ(source->cellsMade, 4) << "the other cells are reused";
-}
-
-TEST_F(ATable, IsNotLeftScrolledBeyondItsEnd)
-{
-    [table setContentOffset:CGPointMake(0, 4000)];
-    source->counts[1] = 4;
-    [table reloadData];
-    [table layoutIfNeeded];
-    EXPECT_EQ([table contentOffset], CGPointMake(0, 50));
-    EXPECT_NE(cell(1, 3), nil);
-}
-
-TEST_F(ATable, WidensItsRowsWithItself)
-{
-    [table setFrame:CGRectMake(0, 0, 500, 250)];
-    [table layoutIfNeeded];
-    EXPECT_EQ([cell(1, 0) frame], CGRectMake(0, 100, 500, 50));
-}
-
 TEST_F(ATable, SelectsOneRowAtATime)
 {
     source->events->clear();
@@ -257,49 +209,6 @@ protected:
     UITableViewCell* cell = [[UITableViewCell alloc] initWithStyle:UITableViewCellStyleSubtitle
                                                    reuseIdentifier:@"row"];
 };
-
-TEST_F(ACell, LaysOutItsViews)
-{
-    UIView* background = [[[UIView alloc] init] autorelease];
-    [cell setBackgroundView:background];
-    [cell setAccessoryView:[[[UISwitch alloc] init] autorelease]];
-    [[cell textLabel] setText:@"Text"];
-    [cell setFrame:CGRectMake(0, 0, 400, 51)];
-    [cell layoutIfNeeded];
-    EXPECT_EQ([background frame], CGRectMake(0, 0, 400, 51));
-    EXPECT_EQ([[cell accessoryView] frame], CGRectMake(334, 10, 51, 31));
-    EXPECT_EQ([[cell contentView] frame], CGRectMake(0, 0, 334, 51));
-    EXPECT_EQ([[cell textLabel] frame], CGRectMake(15, 0, 304, 51));
-    EXPECT_EQ([[cell subviews] objectAtIndex:0], background);
-
-    [[cell detailTextLabel] setText:@"Below"];
-    [cell layoutIfNeeded];
-    EXPECT_EQ([[cell textLabel] frame], CGRectMake(15, 8, 304, 21));
-    EXPECT_EQ([[cell detailTextLabel] frame], CGRectMake(15, 29, 304, 15));
-}
-
-TEST_F(ACell, ShowsThatItIsSelected)
-{
-    UIView* background = [[[UIView alloc] init] autorelease];
-    UIView* nested = [[[UIView alloc] init] autorelease];
-    UILabel* label = [[[UILabel alloc] init] autorelease];
-    [cell setBackgroundView:background];
-    [[cell contentView] addSubview:nested];
-    [nested addSubview:label];
-    UIView* selected = [cell selectedBackgroundView];
-    ASSERT_NE(selected, nil);
-    EXPECT_EQ([selected superview], nil);
-    [cell setSelected:YES];
-    EXPECT_EQ([[cell subviews] objectAtIndex:0], background);
-    EXPECT_EQ([[cell subviews] objectAtIndex:1], selected);
-    EXPECT_TRUE([label isHighlighted]);
-    [cell setHighlighted:YES];
-    [cell setSelected:NO];
-    EXPECT_EQ([selected superview], cell) << "it is still pressed";
-    [cell setHighlighted:NO];
-    EXPECT_EQ([selected superview], nil);
-    EXPECT_FALSE([label isHighlighted]);
-}
 
 TEST_F(ACell, WithoutASelectionStyleLooksTheSame)
 {

@@ -170,19 +170,6 @@ TEST_F(AnAlert, IsShownUntilAButtonIsPressed)
     EXPECT_THAT(*recorder->clicks, ElementsAre("Perhaps"));
 }
 
-TEST_F(AnAlert, WaitsForThePreviousAlert)
-{
-    UIAlertView* first = alert(@"First");
-    UIAlertView* second = alert(@"Second");
-    [first show];
-    [second show];
-    EXPECT_EQ(currentAlert(), first);
-    EXPECT_THAT(takeTrace(), ElementsAre("alert First (No, Yes, Perhaps)"));
-    pressAlertButton(0);
-    EXPECT_EQ(currentAlert(), second);
-    EXPECT_THAT(takeTrace(), ElementsAre("alert Second (No, Yes, Perhaps)"));
-}
-
 TEST_F(AnAlert, IsRetainedWhileItIsShown)
 {
     UIAlertView* shown = [alert(@"Held") retain];

@@ -34,12 +34,9 @@
 namespace {
 
 using brimsound::doubles::advanceClock;
-using brimsound::doubles::Components;
 using brimsound::doubles::shownAlpha;
-using brimsound::doubles::shownBackground;
 using brimsound::doubles::shownFrame;
 using testing::DoubleNear;
-using testing::Pointwise;
 
 /// Views that are released at the end.
 class AView : public testing::Test {
@@ -67,28 +64,6 @@ TEST_F(AView, RetainsItsSubviewsAndNotItsSuperview)
     EXPECT_EQ([inner retainCount], 1u);
     EXPECT_EQ([inner superview], nil);
     EXPECT_EQ([[outer subviews] count], 0u);
-}
-
-TEST_F(AView, MovesToANewSuperview)
-{
-    UIView* other = [[[UIView alloc] init] autorelease];
-    [outer addSubview:inner];
-    [other addSubview:inner];
-    EXPECT_EQ([[outer subviews] count], 0u);
-    EXPECT_EQ([inner superview], other);
-    EXPECT_EQ([inner retainCount], 2u);
-}
-
-TEST_F(AView, ThatIsAddedAgainComesToTheFront)
-{
-    UIView* other = [[[UIView alloc] init] autorelease];
-    [outer addSubview:inner];
-    [outer addSubview:other];
-    [outer addSubview:inner];
-    EXPECT_EQ([[outer subviews] lastObject], inner);
-    EXPECT_EQ([[outer subviews] count], 2u);
-    [outer insertSubview:inner atIndex:0];
-    EXPECT_EQ([[outer subviews] objectAtIndex:0], inner);
 }
 
 TEST_F(AView, ReleasesItsSubviewsWhenItIsDestroyed)
@@ -143,20 +118,6 @@ TEST_F(AView, RejectsAFrameWithANaN)
     EXPECT_EQ([inner frame], CGRectMake(10, 10, 20, 20));
 }
 
-TEST_F(AView, IsFoundByItsTagDepthFirst)
-{
-    UIView* deepest = [[[UIView alloc] init] autorelease];
-    UIView* last = [[[UIView alloc] init] autorelease];
-    [outer addSubview:inner];
-    [inner addSubview:deepest];
-    [outer addSubview:last];
-    [deepest setTag:7];
-    [last setTag:7];
-    EXPECT_EQ([outer viewWithTag:7], deepest);
-    EXPECT_EQ([outer viewWithTag:8], nil);
-    EXPECT_EQ([last viewWithTag:7], last);
-}
-
 TEST_F(AView, KeepsItsLayer)
 {
     [[inner layer] setCornerRadius:20];
@@ -178,35 +139,6 @@ protected:
     }
 };
 
-TEST_F(AnAnimation, ShowsIntermediateStatesWhileTheViewHasItsNewValues)
-{
-    [inner setFrame:CGRectMake(0, 0, 20, 20)];
-    [UIView beginAnimations:nil context:nullptr];
-    [UIView setAnimationDuration:0.5];
-    [inner setFrame:CGRectMake(100, 0, 20, 40)];
-    [inner setAlpha:0];
-    [inner setBackgroundColor:[UIColor whiteColor]];
-    [UIView commitAnimations];
-    EXPECT_EQ([inner frame], CGRectMake(100, 0, 20, 40));
-    EXPECT_EQ(shownFrame(inner), CGRectMake(0, 0, 20, 20));
-    EXPECT_EQ(shownAlpha(inner), 1);
-    EXPECT_EQ(shownBackground(inner), (Components { 0, 0, 0, 1 }));
-
-    // The animation curve starts slowly.
-    advanceClock(0.05);
-    EXPECT_GT(shownFrame(inner).origin.x, 0);
-    EXPECT_LT(shownFrame(inner).origin.x, 5);
-    advanceClock(0.2);
-    EXPECT_THAT(shownFrame(inner).origin.x, DoubleNear(50, 1e-6));
-    EXPECT_THAT(shownFrame(inner).size.height, DoubleNear(30, 1e-6));
-    EXPECT_THAT(shownAlpha(inner), DoubleNear(0.5, 1e-6));
-    EXPECT_THAT(shownBackground(inner), Pointwise(DoubleNear(1e-6), { 0.5, 0.5, 0.5, 1.0 }));
-    advanceClock(0.25);
-    EXPECT_EQ(shownFrame(inner), [inner frame]);
-    EXPECT_EQ(shownAlpha(inner), 0);
-    EXPECT_EQ(shownBackground(inner), (Components { 1, 1, 1, 1 }));
-}
-
 TEST_F(AnAnimation, TakesAFifthOfASecondByDefault)
 {
     [UIView beginAnimations:nil context:nullptr];
@@ -216,14 +148,6 @@ TEST_F(AnAnimation, TakesAFifthOfASecondByDefault)
     EXPECT_GT(shownAlpha(inner), 0);
     advanceClock(0.02);
     EXPECT_EQ(shownAlpha(inner), 0);
-}
-
-TEST_F(AnAnimation, EndsWhenThePropertyIsSetWithoutAnimation)
-{
-    moveTo(100, 1);
-    advanceClock(0.3);
-    [inner setFrame:CGRectMake(40, 0, 20, 20)];
-    EXPECT_EQ(shownFrame(inner), CGRectMake(40, 0, 20, 20));
 }
 
 TEST_F(AnAnimation, BeginsAtThePreviousTargetOrAtTheCurrentState)
