@@ -74,9 +74,10 @@ void Animation::run(std::function<bool(double)> step)
 
 void Animation::wait(double seconds, std::function<void()> action)
 {
-    Clock::shared().after(seconds, [movement = begin(), action = std::move(action)] {
-        if (std::exchange(movement->isRunning, false))
-            action();
+    cancel();
+    _action = Clock::shared().after(seconds, [this, action = std::move(action)] {
+        _action = 0;
+        action();
     });
 }
 
@@ -85,11 +86,13 @@ void Animation::cancel()
     if (_movement)
         _movement->isRunning = false;
     _movement = nullptr;
+    if (_action)
+        Clock::shared().cancel(std::exchange(_action, 0));
 }
 
 bool Animation::isRunning() const
 {
-    return _movement && _movement->isRunning;
+    return _action || (_movement && _movement->isRunning);
 }
 
 } // namespace brimsound::toolkit

@@ -1,6 +1,7 @@
 // Movements over time.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -42,6 +43,8 @@ private:
     std::shared_ptr<Movement> begin();
 
     std::shared_ptr<Movement> _movement;
+    /// The clock's number of the action; 0 while none waits.
+    std::uint64_t _action = 0;
 };
 
 } // namespace brimsound::toolkit

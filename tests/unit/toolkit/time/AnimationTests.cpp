@@ -256,12 +256,33 @@ TEST_F(AnAnimation, ThatWaitsCallsItsActionOnce)
     EXPECT_EQ(completions, 1);
 }
 
-TEST_F(AnAnimation, ThatWaitsMayBeCancelled)
+TEST_F(AnAnimation, ThatWaitsLeavesNoActionOnTheClockWhenItIsCanceledRestartedOrDestroyed)
 {
-    animation->wait(0.5, [this] { ++completions; });
+    const auto nextAction = [] { return Clock::shared().untilNextAction(); };
+    ASSERT_EQ(nextAction(), std::nullopt);
+    const auto wait = [this] { animation->wait(0.5, [this] { ++completions; }); };
+    wait();
+    EXPECT_EQ(nextAction(), 0.5);
     animation->cancel();
+    EXPECT_EQ(nextAction(), std::nullopt);
+    wait();
+    start();
+    EXPECT_EQ(nextAction(), std::nullopt);
+    wait();
+    animation.reset();
+    EXPECT_EQ(nextAction(), std::nullopt);
     advance(1);
     EXPECT_EQ(completions, 0);
+}
+
+TEST_F(AnAnimation, ThatWaitsMayBeDestroyedOrStartedByItsAction)
+{
+    animation->wait(0.5, [this] { start(); });
+    advance(0.5);
+    EXPECT_TRUE(animation->isRunning());
+    animation->wait(0.5, [this] { animation.reset(); });
+    advance(0.5);
+    EXPECT_EQ(animation, nullptr);
 }
 
 } // namespace
