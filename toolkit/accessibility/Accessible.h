@@ -1,4 +1,4 @@
-// What a view tells assistive technology about itself.
+// The properties of a view for assistive technology.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 namespace brimsound::toolkit {
 
 enum class Role : std::uint8_t {
-    /// The view means nothing by itself: what is in it counts.
+    /// Not an element of its own. Its children may be elements.
     None,
     /// Rows of various kinds in groups.
     Table,
@@ -28,7 +28,7 @@ struct ValueRange {
     double value = 0;
     double minimum = 0;
     double maximum = 0;
-    /// What assistive technology changes the value by.
+    /// The change of the value by one step of assistive technology.
     double step = 0;
 };
 
@@ -42,7 +42,7 @@ struct Accessible {
     std::optional<ValueRange> range {};
     bool checked = false;
     bool selected = false;
-    /// Whether the user may delete it: a row.
+    /// Whether this is a row that the user can delete.
     bool deletable = false;
 };
 

@@ -11,7 +11,7 @@ namespace brimsound::toolkit {
 namespace {
 
 constexpr double widestCard = 270;
-/// What stays free at each side of a card in a narrow window.
+/// The smallest distance between a card and the edges of the window, in points.
 constexpr double windowMargin = 8;
 constexpr double cardRadius = 13;
 constexpr double textMargin = 16;
@@ -55,7 +55,7 @@ std::vector<std::string> Alert::buttonTitles() const
 void Alert::answer(std::size_t button)
 {
     const auto kept = keep(this);
-    // An alert that is on its way out has been answered.
+    // An alert that fades out has been answered already.
     auto* around = window();
     if (!around || around->alerts().current() != this)
         return;
@@ -101,7 +101,7 @@ void Alert::layOut()
             const double left = static_cast<double>(i) * width / 2;
             _buttons[i]->setFrame(makeRect(left, height - buttonHeight, width / 2, buttonHeight));
         } else {
-            // The cancel button, which is the first, stands at the bottom.
+            // The first button, which cancels, is at the bottom.
             const double row = i == 0 ? 1 : static_cast<double>(count - i) + 1;
             _buttons[i]->setFrame(makeRect(0, height - row * buttonHeight, width, buttonHeight));
         }

@@ -1,4 +1,3 @@
-// Messages that want an answer.
 #pragma once
 
 #include "toolkit/control/Button.h"
@@ -9,12 +8,12 @@
 
 namespace brimsound::toolkit {
 
-/// A white card with a message and, below it, the buttons: side by side when there are two, else one below
-/// the other.
+/// A white card with a message and, below it, the buttons: two side by side, any other number one below the
+/// other.
 class Alert : public View {
 public:
-    /// The first button is the cancel button: it has the keyboard at first, and Escape presses it. An empty
-    /// title is none.
+    /// The first button is the cancel button: it has the keyboard focus at first, and Escape presses it. The
+    /// title may be empty.
     Alert(std::string title, std::string message, const std::vector<std::string>& buttonTitles);
 
     const std::string& title() const { return _title; }
@@ -25,11 +24,10 @@ public:
 
     /// Called when the alert has appeared.
     std::function<void()> onShown;
-    /// Called once, with the button's number, when a button was pressed and the alert is on its way out.
+    /// Called once, with the button's index, when a button was pressed and the alert fades out.
     std::function<void(std::size_t button)> onAnswer;
 
-    /// The size in points that the texts and buttons take in a window of that size. Where the texts take more
-    /// than it has, they are cut off.
+    /// The size of the alert in a window of that size, in points. Texts that do not fit are cut off.
     Size sizeIn(Size window) const;
 
     void layOut() override;
@@ -39,7 +37,7 @@ public:
 
 private:
     void answer(std::size_t button);
-    // In a card of that width.
+    // In an alert of that width.
     Rect titleRect(double width) const;
     Rect messageRect(double width) const;
     double topOfButtons() const;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double dimming = 0.4;
 
-/// Dims the window and keeps the alert in its middle.
+/// Shows an alert in the middle of the dimmed window.
 class AlertOverlay : public Overlay {
 public:
     explicit AlertOverlay(Alert& alert)

@@ -1,4 +1,3 @@
-// The alerts of a window.
 #pragma once
 
 #include "toolkit/object/Object.h"
@@ -11,7 +10,8 @@ class Alert;
 class Overlay;
 class Window;
 
-/// Shows one alert at a time, in the order in which they were asked for, each over the dimmed window.
+/// Shows the alerts of a window one at a time, in the order in which they were added, each over the dimmed
+/// window.
 class AlertQueue {
 public:
     /// The window owns the queue and outlives it.
@@ -21,11 +21,11 @@ public:
     ~AlertQueue();
 
     void add(Alert&);
-    /// The alert that is shown; null when none is.
+    /// The visible alert; may be null.
     Alert* current() const { return _current.get(); }
-    /// Removes the shown alert and shows the next one.
+    /// Removes the visible alert and shows the next one.
     void dismissCurrent();
-    /// Forgets all alerts, unanswered.
+    /// Removes all alerts without an answer.
     void dismissAll();
 
 private:

@@ -21,7 +21,7 @@ void TitledButton::setTitle(std::string title)
 
 void TitledButton::pressed()
 {
-    // What is pressed may take the button away.
+    // The action may remove the button.
     const auto kept = keep(this);
     if (_onPress)
         _onPress();

@@ -1,4 +1,3 @@
-// Buttons.
 #pragma once
 
 #include "toolkit/control/Control.h"
@@ -8,7 +7,8 @@
 
 namespace brimsound::toolkit {
 
-/// A button that shows nothing: it lies over what it is for. A screen reader is told of one that has a label.
+/// An invisible button, placed over or behind other views. It is an element for screen readers only with a
+/// label.
 class Button : public Control {
 public:
     using Control::Control;
@@ -16,8 +16,8 @@ public:
     Role role() const override { return label().empty() ? Role::None : Role::Button; }
 };
 
-/// A button that shows its title, and is another color while it is pressed. What it does is done when it is
-/// let go of within its edges: other buttons, or what stands for changing one's mind, lie right beside it.
+/// A button with a title, in another color while it is pressed. It acts only when it is released within its
+/// edges, because other buttons may be right next to it.
 class TitledButton : public Control {
 public:
     TitledButton(std::string title, Font, std::function<void()> onPress);
@@ -44,7 +44,7 @@ private:
     const std::function<void()> _onPress;
 };
 
-/// A title in the theme's tint, over gray while it is pressed.
+/// A title in the theme's tint color, on gray while it is pressed.
 class TextButton : public TitledButton {
 public:
     using TitledButton::TitledButton;

@@ -41,7 +41,7 @@ bool Control::holdFor(const std::function<void()>& action)
         return false;
     action();
     commit();
-    // A listener may have removed the control from the window, which holds it then.
+    // A listener may have removed the control from the window, which still holds it.
     around->letGo(*this);
     return true;
 }
@@ -75,7 +75,7 @@ void Control::sendDrag(Side side)
 {
     const bool inside = side == Side::Inside;
     const bool wasInside = std::exchange(_touchInside, inside);
-    // Any of the events may take the touch away.
+    // Any of the events may cancel the touch.
     if (_held && inside != wasInside)
         send(inside ? ControlEvent::DragEnter : ControlEvent::DragExit);
     if (_held)

@@ -1,4 +1,3 @@
-// Views that turn touches into events.
 #pragma once
 
 #include "toolkit/view/View.h"
@@ -20,26 +19,27 @@ enum class ControlEvent : std::uint8_t {
     ValueChanged,
 };
 
-/// A control keeps a touch that it has, wherever the finger goes. Keys, screen readers and scripts work it
-/// without a touch, with the same events in the same order: begin, whatever the kind of control brings,
-/// commit.
+/// A view that turns touches into events. It keeps a touch until the touch ends, wherever the finger moves.
+/// Keys, screen readers and scripts operate the control without a touch, through begin and commit, with the
+/// same events in the same order.
 class Control : public View {
 public:
     using View::View;
 
-    /// Told of every event. What it does may take the control away.
+    /// Called for every event. The function may remove the control.
     std::function<void(ControlEvent)> onEvent;
 
-    /// From the first touch to the last, or from begin to commit.
+    /// Whether a touch is on the control, or begin was called and commit was not.
     bool isHeld() const { return _held; }
 
-    /// Scrolls the control into view and takes hold of it. False when a finger could not: it is covered, or
-    /// something is touched already.
+    /// Scrolls the control into view and sends TouchDown. Returns false when a touch could not do so: the
+    /// control is covered, or another touch is active.
     bool begin();
-    /// Lets go, where a touch would be. Nothing when the hold was taken away since.
+    /// Sends the events of a touch that ends inside or outside of the control. Does nothing when the control
+    /// was canceled after begin.
     enum class Side { Inside, Outside };
     void commit(Side = Side::Inside);
-    /// Begins and commits. False when begin is.
+    /// Calls begin and commit. Returns false when begin does.
     bool press();
 
     bool isFocusable() const override { return true; }
@@ -52,21 +52,21 @@ public:
     void touchCancelled() override;
 
 protected:
-    /// Begins, does that and commits. False when begin is.
+    /// Calls begin, the action and commit. Returns false when begin does.
     bool holdFor(const std::function<void()>& action);
-    /// Tells of a move of whatever holds the control.
+    /// Sends the events of a drag.
     void sendDrag(Side);
-    /// Whether the finger is where letting go counts.
+    /// Whether the end of the touch would count as inside.
     bool isTouchInside() const { return _touchInside; }
     void send(ControlEvent);
 
-    /// How far beyond its edges, in points, the control still counts a touch as inside.
+    /// How far beyond the edges a touch still counts as inside, in points.
     virtual double touchMargin() const { return 70; }
-    // Told of a touch, in the control's own coordinates, before the events are sent.
+    // Called for a touch, in the control's own coordinates, before the events are sent.
     virtual void trackingBegan(Point, Pointer) { }
     virtual void trackingMoved(Point) { }
     virtual void trackingEnded() { }
-    /// Let go of inside, before TouchUpInside.
+    /// Called when a touch ended inside, before TouchUpInside is sent.
     virtual void pressed() { }
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double thumbSize = 28;
 constexpr double trackHeight = 4;
-/// Between the thumb at its end and the ring around the slider.
+/// The distance between the thumb at its end and the focus ring, in points.
 constexpr double focusRingGap = 3;
 
 class Thumb : public Image {
@@ -26,7 +26,8 @@ public:
     void draw(Canvas& canvas, const Rect& rect) const override { drawKnob(canvas, rect); }
 };
 
-/// The nearest whole number of steps. By their number in one, as a tenth is no binary fraction and ten is.
+/// The nearest multiple of the step. Computed from the number of steps in 1, because 10 has an exact binary
+/// representation and 0.1 has not.
 double inSteps(double value, double step)
 {
     const double inOne = 1 / step;
@@ -37,7 +38,6 @@ double inSteps(double value, double step)
 
 Image& Slider::thumb()
 {
-    // All sliders look alike.
     static const auto image = make<Thumb>();
     return *image;
 }
@@ -48,7 +48,7 @@ void Slider::setValue(float value)
         return;
     value = std::clamp(value, _minimum, _maximum);
     const bool moves = value != _value;
-    // Of two zeros the new one counts.
+    // This also changes the sign of a zero.
     _value = value;
     if (!moves)
         return;
@@ -122,7 +122,7 @@ void Slider::takeValueAt(double x)
         return;
     const double range = static_cast<double>(_maximum) - _minimum;
     const double wanted = _minimum + (x - area.left() - thumbSize / 2) / way * range;
-    // Rounding would otherwise leave a trace of a value, and of a sign, where the thumb stands at zero.
+    // Rounding errors could otherwise give the middle a tiny value or a sign instead of zero.
     change(std::abs(wanted) < range * 1e-12 ? 0 : wanted);
 }
 
@@ -148,13 +148,13 @@ void Slider::trackingMoved(Point point)
     takeValueAt(point.x - _grip);
 }
 
-/// The value that is so far away, to whole steps, which is what the value shows as.
+/// The value at this distance, as a multiple of the small step, which is the precision of its text.
 double Slider::moved(double distance) const
 {
     return inSteps(static_cast<double>(_value) + distance, _steps.small);
 }
 
-/// Where the key brings the slider; nothing when the key does not move it.
+/// The value after this key; nothing for keys that do not change it.
 std::optional<double> Slider::target(Key key) const
 {
     switch (key) {
@@ -179,13 +179,13 @@ std::optional<double> Slider::target(Key key) const
 
 bool Slider::keyPressed(Key key, KeyStroke stroke)
 {
-    // There is nothing to press.
+    // A slider cannot be pressed.
     if (key == Key::Return || key == Key::Space)
         return true;
     const auto wanted = target(key);
     if (!wanted)
         return false;
-    // The hold may have been taken away since.
+    // The control may have been canceled since.
     if (!_heldByKey || !isHeld()) {
         if (stroke == KeyStroke::Repeated || !begin())
             return true;
@@ -214,7 +214,7 @@ FocusRing Slider::focusRing() const
 Accessible Slider::accessible() const
 {
     auto self = Control::accessible();
-    // Rounded to what is shown, and without the sign of a zero, which would be read.
+    // Rounded as in its text, and without the sign of a zero, which would be read.
     const double shown = inSteps(static_cast<double>(_value), _steps.small) + 0.0;
     self.description = _steps.unit;
     self.value = _steps.words ? _steps.words(shown) : std::string();
@@ -234,7 +234,7 @@ void Slider::draw(Canvas& canvas) const
     auto filled = track;
     filled.size.width = std::max(0.0, center.x - track.left());
     canvas.fillRoundedRect(filled, radius, _tint.value_or(theme::tint));
-    // A light color would fade into a white row without an edge.
+    // Without an edge, a light color would be hard to see on a white row.
     canvas.fillRoundedRect(makeRect(filled.left(), filled.top() + trackHeight - 0.5, filled.size.width, 0.5),
         0, { 0, 0, 0, 0.15 });
     drawKnob(canvas, makeRect(center.x - thumbSize / 2, center.y - thumbSize / 2, thumbSize, thumbSize));

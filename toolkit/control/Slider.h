@@ -1,4 +1,3 @@
-// Sliders.
 #pragma once
 
 #include "toolkit/control/Control.h"
@@ -9,52 +8,52 @@
 
 namespace brimsound::toolkit {
 
-/// A horizontal slider. A finger takes the thumb along from wherever it touches the slider, so that a touch
-/// alone moves nothing; a mouse press beside the thumb brings it there. The arrows move it by a small step,
-/// Page Up and Page Down by a large one, Home and End to its ends: a key takes hold, each stroke sets the
-/// value, and releasing the key lets go.
+/// A horizontal slider. A finger moves the thumb from wherever it touches the slider, so a touch without a
+/// movement changes nothing. A mouse press next to the thumb moves the thumb there. The arrow keys change the
+/// value by a small step, Page Up and Page Down by a large one, Home and End set the minimum and the maximum.
+/// The first stroke of a key calls begin, each stroke sets the value, and releasing the key calls commit.
 class Slider : public Control {
 public:
     Slider() = default;
 
     float value() const { return _value; }
-    /// Takes the nearest value in range; a NaN leaves the value as it is. Sends no event.
+    /// Sets the nearest value in range; NaN changes nothing. Sends no event.
     void setValue(float);
-    /// Sets the value of a slider that is held, as a drag does.
+    /// Sets the value between begin and commit, with the events of a drag.
     void set(double value, Side = Side::Inside);
-    /// Takes hold, sets and lets go. False when it cannot be taken hold of.
+    /// Calls begin, sets the value, and calls commit. Returns false when begin does.
     bool slideTo(double value);
-    /// The same by so many small steps.
+    /// The same with a change by this many small steps.
     bool stepBy(int steps);
 
     float minimum() const { return _minimum; }
-    /// Raises the maximum along when it would be below.
+    /// Raises the maximum when it would be lower.
     void setMinimum(float);
     float maximum() const { return _maximum; }
-    /// Lowers the minimum along when it would be above.
+    /// Lowers the minimum when it would be higher.
     void setMaximum(float);
 
-    /// Of the track between its start and the thumb; nothing for the theme's.
+    /// The color of the track between its start and the thumb; nothing for the theme's color.
     void setTint(std::optional<Color>);
-    /// The picture of the thumb.
+    /// All sliders share it.
     static Image& thumb();
 
     std::optional<Color> tint() const { return _tint; }
 
-    /// How keys and assistive technology change the value, and how the latter says it.
+    /// How keys and assistive technology change the value, and how a screen reader says it.
     struct Steps {
-        /// What the arrows and assistive technology change the value by.
+        /// The change by the arrow keys and by assistive technology.
         double small = 0.01;
-        /// What Page Up and Page Down change it by.
+        /// The change by Page Up and Page Down.
         double large = 0.1;
-        /// What is said after the number by readers that say the number.
+        /// Said after the number by screen readers that say the number.
         std::string unit {};
-        /// The value in words, with its unit; null for none.
+        /// The value in words, with its unit; may be null.
         std::string (*words)(double value) = nullptr;
     };
     void setSteps(Steps);
 
-    /// Where the thumb's center stands for a value, in the slider's own coordinates.
+    /// The center of the thumb for a value, in the slider's own coordinates.
     Point thumbCenter(double value) const;
 
     void draw(Canvas&) const override;
@@ -80,7 +79,7 @@ private:
     float _maximum = 1;
     std::optional<Color> _tint;
     Steps _steps;
-    /// How far the touch is from the thumb's center while the slider is held, in points.
+    /// The horizontal distance from the thumb's center to the touch, in points.
     double _grip = 0;
     bool _heldByKey = false;
 };

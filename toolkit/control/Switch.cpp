@@ -13,10 +13,10 @@ namespace {
 constexpr Size switchSize { 51, 31 };
 constexpr double knobMargin = 2;
 constexpr double slideTime = 0.2;
-/// Between the switch and the ring around it.
+/// The distance between the switch and the focus ring, in points.
 constexpr double focusRingGap = 3;
-/// How far a finger must move sideways, in points, to draw the knob along.
-constexpr double drawDistance = 10;
+/// How far a finger must move horizontally, in points, to drag the knob.
+constexpr double dragDistance = 10;
 
 } // namespace
 
@@ -46,24 +46,24 @@ void Switch::setOn(bool on, bool animated)
 
 void Switch::trackingBegan(Point point, Pointer)
 {
-    _drawnFrom = point.x;
-    _wasDrawn = false;
+    _dragStart = point.x;
+    _wasDragged = false;
 }
 
 void Switch::trackingMoved(Point point)
 {
-    if (std::abs(point.x - _drawnFrom) < drawDistance)
+    if (std::abs(point.x - _dragStart) < dragDistance)
         return;
-    _wasDrawn = true;
-    const bool wanted = point.x > _drawnFrom;
-    _drawnFrom = point.x;
+    _wasDragged = true;
+    const bool wanted = point.x > _dragStart;
+    _dragStart = point.x;
     if (wanted != _on)
         flip();
 }
 
 void Switch::pressed()
 {
-    if (!std::exchange(_wasDrawn, false))
+    if (!std::exchange(_wasDragged, false))
         flip();
 }
 

@@ -1,4 +1,3 @@
-// Switches.
 #pragma once
 
 #include "toolkit/control/Control.h"
@@ -6,7 +5,7 @@
 
 namespace brimsound::toolkit {
 
-/// A tap flips the switch; so does drawing the knob to the other side.
+/// A switch, initially off. A tap flips it; so does dragging the knob to the other side.
 class Switch : public Control {
 public:
     Switch();
@@ -30,12 +29,12 @@ private:
     void flip();
 
     bool _on = false;
-    /// Where the knob stands: 0 at the off side, 1 at the on side.
+    /// The position of the knob: 0 for off, 1 for on.
     double _knob = 0;
     Animation _slide;
-    /// Where the touch last counted as a draw, and whether it has been one.
-    double _drawnFrom = 0;
-    bool _wasDrawn = false;
+    /// Where the current drag of the knob began, and whether the touch has dragged it.
+    double _dragStart = 0;
+    bool _wasDragged = false;
 };
 
 } // namespace brimsound::toolkit

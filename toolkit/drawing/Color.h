@@ -1,4 +1,3 @@
-// Colors.
 #pragma once
 
 #include "toolkit/geometry/Geometry.h"
@@ -16,7 +15,7 @@ struct Color {
     bool operator==(const Color&) const = default;
 };
 
-/// The color that is a share of the way from one to another.
+/// Linear interpolation.
 constexpr Color between(const Color& from, const Color& to, double share)
 {
     return { between(from.red, to.red, share), between(from.green, to.green, share),

@@ -1,14 +1,15 @@
-// The sign that a view has the keyboard.
 #pragma once
 
 #include "toolkit/drawing/Canvas.h"
 
 namespace brimsound::toolkit {
 
-/// How far the middle of the ring's line keeps within the edges of a view that has no better place for it.
+/// The distance of the ring from the edges of a view that does not choose another place for it, to the middle
+/// of its line, in points.
 inline constexpr double focusRingInset = 4;
 
-/// A line around a rectangle with rounded corners, in the view's own coordinates; none around an empty one.
+/// The line around the view that has the keyboard focus: a rectangle with rounded corners, in the view's own
+/// coordinates. An empty rectangle is not drawn.
 struct FocusRing {
     Rect rect;
     double radius = 10;

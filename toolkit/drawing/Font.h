@@ -1,4 +1,3 @@
-// Fonts, and how much room their text takes.
 #pragma once
 
 #include <string>
@@ -14,11 +13,11 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-// Defined by whoever draws the canvas, so that what is measured is what is drawn.
+// Defined by the implementation of the canvas, so that text is measured as it is drawn.
 
 /// The width in points of one line of text.
 double widthOfLine(const std::string& text, const Font&);
-/// The height in points of a paragraph that is broken into lines at the width.
+/// The height in points of a paragraph that is wrapped at the width.
 double heightOfParagraph(const std::string& text, const Font&, double width);
 
 } // namespace brimsound::toolkit

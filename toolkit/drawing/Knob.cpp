@@ -14,7 +14,7 @@ constexpr Color white { 1, 1, 1 };
 
 void drawKnob(Canvas& canvas, const Rect& rect)
 {
-    // Faint discs one on the other grow darker towards the middle.
+    // The sum of several faint discs is darker toward the middle.
     for (int layer = shadowLayers; layer > 0; --layer) {
         const double spread = (knobShadowReach - shadowDrop) * layer / shadowLayers;
         auto disc = inset(rect, -spread, -spread);

@@ -1,4 +1,3 @@
-// The round knob of sliders and switches.
 #pragma once
 
 #include "toolkit/drawing/Canvas.h"
@@ -8,7 +7,8 @@ namespace brimsound::toolkit {
 /// How far a knob's shadow reaches beyond it, in points.
 inline constexpr double knobShadowReach = 4;
 
-/// Draws a white disc that fills the rectangle, and its soft shadow below and around it.
+/// Draws the knob of a slider or switch: a white disc that fills the rectangle, with a soft shadow below and
+/// around it.
 void drawKnob(Canvas&, const Rect&);
 
 } // namespace brimsound::toolkit

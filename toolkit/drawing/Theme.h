@@ -1,4 +1,4 @@
-// The pane's colors and measures, in one place.
+// The colors and sizes of all views.
 #pragma once
 
 #include "toolkit/drawing/Color.h"

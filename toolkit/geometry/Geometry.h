@@ -52,10 +52,10 @@ constexpr Rect offset(const Rect& rect, Point by)
     return { rect.origin + by, rect.size };
 }
 
-/// The rectangle made smaller at each side; larger where the distances are negative.
+/// The rectangle with each side moved inward, or outward for negative distances.
 Rect inset(const Rect&, double dx, double dy);
 
-/// The value that is a share of the way from one to another.
+/// Linear interpolation.
 constexpr double between(double from, double to, double share)
 {
     return from + (to - from) * share;
@@ -66,7 +66,7 @@ bool isFinite(const Rect&);
 bool contains(const Rect&, Point);
 bool contains(const Rect& outer, const Rect& inner);
 bool intersects(const Rect&, const Rect&);
-/// What both have; of no size where they do not meet.
+/// The intersection; its size is zero when the rectangles do not meet.
 Rect intersection(const Rect&, const Rect&);
 /// The smallest rectangle around both.
 Rect unite(const Rect&, const Rect&);

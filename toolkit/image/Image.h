@@ -1,4 +1,3 @@
-// Pictures that views show.
 #pragma once
 
 #include "toolkit/drawing/Canvas.h"
@@ -6,7 +5,7 @@
 
 namespace brimsound::toolkit {
 
-/// A picture of a size in points that does not change.
+/// A picture with a constant size in points.
 class Image : public Object {
 public:
     Size size() const { return _size; }

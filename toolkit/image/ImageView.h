@@ -1,4 +1,3 @@
-// Views that show an image.
 #pragma once
 
 #include "toolkit/image/Image.h"
@@ -20,7 +19,7 @@ public:
     bool isHighlighted() const { return _highlighted; }
     void setHighlighted(bool);
 
-    /// Called when the image changed, which changes the room that it takes.
+    /// Called when the image changed, because the view may need another size.
     std::function<void()> onChange;
 
     void draw(Canvas&) const override;

@@ -1,4 +1,4 @@
-// Keys of the keyboard as the views see them.
+// Keyboard input of views.
 #pragma once
 
 namespace brimsound::toolkit {
@@ -21,10 +21,10 @@ enum class Key {
     Delete,
 };
 
-/// A key that is held down strikes again and again.
+/// A key that is held down repeats its stroke.
 enum class KeyStroke { First, Repeated };
 
-/// Where the keyboard moves on to, in the order in which the views are read.
+/// A direction in reading order.
 enum class Direction { Previous, Next };
 
 } // namespace brimsound::toolkit

@@ -1,14 +1,14 @@
-// Touches as the views see them.
+// Touch and mouse input of views.
 #pragma once
 
 #include "toolkit/geometry/Geometry.h"
 
 namespace brimsound::toolkit {
 
-/// A mouse button reaches its view at once; a finger may turn out to scroll first.
+/// A mouse press reaches its view immediately, a finger only when it does not scroll.
 enum class Pointer { Finger, Mouse };
 
-/// How far a finger moves, in points, before it is taken to be going somewhere.
+/// How far a finger must move, in points, to count as moving.
 inline constexpr double touchSlop = 10;
 
 /// One finger, or the mouse while its button is down.

@@ -8,7 +8,7 @@ void Object::release() const
 {
     if (--_retainCount != 0)
         return;
-    // References that come and go during the destruction must not destroy the object again.
+    // References that are added and released during the destruction must not destroy the object again.
     _retainCount = 1;
     if (auto* counterpart = std::exchange(_counterpart, nullptr))
         _destroy(counterpart);

@@ -1,4 +1,3 @@
-// Reference-counted objects.
 #pragma once
 
 #include <cstddef>
@@ -6,9 +5,9 @@
 
 namespace brimsound::toolkit {
 
-/// An object with a reference count, born with one reference and destroyed with the last one. An object of
-/// another library may belong to it, as a platform's view to a view: it is retained by retaining this one,
-/// and is destroyed with it. One thread only.
+/// An object with a reference count. It is created with one reference and destroyed with the last one. An
+/// object of another library can belong to it, for example the view of a platform: retaining that object
+/// retains this one, and both are destroyed together. For one thread only.
 class Object {
 public:
     Object() = default;
@@ -19,9 +18,10 @@ public:
     void release() const;
     std::size_t retainCount() const { return _retainCount; }
 
-    /// Null when none belongs to it.
+    /// The object that belongs to this one; may be null.
     void* counterpart() const { return _counterpart; }
-    /// `destroy` is called with the counterpart when the last reference goes, while this is still whole.
+    /// `destroy` is called with the counterpart when the last reference is released, before this object is
+    /// destroyed.
     void setCounterpart(void*, void (*destroy)(void*));
 
 protected:
@@ -33,7 +33,8 @@ private:
     void (*_destroy)(void*) = nullptr;
 };
 
-/// Holds one reference to a T, or none. `make` gives an object's first reference, `keep` another one.
+/// Holds one reference to a T, or none. `make` creates an object with its first reference, `keep` adds a
+/// reference to an existing one.
 template <typename T> class Ref {
 public:
     Ref() = default;

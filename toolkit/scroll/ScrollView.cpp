@@ -11,15 +11,15 @@ namespace brimsound::toolkit {
 
 namespace {
 
-/// The share of its speed that a flick keeps after a second.
+/// The fraction of its speed that a flick keeps after one second.
 constexpr double momentumKept = 0.135;
-/// How quickly a view that was pulled beyond its edge comes back: the share of the way left after a second.
+/// How fast a view returns from beyond its edge: the fraction of the distance left after one second.
 constexpr double pullKept = 1e-5;
-/// The share of a finger's way that a view follows beyond its edge at first.
+/// The fraction of a finger's movement that a view follows just beyond its edge.
 constexpr double resistance = 0.55;
-/// Points a second below which a movement ends.
+/// A movement ends below this speed, in points per second.
 constexpr double slowest = 12;
-/// How far momentum carries beyond an edge, as a share of the view's height.
+/// How far momentum scrolls beyond an edge, as a fraction of the view's height.
 constexpr double overshoot = 1.0 / 8;
 constexpr double trailTime = 0.1;
 constexpr double indicatorTime = 0.8;
@@ -28,13 +28,13 @@ constexpr double indicatorWidth = 3;
 constexpr double indicatorMargin = 3;
 constexpr double shortestIndicator = 24;
 
-/// How far a view follows a finger that is `distance` points beyond the edge of a view of that height.
+/// How far a view of this height is scrolled beyond its edge by a finger that is `distance` points beyond it.
 double resisted(double distance, double height)
 {
     return height * (1 - 1 / (distance * resistance / height + 1));
 }
 
-/// How far beyond the edge the finger is that pulled a view of that height to `distance` points beyond it.
+/// The inverse of `resisted`.
 double unresisted(double distance, double height)
 {
     return height / resistance * (1 / (1 - distance / height) - 1);
@@ -143,7 +143,7 @@ void ScrollView::settle(double velocity)
         double offset = origin().y;
         const double edge = nearestEdge(offset);
         if (offset != edge) {
-            // Beyond an edge only the way back counts.
+            // Beyond an edge it only returns.
             offset = edge + (offset - edge) * std::pow(pullKept, seconds);
             velocity = 0;
             if (std::abs(offset - edge) < 0.5)

@@ -1,4 +1,3 @@
-// Views that scroll up and down.
 #pragma once
 
 #include "toolkit/time/Animation.h"
@@ -8,8 +7,8 @@
 
 namespace brimsound::toolkit {
 
-/// Moves its children under a finger or a wheel: with momentum after a flick, with resistance beyond the
-/// edges. All distances are points.
+/// Scrolls its children vertically, with a finger or a wheel: with momentum after a flick, and with
+/// resistance beyond the edges. All distances are points.
 class ScrollView : public View {
 public:
     explicit ScrollView(const Rect& frame = {});
@@ -18,20 +17,20 @@ public:
 
     void scrollTo(double offset);
     void scrollBy(double distance);
-    /// By so many of its heights, downwards when positive.
+    /// Scrolls by this many times its height, downward when positive.
     void scrollPages(double pages);
     void scrollToEnd() { scrollTo(contentHeight()); }
-    /// Scrolls as little as it takes to show the part, given in the view's own coordinates.
+    /// Scrolls as little as necessary to show the rectangle, given in the view's own coordinates.
     void show(const Rect&);
 
     void beginPan(double windowY);
     void panTo(double windowY);
     void endPan();
-    /// Ends any momentum.
+    /// Stops any momentum.
     void stop();
-    /// Whether the view moves by itself.
+    /// Whether it is scrolling without a touch.
     bool isMoving() const { return _momentum.isRunning(); }
-    /// Moves back to the edge that the view is beyond.
+    /// Starts to scroll back to the edge that the view was scrolled beyond.
     void comeBack();
 
     void drawAbove(Canvas&) const override;
@@ -53,14 +52,14 @@ private:
 
     double _panY = 0;
     double _panOffset = 0;
-    /// The last moments of the pan, for its speed.
+    /// The latest positions of the finger, for the speed of the flick.
     std::deque<Moment> _trail;
     Animation _momentum;
     Animation _indicator;
     double _indicatorAlpha = 0;
 };
 
-/// Scrolls what scrolls around the view as little as it takes to show the view, and lays the window out.
+/// Scrolls the enclosing scroll view as little as necessary to show the view, and lays out the window.
 void scrollIntoView(View&);
 
 } // namespace brimsound::toolkit

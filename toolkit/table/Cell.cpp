@@ -19,7 +19,7 @@ constexpr double lineSpacing = 1.2;
 
 Size sizeOfNewCells { 320, 44 };
 
-/// Gray until it is given a color, within the rounded corners of the group that its row is in.
+/// Gray by default, within the rounded corners of the row's group.
 class SelectedBackground : public View {
 public:
     using View::View;
@@ -55,7 +55,7 @@ double lineHeight(const Label& label)
     return label.font() ? std::ceil(label.font()->size * lineSpacing) : 0;
 }
 
-/// The size in which an image is shown in a row of that height.
+/// The size of an image in a row of this height.
 Size fitted(Size image, double height)
 {
     const double scale = image.height > height ? height / image.height : 1;
@@ -89,7 +89,7 @@ Cell::Cell(Style style, std::string reuseIdentifier)
 
 Cell::~Cell()
 {
-    // Others may hold the parts for longer.
+    // The labels and the image view may exist longer than the cell.
     _textLabel->onChange = nullptr;
     if (_detailLabel)
         _detailLabel->onChange = nullptr;
@@ -194,7 +194,7 @@ void Cell::placeSelectedBackground()
 void Cell::fadeSelectedBackground()
 {
     const auto step = [this](double progress) {
-        // Halfway both looks of the contents can be read.
+        // Halfway, the text is readable in both colors.
         if (progress > 0.5)
             setContentsHighlighted(*_content, false);
         if (_selectedBackgroundView && progress < 1)

@@ -1,4 +1,3 @@
-// The rows of a table.
 #pragma once
 
 #include "toolkit/image/ImageView.h"
@@ -14,35 +13,35 @@ namespace brimsound::toolkit {
 
 class Table;
 
-/// One row. Whatever it shows of its own belongs into the content view, which the cell sizes to what the
-/// accessory leaves free. Back to front: the background, the selected background while the row is pressed or
-/// selected, the content, the accessory.
+/// A row of a table. Its own contents belong in the content view. The cell sizes that to the space that the
+/// accessory leaves. Back to front: the background view, the selected background view while the row is
+/// pressed or selected, the content view, the accessory.
 class Cell : public View {
 public:
     enum class Style {
         OneText,
-        /// A text and a smaller one below it.
+        /// A line of text and a smaller one below it.
         Subtitle,
     };
-    /// Cells that were made with the same reuse identifier stand in for one another.
+    /// Cells with the same reuse identifier can replace each other.
     Cell(Style, std::string reuseIdentifier);
 
     const std::string& reuseIdentifier() const { return _reuseIdentifier; }
     View& content() const { return *_content; }
     Label& textLabel() const { return *_textLabel; }
-    /// Null in the style of one text. While it is empty, the text label has the whole height.
+    /// Null in the style OneText. While it is empty, the text label has the whole height.
     Label* detailLabel() const { return _detailLabel.get(); }
-    /// At the row's left end; made when it is first asked for.
+    /// At the row's left end. Created by the first call.
     ImageView& imageView();
 
-    /// The view at the row's right end; null for none.
+    /// The view at the row's right end; may be null.
     View* accessory() const { return _accessory.get(); }
     void setAccessory(Ref<View>);
-    /// Null for none.
+    /// May be null.
     View* backgroundView() const { return _backgroundView.get(); }
     void setBackgroundView(Ref<View>);
-    /// At first a gray view. In the tree while the row is pressed or selected; null for a row that then looks
-    /// as ever.
+    /// Initially a gray view. It is in the view tree while the row is pressed or selected. Null for a row
+    /// that does not change its appearance then.
     View* selectedBackgroundView() const { return _selectedBackgroundView.get(); }
     void setSelectedBackgroundView(Ref<View>);
 
@@ -54,7 +53,7 @@ public:
     /// Whether the row is pressed.
     bool isHighlighted() const { return _highlighted; }
     void setHighlighted(bool);
-    /// Makes the cell neither pressed nor selected, as a new one is.
+    /// Resets the cell to neither pressed nor selected.
     void prepareForReuse();
 
     const RowAppearance& appearance() const { return _appearance; }
@@ -62,16 +61,17 @@ public:
 
     void layOut() override;
     void drawAbove(Canvas&) const override;
-    /// A row of a list; a button in a grouped table, where rows do things.
+    /// A row in a list. A button in a grouped table, where rows perform actions.
     Role role() const override;
     bool isFocusable() const override { return true; }
     Accessible accessible() const override;
     bool activate() override;
-    /// Has the row deleted. False when a finger could not touch it, or it cannot be deleted.
+    /// Asks the source of the table to delete the row. Returns false when a touch could not do so, or when
+    /// the row cannot be deleted.
     bool deleteRow();
 
-    /// The size of the cells that are made from now on: that of the row which a table is asking for. Without
-    /// it a cell would be laid out for some other width before it is ever seen.
+    /// The size of new cells, which a table sets to that of the row that it requests. Otherwise a cell would
+    /// first be laid out with another width.
     static void setSizeOfNewCells(Size);
 
 protected:
@@ -97,7 +97,7 @@ private:
     bool _selectable = true;
     bool _selected = false;
     bool _highlighted = false;
-    /// Whether the row looks pressed or selected.
+    /// Whether the row is drawn as pressed or selected.
     bool _looksSelected = false;
     Animation _fade;
 };

@@ -13,7 +13,7 @@ DeleteButton::DeleteButton()
 
 void DeleteButton::pressed()
 {
-    // The table may be gone, and the swipe over, by the time that the button is released.
+    // When the button is released, the table may not exist and the swipe may have ended.
     auto* table = dynamic_cast<Table*>(parent());
     if (table && table->swipe().button() == this)
         table->deleteRow(table->swipe().row());
@@ -23,7 +23,7 @@ void DeleteButton::draw(Canvas& canvas) const
 {
     const auto size = shownFrame().size;
     canvas.fillRect({ {}, size }, looksPressed() ? theme::destructivePressed : theme::destructive);
-    // The title moves with the edge of the row that uncovers it.
+    // The title moves with the edge of the row.
     canvas.drawLine(
         title(), makeRect(0, 0, width, size.height), font(), theme::rowBackground, Alignment::Center);
 }

@@ -1,20 +1,19 @@
-// The button beside a row that was swiped.
 #pragma once
 
 #include "toolkit/control/Button.h"
 
 namespace brimsound::toolkit {
 
-/// Deletes the swiped row of the table that it lies in. It may be narrower than it wants to be, or wider.
+/// The button next to a swiped row; it deletes the row. It may be narrower or wider than `width`.
 class DeleteButton : public TitledButton {
 public:
     DeleteButton();
 
-    /// The width that the button wants, in points.
+    /// The width of the button when the swipe is open, in points.
     static constexpr double width = 82;
 
     void draw(Canvas&) const override;
-    /// The Delete key deletes the row that has the keyboard.
+    /// With the keyboard, the Delete key deletes the focused row.
     bool isFocusable() const override { return false; }
 
 protected:

@@ -1,4 +1,3 @@
-// How a row is drawn among the others of its table.
 #pragma once
 
 #include "toolkit/drawing/Color.h"
@@ -7,10 +6,9 @@
 namespace brimsound::toolkit {
 
 struct RowAppearance {
-    /// The color of the hairline at the row's foot.
+    /// The color of the hairline at the row's bottom edge.
     Color separator = transparent;
-    /// The group of rows that the row is part of, in the row's own coordinates, and the radius of its
-    /// corners.
+    /// The frame of the row's group in the row's own coordinates, and the radius of the group's corners.
     Rect group;
     double groupRadius = 0;
 

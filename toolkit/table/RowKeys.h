@@ -1,4 +1,3 @@
-// What keys do to the rows of a list.
 #pragma once
 
 #include "toolkit/input/Key.h"
@@ -10,11 +9,11 @@ namespace brimsound::toolkit {
 
 class Table;
 
-/// The row of a list that has the keyboard. The arrows, Page Up, Page Down, Home and End move to another row,
-/// Return and Space press the row, Delete deletes it.
+/// The keyboard control of the rows of a list. The arrow keys, Page Up, Page Down, Home and End move to
+/// another row, Return and Space press the row, Delete deletes it.
 class RowKeys {
 public:
-    /// The table owns this.
+    /// The table owns this object.
     explicit RowKeys(Table& table)
         : _table(table)
     {
@@ -23,11 +22,11 @@ public:
     /// False for a table without rows.
     bool pressed(Key, KeyStroke);
 
-    /// Where the keyboard was moved to; there may be no such row any more.
+    /// The row that the keys moved to. It may not exist any more.
     RowPath row() const { return _row; }
     void moveTo(RowPath row) { _row = row; }
     void forget() { _row = {}; }
-    /// The row that has the keyboard: that one or, where it is gone, one beside it. Nothing without rows.
+    /// The focused row: row(), or the nearest one when that does not exist. Nothing without rows.
     std::optional<RowPath> shownRow() const;
 
 private:

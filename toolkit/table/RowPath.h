@@ -1,4 +1,3 @@
-// Places of rows.
 #pragma once
 
 #include <compare>

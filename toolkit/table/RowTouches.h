@@ -1,4 +1,3 @@
-// What touches do to the rows of a table.
 #pragma once
 
 #include "toolkit/input/Touch.h"
@@ -10,11 +9,11 @@ namespace brimsound::toolkit {
 
 class Table;
 
-/// A tap selects a row, a finger that moves to the left swipes it. A touch beside an open swipe closes that
-/// and does nothing else.
+/// The touch control of the rows of a table. A tap selects a row, a finger that moves to the left swipes it.
+/// A touch on the rows while a swipe is open only closes the swipe.
 class RowTouches {
 public:
-    /// The table owns this.
+    /// The table owns this object.
     explicit RowTouches(Table& table)
         : _table(table)
     {
@@ -25,11 +24,11 @@ public:
     void ended(const Touch&);
     void cancelled();
 
-    /// Whether the finger swipes, and so does not scroll.
+    /// Whether the touch is swiping a row and therefore cannot scroll.
     bool isSwiping() const;
-    /// The row no longer looks pressed, and the touch does nothing more.
+    /// Resets the pressed row and ignores the rest of the touch.
     void cancelPress();
-    /// All rows are gone.
+    /// Called when all rows were removed.
     void forget() { _touched.reset(); }
 
 private:

@@ -1,4 +1,3 @@
-// Rows that are drawn to the left to be deleted.
 #pragma once
 
 #include "toolkit/geometry/Geometry.h"
@@ -12,37 +11,39 @@ namespace brimsound::toolkit {
 class Table;
 class View;
 
-/// One row of a table that is moved to the left, and the Delete button that this uncovers at its right. All
-/// distances are points.
+/// A row of a table that is moved to the left, and the Delete button that appears at its right. All distances
+/// are points.
 class Swipe {
 public:
-    /// The table owns the swipe.
+    /// The table owns this object.
     explicit Swipe(Table& table)
         : _table(table)
     {
     }
 
     bool isOpen() const { return _row.has_value(); }
-    /// The row that is swiped; only while the swipe is open.
+    /// The swiped row. Only while the swipe is open.
     RowPath row() const { return *_row; }
-    /// The button beside it; null when no row is swiped.
+    /// The Delete button; null when no row is swiped.
     View* button() const { return _button.get(); }
 
     void begin(RowPath);
     void moveTo(double distance);
-    /// The finger is gone: opens the swipe all the way, or closes it when less than half of the button shows.
+    /// Called when the finger is lifted: opens the swipe completely, or closes it when less than half of the
+    /// button is visible.
     void end();
-    /// Opens a row that can be deleted, as a swipe does.
+    /// Opens the swipe of a row, if the row can be deleted.
     void open(RowPath);
     void close();
-    /// Closes when the table was scrolled since.
+    /// Closes the swipe when the table was scrolled after it began.
     void closeIfScrolled();
-    /// All rows are gone.
+    /// Called when all rows were removed.
     void forget();
 
-    /// Where the row stands, given where it would without a swipe. Places the button beside the swiped row.
+    /// The row's frame, given its frame without a swipe. Also places the button next to the swiped row.
     Rect place(RowPath, Rect) const;
-    /// Hands over the button when the row is the swiped one, which ends the swipe; else null.
+    /// Ends the swipe of this row and returns its button, which stays in the table. Null when this is not the
+    /// swiped row.
     Ref<View> takeButtonOf(RowPath);
 
 private:

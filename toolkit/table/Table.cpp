@@ -13,7 +13,7 @@ namespace {
 constexpr double leaveTime = 0.3;
 const Font smallFont { {}, theme::smallTextSize };
 
-/// Where a row is when those are gone.
+/// The path of a row after these rows were removed.
 RowPath without(const std::set<RowPath>& gone, RowPath row)
 {
     const auto above = std::distance(gone.lower_bound({ row.section, 0 }), gone.lower_bound(row));
@@ -91,7 +91,7 @@ const TableLayout& Table::measuredRows()
     if (!_measuredSize || _measuredSize->width != size.width)
         measure();
     _measuredSize = size;
-    // A table that became taller must not stay scrolled beyond its end.
+    // A table that became taller may be scrolled beyond its end.
     scrollTo(origin().y);
     setNeedsDisplay();
     return _rows;
@@ -112,7 +112,7 @@ void Table::makeCells(double distanceBelow)
         const auto& [row, cell] = entry;
         if (_rows.hasRow(row) && intersects(_rows.rowRect(row), inView))
             return false;
-        // The cell may have been set to be not selected, which the table is not told.
+        // The cell may have been deselected, which does not call the table.
         if (_selectedRow == row && !cell->isSelected())
             _selectedRow.reset();
         putAside(cell);
@@ -153,7 +153,7 @@ RowAppearance Table::appearanceOf(RowPath row) const
 {
     RowAppearance appearance;
     const bool grouped = _style == Style::Grouped;
-    // A group has edges of its own.
+    // The last row of a group has no separator.
     if (!grouped || !_rows.isLastOfSection(row))
         appearance.separator = shownSeparatorColor();
     if (grouped) {
@@ -205,7 +205,7 @@ void Table::select(RowPath row)
     _selectedRow = row;
     if (cell) {
         cell->setSelected(true, false);
-        // A row that is set to be not selected in what follows fades from here.
+        // A row that is deselected by the source fades out from here.
         cell->setHighlighted(false);
     }
     if (_source)
@@ -224,14 +224,14 @@ bool Table::deleteRow(RowPath row)
     // Deleting the row may remove the table.
     const auto kept = keep(this);
     _source->deleteRow(row);
-    // The source may have left the row where it was.
+    // The source may not have removed the row.
     _swipe.close();
     return true;
 }
 
 void Table::removeRows(const std::set<RowPath>& gone)
 {
-    // All rows are about to be asked for anew.
+    // All rows will be requested again.
     if (!_measuredSize)
         return;
     _touches.cancelPress();
@@ -269,7 +269,7 @@ void Table::slideOut(RowPath row, const Ref<Cell>& cell)
     const auto changes = [&] {
         cell->setFrame(offset(rect, { -rect.size.width, 0 }));
         cell->setAlpha(0);
-        // The button fills what the row leaves empty, and gives way to the rows that move up.
+        // The button fills the space of the removed row while the next rows move up.
         if (button)
             button->setFrame({ rect.origin, { rect.size.width, 0 } });
     };
@@ -283,7 +283,7 @@ void Table::slideOut(RowPath row, const Ref<Cell>& cell)
 
 Accessible Table::accessible() const
 {
-    // Headers and footers are no views of their own.
+    // Headers and footers are not views.
     std::string texts;
     for (const auto& section : _rows.sections()) {
         for (const auto* text : { &section.header, &section.footer }) {

@@ -1,4 +1,3 @@
-// Scrolling lists of rows in sections.
 #pragma once
 
 #include "toolkit/scroll/ScrollView.h"
@@ -16,13 +15,13 @@
 
 namespace brimsound::toolkit {
 
-/// Asks its source for the rows on view and keeps the cells of those that scrolled off for reuse. What is
-/// around the rows of a grouped table (headers, footers, the white groups) is drawn by the table itself,
-/// below its cells.
+/// A scrolling list of rows in sections. It requests cells for the visible rows from its source, and keeps
+/// the cells of rows that scrolled away for reuse. In a grouped table it draws the headers, the footers and
+/// the white groups itself, below the cells.
 class Table : public ScrollView {
 public:
     enum class Style {
-        /// One list of rows, which takes the keyboard for its rows.
+        /// One list of rows. The table has the keyboard focus for them.
         List,
         /// Groups of rows with texts above and below.
         Grouped,
@@ -30,37 +29,37 @@ public:
     Table(const Rect& frame, Style);
 
     Style style() const { return _style; }
-    /// Not owned; null for none. Reloads the table.
+    /// Not owned; may be null. Reloads the table.
     void setSource(TableSource*);
-    /// Forgets all rows (their cells can be reused) and what was selected; the rows on view are asked for
-    /// anew before the next drawing.
+    /// Drops all rows and the selection; the cells can be reused. The visible rows are requested again before
+    /// the next drawing.
     void reload();
-    /// Removes rows that the source no longer has. All others keep their cells; those below move up.
+    /// Removes rows that the source no longer has. The other rows keep their cells; those below move up.
     void removeRows(const std::set<RowPath>&);
-    /// A cell that was made with the identifier and is not on view; null when there is none.
+    /// A cell with this identifier that is not in use; may be null.
     Ref<Cell> takeReusableCell(const std::string& identifier);
-    /// The hairlines between rows; nothing for the theme's color.
+    /// The color of the hairlines between rows; nothing for the theme's color.
     std::optional<Color> separatorColor() const { return _separatorColor; }
     void setSeparatorColor(std::optional<Color>);
 
-    /// As last measured, which is before the table is drawn.
+    /// The layout when the rows were last measured, which is before the table is drawn.
     const TableLayout& rows() const { return _rows; }
     /// Whether the rows were measured since the last reload.
     bool isMeasured() const { return _measuredSize.has_value(); }
-    /// Measured now where the rows or the width changed since.
+    /// Measures the rows first if they or the width changed.
     const TableLayout& measuredRows();
-    /// The cell of a row that is on view, else null.
+    /// The cell of a visible row, otherwise null.
     Cell* cellOf(RowPath) const;
-    /// The row that the cell stands for; nothing when it is not on view.
+    /// The row that the cell shows; nothing when it is not in use.
     std::optional<RowPath> rowOf(const Cell&) const;
-    /// Scrolls as little as it takes to show the row, which then has its cell.
+    /// Scrolls as little as necessary to show the row. It then has a cell.
     void scrollToRow(RowPath);
 
-    /// Does what a tap on the row does: closes an open swipe, else selects the row.
+    /// Has the effect of a tap on the row: closes an open swipe, otherwise selects the row.
     void press(RowPath);
     void select(RowPath);
     bool canDelete(RowPath) const;
-    /// Has the source delete the row. False when the row cannot be deleted.
+    /// Asks the source to delete the row. Returns false when the row cannot be deleted.
     bool deleteRow(RowPath);
     Swipe& swipe() { return _swipe; }
 
@@ -98,17 +97,17 @@ private:
     TableSource* _source = nullptr;
     std::optional<Color> _separatorColor;
     TableLayout _rows;
-    /// What the rows were measured for; unset when the data changed since.
+    /// The size for which the rows were measured; unset when the data changed since.
     std::optional<Size> _measuredSize;
     std::map<RowPath, Ref<Cell>> _cells;
     std::multimap<std::string, Ref<Cell>> _reusable;
-    /// Cells of removed rows on their way out.
+    /// Cells of removed rows while they move out.
     std::vector<Ref<Cell>> _leaving;
     std::optional<RowPath> _selectedRow;
     RowTouches _touches { *this };
     Swipe _swipe { *this };
     RowKeys _keys { *this };
-    /// Counts changes of the rows, so that a function that asks the source about them notices changes.
+    /// Counts changes of the rows. Functions that call the source use it to notice changes.
     unsigned _changes = 0;
 };
 

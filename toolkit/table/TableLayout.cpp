@@ -34,7 +34,7 @@ TableLayout::TableLayout(TableSource& source, bool grouped, double width)
         _height += gapBelowLast;
 }
 
-/// Puts the section below those before, which end at the height so far.
+/// Adds a section below the others, at the current height.
 void TableLayout::addSection(
     TableSource& source, std::size_t section, bool grouped, double left, double width)
 {

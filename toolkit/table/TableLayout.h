@@ -1,4 +1,3 @@
-// Where the parts of a table stand.
 #pragma once
 
 #include "toolkit/geometry/Geometry.h"
@@ -13,7 +12,7 @@ namespace brimsound::toolkit {
 
 class TableSource;
 
-/// Where the parts of one section stand, in the table's own coordinates.
+/// The positions of the parts of one section, in the table's own coordinates.
 struct TableSection {
     std::string header;
     Rect headerRect;
@@ -21,7 +20,7 @@ struct TableSection {
     Rect footerRect;
     /// Around all rows.
     Rect rowsRect;
-    /// The top of each row, and below them the bottom of the last.
+    /// The top of each row, followed by the bottom of the last one.
     std::vector<double> rowTops;
 
     std::size_t rowCount() const { return rowTops.size() - 1; }
@@ -30,10 +29,10 @@ struct TableSection {
 /// The measured rows, headers and footers of a table. All lengths are points.
 class TableLayout {
 public:
-    /// No rows at all.
+    /// Without rows.
     TableLayout() = default;
-    /// Asks the source for the rows. A group of rows spans a narrow table from edge to edge and becomes a
-    /// card of a readable width in a wide one. A table that is not grouped has neither headers nor footers.
+    /// Asks the source for the rows. A group of rows spans a narrow table from edge to edge; in a wide table
+    /// it is a card of a readable width. A table that is not grouped has neither headers nor footers.
     TableLayout(TableSource&, bool grouped, double width);
 
     const std::vector<TableSection>& sections() const { return _sections; }
@@ -42,7 +41,7 @@ public:
     double cornerRadius() const { return _cornerRadius; }
 
     bool hasRow(RowPath) const;
-    /// Of a row that there is.
+    /// The row must exist.
     Rect rowRect(RowPath) const;
     std::optional<RowPath> rowAt(Point) const;
     std::vector<RowPath> rowsIn(const Rect&) const;

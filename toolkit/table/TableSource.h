@@ -1,4 +1,3 @@
-// Where a table gets its rows.
 #pragma once
 
 #include "toolkit/object/Object.h"
@@ -11,8 +10,8 @@ namespace brimsound::toolkit {
 
 class Cell;
 
-/// Asked by a table for its rows, and told what the user does with them. It may change the table's rows in
-/// any of its calls.
+/// Provides the rows of a table, and is called when the user selects or deletes one. It may change the rows
+/// of the table in any call.
 class TableSource {
 public:
     virtual ~TableSource() = default;
@@ -24,13 +23,13 @@ public:
     /// Texts above and below a section of a grouped table; empty for none.
     virtual std::string header(std::size_t section) = 0;
     virtual std::string footer(std::size_t section) = 0;
-    /// A cell that shows the row, new or out of the table's reuse; null for none.
+    /// A new or reused cell that shows the row; may be null.
     virtual Ref<Cell> cell(RowPath) = 0;
-    /// The row's cell has its frame and is about to appear.
+    /// Called before the row's cell appears, with its frame set.
     virtual void willShow(Cell&, RowPath) = 0;
     virtual void selected(RowPath) = 0;
     virtual bool canDelete(RowPath) = 0;
-    /// The user wants the row deleted. The source removes it from what it shows, then from the table.
+    /// Called when the user deletes the row. The source removes it from its data and then from the table.
     virtual void deleteRow(RowPath) = 0;
 };
 

@@ -23,7 +23,7 @@ void Label::changed() const
         onChange();
 }
 
-/// Draws the text again when it shows in another color.
+/// Redraws the text when its visible color changed.
 template <typename Value> void Label::setLook(Value& member, Value value)
 {
     const auto before = shownColor();

@@ -1,4 +1,3 @@
-// Lines of text.
 #pragma once
 
 #include "toolkit/view/View.h"
@@ -14,12 +13,12 @@ public:
 
     const std::string& text() const { return _text; }
     void setText(std::string);
-    /// Nothing shows without a font.
+    /// Without a font, the text is not drawn.
     const std::optional<Font>& font() const { return _font; }
     void setFont(std::optional<Font>);
     Color color() const { return _color; }
     void setColor(Color);
-    /// What the text has while it is highlighted; nothing for the same.
+    /// The text's color while the label is highlighted; nothing for the same color.
     std::optional<Color> highlightedColor() const { return _highlightedColor; }
     void setHighlightedColor(std::optional<Color>);
     bool isHighlighted() const { return _highlighted; }
@@ -27,7 +26,7 @@ public:
     Alignment alignment() const { return _alignment; }
     void setAlignment(Alignment);
 
-    /// Told when the text or the font changed, which changes the room that it takes.
+    /// Called when the text or the font changed, because the label may need another size.
     std::function<void()> onChange;
 
     void draw(Canvas&) const override;

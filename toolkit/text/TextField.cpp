@@ -11,10 +11,10 @@ namespace brimsound::toolkit {
 namespace {
 
 constexpr double caretWidth = 2;
-/// The caret's height for a font of size 1.
+/// The height of the caret, as a multiple of the font's size.
 constexpr double caretHeight = 1.2;
 const Font returnFont { theme::boldFont, 15 };
-/// Between the text and the return key's title.
+/// The space between the text and the title of the return key, in points.
 constexpr double returnGap = 8;
 constexpr double pressedAlpha = 0.3;
 
@@ -27,7 +27,7 @@ ReturnKey::ReturnKey(std::string title, std::function<void()> onPress)
 
 double ReturnKey::width() const
 {
-    // A little wider than the title, as one that just fits may end in an ellipsis.
+    // One point more, because a title that just fits may be truncated.
     return returnGap + widthOfLine(title(), returnFont) + 1;
 }
 
@@ -143,7 +143,7 @@ void TextField::draw(Canvas& canvas) const
     const double height = _font->size * caretHeight;
     canvas.save();
     canvas.clip(area);
-    // A little wider than the text, as one that just fits may end in an ellipsis.
+    // One point more, because a text that just fits may be truncated.
     canvas.drawLine(
         _text, makeRect(caret - width, 0, width + 1, area.size.height), *_font, _color, Alignment::Left);
     canvas.fillRect(makeRect(caret, (area.size.height - height) / 2, caretWidth, height), theme::tint);

@@ -1,4 +1,3 @@
-// Fields to type a line into.
 #pragma once
 
 #include "toolkit/control/Button.h"
@@ -10,12 +9,12 @@
 
 namespace brimsound::toolkit {
 
-/// The key at the right end of a field that has the keyboard; its title is not the desktop's.
+/// The button at the right end of a text field that has the keyboard focus.
 class ReturnKey : public TitledButton {
 public:
     ReturnKey(std::string title, std::function<void()> onPress);
 
-    /// What it takes beside the text, in points.
+    /// The width that it takes from the text, in points.
     double width() const;
     void show(bool);
     void rename(std::string title) { setTitle(std::move(title)); }
@@ -27,50 +26,51 @@ private:
     bool _shows = false;
 };
 
-/// Draws its text and, while it has the keyboard, a caret behind it and the return key at the right end. In a
-/// real window an editor of the desktop's own lies over the text then, which knows selections, the clipboard
-/// and input methods.
+/// A field for one line of text. While it has the keyboard focus it draws a caret after the text, and the
+/// return key at its right end. In a real window, an editor widget then covers the text, with selection,
+/// clipboard and input methods.
 class TextField : public Control {
 public:
     explicit TextField(const Rect& frame = {});
 
     const std::string& text() const { return _text; }
     void setText(const std::string&);
-    /// Puts the text where the caret is: at the end.
+    /// Appends to the text, where the caret is.
     void type(const std::string& typed) { setText(_text + typed); }
-    /// Nothing shows without a font.
+    /// Without a font, the text is not drawn.
     const std::optional<Font>& font() const { return _font; }
     void setFont(std::optional<Font>);
     Color color() const { return _color; }
     void setColor(Color);
     void setReturnTitle(const std::string&);
 
-    /// The return key was pressed, on the keyboard or in the field. What it does may take the field away.
+    /// Called when the return key is pressed, on the keyboard or in the field. The function may remove the
+    /// field.
     std::function<void()> onReturn;
-    /// Does what the return key does.
+    /// Has the effect of the return key.
     void confirm();
 
     ReturnKey& returnKey() const { return *_returnKey; }
 
-    /// The part of the field that the text has, in the field's own coordinates.
+    /// The part of the field with the text, in the field's own coordinates.
     Rect textArea() const;
 
     enum class Editor {
         None,
-        /// Lies over the field, which shows the text all the same.
+        /// It covers the field but is not visible; the field draws its text.
         Hidden,
         Showing,
     };
-    /// Told by whoever lends it an editor.
+    /// Called by the program that puts an editor over the field.
     void setEditor(Editor);
 
     void draw(Canvas&) const override;
     void layOut() override;
-    /// None: the caret shows it.
+    /// None, because the caret shows the focus.
     FocusRing focusRing() const override { return {}; }
     bool takesText() const override { return true; }
     bool keyPressed(Key, KeyStroke) override;
-    /// An editor speaks for itself.
+    /// An editor is an element for screen readers itself.
     Role role() const override { return _editor == Editor::None ? Role::TextField : Role::None; }
     Accessible accessible() const override;
 

@@ -7,7 +7,7 @@
 
 namespace brimsound::toolkit {
 
-/// What the clock and the animation know of each other: either may be the first to go.
+/// Shared by the clock and the animation, because either may be destroyed first.
 struct Animation::Movement {
     bool isRunning = true;
 };
@@ -19,7 +19,7 @@ double linear(double progress)
 
 double easeInOut(double progress)
 {
-    // The curve gives x(s) and y(s); s is found by halving, as x only ever grows.
+    // The curve gives x(s) and y(s). Bisection finds s, because x increases with s.
     const auto bezier = [](double first, double second, double s) {
         return 3 * first * s * (1 - s) * (1 - s) + 3 * second * s * s * (1 - s) + s * s * s;
     };

@@ -1,4 +1,3 @@
-// Movements over time.
 #pragma once
 
 #include <cstdint>
@@ -7,18 +6,18 @@
 
 namespace brimsound::toolkit {
 
-// Curves, both ways from 0 to 1.
+// Curves: functions of the progress, both from 0 to 1.
 
 /// Constant speed.
 double linear(double progress);
 /// The cubic Bézier curve through (0, 0), (0.42, 0), (0.58, 1) and (1, 1).
 double easeInOut(double progress);
-/// Fast at first: the parabola with its top at (1, 1).
+/// Decreasing speed: the parabola with its vertex at (1, 1).
 double easeOut(double progress);
 
-/// One movement at a time, on the clock. Starting another one cancels the one before, and so does the end of
-/// the animation's own life; a movement that is cancelled does not complete. Steps and completions may start
-/// and cancel movements, and may destroy the animation.
+/// Runs one movement at a time on the clock. Starting another one, and destroying the animation, cancels the
+/// current one. A canceled movement does not complete. Steps and completions may start and cancel movements,
+/// and may destroy the animation.
 class Animation {
 public:
     Animation() = default;
@@ -26,12 +25,12 @@ public:
     Animation& operator=(const Animation&) = delete;
     ~Animation() { cancel(); }
 
-    /// Calls the step on every frame with the curve's progress, and the completion after the step at 1.
+    /// Calls the step on every frame with the value of the curve, and the completion after the step at 1.
     void start(double seconds, double (*curve)(double), std::function<void(double progress)> step,
         std::function<void()> completion = nullptr);
     /// Calls the step on every frame with the seconds since the frame before, until it returns false.
     void run(std::function<bool(double seconds)> step);
-    /// Calls the action once after so many seconds.
+    /// Calls the action once after this many seconds.
     void wait(double seconds, std::function<void()> action);
     void cancel();
 

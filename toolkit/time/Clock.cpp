@@ -47,7 +47,7 @@ std::optional<double> Clock::untilNextAction() const
 void Clock::advance(double seconds)
 {
     const double end = _now + seconds;
-    // An action on the way may set something in motion, so it is gone to the next action when nothing moves.
+    // An action may start a movement. Without one, the time can be advanced to the next action.
     while (isAnimating() || !_actions.empty()) {
         const double next = isAnimating() ? _now + frame : _actions.begin()->first;
         if (next >= end)
@@ -70,8 +70,8 @@ void Clock::moveTo(double time)
 
 void Clock::step()
 {
-    // A step may start another movement, so the list is not walked while it is being run. A movement that
-    // was started at the real time may be ahead of a clock that is still catching up.
+    // A step may start another movement, so the list must not change while it is iterated. A movement that
+    // started at the real time may start after the time to which the clock has been advanced.
     auto movements = std::exchange(_movements, {});
     std::erase_if(movements,
         [this](const Movement& movement) { return !movement.step(std::max(0.0, _now - movement.start)); });

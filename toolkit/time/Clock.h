@@ -1,4 +1,3 @@
-// The one clock of the view tree.
 #pragma once
 
 #include <cstdint>
@@ -9,16 +8,15 @@
 
 namespace brimsound::toolkit {
 
-/// Time in seconds since the start. With a window it is the real time, and the main loop has the clock catch
-/// up with it; without one it stands still until a script moves it forward. Everything that happens later or
-/// moves is due here.
+/// The clock of all views. Times are seconds since the start. In a window the main loop advances it to the
+/// real time; without a window it stands still until a script advances it.
 class Clock {
 public:
     static Clock& shared();
 
     double now() const { return realTime ? realTime() : _now; }
 
-    /// Calls the action once, `delay` seconds from now. The number cancels it.
+    /// Calls the action once, `delay` seconds from now. The returned number cancels it.
     std::uint64_t after(double delay, std::function<void()> action);
     void cancel(std::uint64_t);
 
@@ -26,19 +24,19 @@ public:
     /// false.
     void onEveryFrame(std::function<bool(double elapsed)> step);
 
-    /// Moves the time forward, calling what falls due on the way in the order in which it does.
+    /// Advances the time, and calls what is due until then, in order.
     void advance(double seconds);
-    /// Moves the time forward to now, for a clock that has a real time.
+    /// Advances to the real time.
     void catchUp() { advance(now() - _now); }
 
-    /// Whether something moves, so that frames are wanted.
+    /// Whether something is called on every frame.
     bool isAnimating() const { return !_movements.empty(); }
-    /// Seconds until the next action falls due; nothing when none is.
+    /// Seconds until the next action; nothing without actions.
     std::optional<double> untilNextAction() const;
 
-    /// Set by the main loop: the seconds that have really passed since the start. Never goes back.
+    /// Set by the main loop: the real time since the start, in seconds. It must not decrease.
     std::function<double()> realTime;
-    /// Set by the main loop: called when something was added.
+    /// Set by the main loop: called when an action or a function for every frame was added.
     std::function<void()> onChange;
 
 private:

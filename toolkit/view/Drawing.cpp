@@ -1,4 +1,3 @@
-// How views are drawn, and what of them has to be.
 #include "toolkit/scroll/ScrollView.h"
 #include "toolkit/view/Transition.h"
 #include "toolkit/view/View.h"
@@ -10,7 +9,7 @@ namespace brimsound::toolkit {
 
 namespace {
 
-/// Whether the rectangle comes into one of the squares that hold the rounded corners of the one around it.
+/// Whether the rectangle intersects one of the squares with the rounded corners of `around`.
 bool reachesCorner(const Rect& rect, const Rect& around, double radius)
 {
     const double beside = std::min(rect.left() - around.left(), around.right() - rect.right());
@@ -129,7 +128,7 @@ void View::drawContents(Canvas& canvas) const
 
 FocusRing View::focusRing() const
 {
-    // Scrolling must not change its shape.
+    // Scrolling must not change the ring's shape.
     const auto part = partWithin(enclosingScrollView());
     return { inset(part, focusRingInset, focusRingInset), focusRingRadius() };
 }

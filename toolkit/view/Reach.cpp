@@ -1,4 +1,4 @@
-// Which views the user can get at, and what covers them.
+// Which views touches and screen readers can reach, and which are covered.
 #include "toolkit/scroll/ScrollView.h"
 #include "toolkit/view/View.h"
 #include "toolkit/window/Window.h"
@@ -9,7 +9,7 @@ namespace brimsound::toolkit {
 
 namespace {
 
-/// Views fainter than this are neither seen nor touched.
+/// Views with a smaller alpha are neither visible nor touchable.
 constexpr double faintest = 0.01;
 
 bool isLeaf(Role role)
@@ -54,7 +54,7 @@ View* View::hitTest(Point point)
 
 std::optional<Point> View::placeToTouch()
 {
-    /// How far from the edges of a view it is touched beside what lies over it, in points.
+    /// The distance from the edges of the view to the points near the edges that are tried, in points.
     constexpr double edge = 1;
     auto* around = window();
     if (!around)
@@ -92,7 +92,7 @@ bool View::isCoveredBySibling() const
     return std::any_of(self + 1, siblings.end(), [](const auto& front) { return front->coversParent(); });
 }
 
-/// Whether the view shows among its siblings and none of them covers it.
+/// Whether the view is visible and not covered by one of its siblings.
 bool View::isShown() const
 {
     return !_hidden && _alpha >= faintest && !ignoresTouches() && !isCoveredBySibling();

@@ -1,4 +1,3 @@
-// Movements of a view from how it looks to how it is.
 #pragma once
 
 #include "toolkit/drawing/Color.h"
@@ -11,14 +10,14 @@
 
 namespace brimsound::toolkit {
 
-/// One property on its way from how it showed to its value. Times are seconds.
+/// The animated change of one property. Times are seconds.
 template <typename Value> struct Movement {
     Value from;
     Value shown;
     double elapsed = 0;
     double duration = 0;
 
-    /// False when it has arrived.
+    /// False at the end.
     bool step(const Value& target, double seconds)
     {
         elapsed += seconds;
@@ -30,7 +29,7 @@ template <typename Value> struct Movement {
     }
 };
 
-/// What moves about one view while changes of it are animated.
+/// The animated changes of one view.
 class Transition {
 public:
     explicit Transition(View& view)
@@ -38,19 +37,19 @@ public:
     {
     }
 
-    /// How changes of views show that are made now.
+    /// How changes of properties are currently animated.
     struct Changes {
-        /// In seconds; 0 for changes that show at once.
+        /// In seconds; 0 for changes without an animation.
         double duration = 0;
-        /// Whether a property that is already moving starts at the value that it was moving to, instead of
-        /// where it shows.
+        /// Whether the animation of a property starts at the value that was set before, instead of the value
+        /// that is shown.
         bool fromValue = false;
     };
-    /// For code that cannot make its changes in one call of View::animate.
+    /// For code that cannot make all changes in one call of View::animate.
     static Changes& changes();
 
-    // The property is about to change. Within View::animate it moves from how it shows now to its new value;
-    // else it changes at once, wherever it was moving.
+    // Called before a property changes. Within View::animate the property is animated from its shown value to
+    // the new one; otherwise it changes immediately, and its animation ends.
     static void frame(View& view) { change(view, &Transition::_frame, view.shownFrame(), view.frame()); }
     static void alpha(View& view) { change(view, &Transition::_alpha, view.shownAlpha(), view.alpha()); }
     static void background(View& view)

@@ -108,10 +108,10 @@ void View::setFrame(const Rect& frame)
 void View::resizeChildren(Size before)
 {
     const auto follows = [](const auto& child) { return child->_followsWidth || child->_followsHeight; };
-    // Most have none that follows.
+    // This is the case for most views.
     if (std::ranges::none_of(_children, follows))
         return;
-    // A child that is resized may change the list.
+    // Resizing a child may change the list.
     const auto children = _children;
     for (const auto& child : children) {
         auto size = child->_frame.size;
@@ -153,7 +153,7 @@ Point View::toWindow(Point point) const
 Rect View::partWithin(const View* outermost) const
 {
     auto part = bounds();
-    // Where the view's own coordinates start in those of the view around it.
+    // The origin of the view's coordinates in those of the current ancestor.
     Point start;
     for (const auto* view = this; view != outermost && view->_parent; view = view->_parent) {
         start = view->toParent(start);
@@ -192,7 +192,7 @@ void View::setHidden(bool hidden)
 {
     if (_hidden == hidden)
         return;
-    // Before and after, as what is hidden asks for no drawing.
+    // Both before and after, because it does nothing while the view is hidden.
     setNeedsDisplay();
     _hidden = hidden;
     reachChanged();
@@ -203,7 +203,7 @@ void View::setClips(bool clips)
 {
     if (_clips == clips)
         return;
-    // Before and after, as what is clipped asks for less drawing.
+    // Both before and after, because a view that clips draws on a smaller area.
     setNeedsDisplay();
     _clips = clips;
     reachChanged();

@@ -1,4 +1,3 @@
-// The nodes of the view tree.
 #pragma once
 
 #include "toolkit/accessibility/Accessible.h"
@@ -20,8 +19,9 @@ class ScrollView;
 class Transition;
 class Window;
 
-/// A rectangle with a place in its parent. A view holds its children and not its parent. Coordinates are
-/// points; a view's own start at its origin, which is not zero for one that is scrolled.
+/// A node of the view tree: a rectangle in its parent's coordinates. A view keeps references to its children,
+/// but not to its parent. Coordinates are points. A view's own coordinates start at its origin, which changes
+/// when it scrolls.
 class View : public Object {
 public:
     explicit View(const Rect& frame = {});
@@ -30,16 +30,16 @@ public:
     View* parent() const { return _parent; }
     /// Back to front.
     const std::vector<Ref<View>>& children() const { return _children; }
-    /// Puts the view in front of the other children, out of its former parent.
+    /// Adds the view in front of the other children, after removing it from its former parent.
     void add(View&);
-    /// The same, at that place from the back.
+    /// The same at that index from the back.
     void insert(View&, std::size_t place);
     void removeFromParent();
-    /// Whether this is the ancestor or lies in it.
+    /// Whether this is the ancestor or one of its descendants.
     bool isWithin(const View& ancestor) const;
-    /// Null outside of a window.
+    /// Null when the view is not in a window.
     Window* window() const;
-    /// The view itself or the nearest view around it that scrolls; null when there is none.
+    /// The view itself or its nearest ancestor that scrolls; may be null.
     ScrollView* enclosingScrollView() const;
 
     // Place and size.
@@ -50,155 +50,156 @@ public:
     Rect bounds() const { return { _origin, _frame.size }; }
     Point origin() const { return _origin; }
     void setOrigin(Point);
-    /// Whether the width, and the height, grows and shrinks by as much as the parent's does.
+    /// Whether the width and the height change by as much as the parent's.
     void setFollowsParent(bool width, bool height);
     bool followsWidth() const { return _followsWidth; }
     bool followsHeight() const { return _followsHeight; }
-    /// A point of the window in the view's own coordinates, and back.
+    /// Convert between the coordinates of the window and of the view.
     Point fromWindow(Point) const;
     Point toWindow(Point) const;
-    /// The part that lies within the views around this one, up to the outermost one or, without it, up to the
+    /// The part of the bounds within all ancestors, up to `outermost` or, when that is null, up to the
     /// window; in the view's own coordinates.
     Rect partWithin(const View* outermost) const;
 
-    /// A number to find the view by, at first 0.
+    /// For finding the view by number; initially 0.
     long tag() const { return _tag; }
     void setTag(long tag) { _tag = tag; }
-    /// The view itself or the first one in it, depth first, that has the tag; null when there is none.
+    /// The view itself or its first descendant, depth first, with this tag; may be null.
     View* withTag(long);
 
-    // Looks.
-    /// Nothing is no background.
+    // Appearance.
+    /// Nothing for no background.
     std::optional<Color> background() const { return _background; }
     void setBackground(std::optional<Color>);
-    /// 0 (invisible) to 1; the view fades together with everything in it.
+    /// 0 (invisible) to 1, for the view with all its descendants.
     double alpha() const { return _alpha; }
     void setAlpha(double);
     double cornerRadius() const { return _cornerRadius; }
     void setCornerRadius(double);
     bool isHidden() const { return _hidden; }
     void setHidden(bool);
-    /// Whether children are cut off at the view's edges.
+    /// Whether the children are clipped to the bounds.
     bool clips() const { return _clips; }
     void setClips(bool);
-    // While a change is animated, what is shown of it.
+    // The current values during an animated change.
     Rect shownFrame() const;
     double shownAlpha() const;
     Color shownBackground() const;
-    /// Whether something of it is on its way to what it is.
+    /// Whether a property is animated.
     bool isMoving() const;
 
     // Layout and drawing.
     void setNeedsLayout() { _needsLayout = true; }
-    /// Lays out the view and everything in it that asked for it.
+    /// Lays out the view and its descendants that need it.
     void layOutIfNeeded();
-    /// Marks the view, or a part of it in its own coordinates, to be drawn again.
+    /// Marks the view, or a rectangle in its own coordinates, for drawing.
     void setNeedsDisplay() const;
     void setNeedsDisplay(const Rect&) const;
-    /// Draws the view and everything in it; the canvas is in the coordinates of its parent.
+    /// Draws the view and its descendants. The canvas is in the parent's coordinates.
     void drawTree(Canvas&) const;
 
     // Touches.
-    /// Whether the view and all in it can be touched, as at first; else touches go to what lies below.
+    /// Whether the view and its descendants accept touches, initially true. Otherwise touches go to the views
+    /// below.
     bool isInteractive() const { return _interactive; }
     void setInteractive(bool interactive) { _interactive = interactive; }
-    /// Whether touches reach the view, or what is in it, where nothing lies over it.
+    /// Whether the view accepts touches where nothing covers it.
     bool canBeTouched() const;
-    /// Whether the view keeps touches from everything that lies below it in its parent.
+    /// Whether the view covers its parent, so that no touch reaches the views below it.
     bool coversParent() const;
-    /// The frontmost view at the point, given in the view's own coordinates; null when it is outside or
-    /// nothing there can be touched.
+    /// The frontmost view at the point, given in the view's own coordinates. Null when the point is outside
+    /// or nothing there accepts touches.
     View* hitTest(Point);
-    /// Whether the user can get at the view: it is in a window, not hidden and not covered.
+    /// Whether the view is in a window, neither hidden nor covered.
     bool isReachable() const;
-    /// A place in the view, in its own coordinates, where a finger would touch it and nothing in front of it:
-    /// the middle of what shows when that is one. Nothing when there is none.
+    /// A point in the view's own coordinates where a touch would reach the view: the middle of the visible
+    /// part if possible. Nothing when there is none.
     std::optional<Point> placeToTouch();
-    /// Scrolls the view into sight. False when a finger could not touch it there: it is covered, or something
-    /// is touched already.
+    /// Scrolls the view into view. Returns false when a touch could not reach it there: it is covered, or
+    /// another touch is active.
     bool comeIntoReach();
-    /// Whether something lies over the view, or over a view around it, and keeps the user from it.
+    /// Whether another view covers this view or one of its ancestors.
     bool isCovered() const;
 
     // Accessibility.
-    /// What a screen reader calls the view; empty for one that says so itself.
+    /// The name for screen readers. Empty for views that derive it from their contents.
     const std::string& label() const { return _label; }
     void setLabel(std::string label) { _label = std::move(label); }
-    /// Whether a screen reader reads a text. One that names a control is read with that.
+    /// Whether a text is an element for screen readers. False for the text that names a control.
     bool isRead() const { return _read; }
     void setRead(bool read) { _read = read; }
-    /// Whether a screen reader is told that it is the chosen one among those beside it.
+    /// Whether screen readers announce the view as the selected one of its siblings.
     bool isChosen() const { return _chosen; }
     void setChosen(bool chosen) { _chosen = chosen; }
-    /// Tells whoever listens at the view's window.
+    /// Passes the change to the window's listener.
     void accessibleChanged(AccessibleChange);
-    /// Told when the view is gone. For whoever speaks for the view outside the tree.
+    /// Called when the view is destroyed.
     std::function<void()> onDestroyed;
 
-    // What kinds of views do in their own way.
-    /// Places the children; called when the size changed or a layout was asked for.
+    // For derived classes to override.
+    /// Sets the frames of the children. Called after the size changed or setNeedsLayout was called.
     virtual void layOut() { }
-    /// Draws the view itself, in its own coordinates, below its children.
+    /// Draws the view below its children, in its own coordinates.
     virtual void draw(Canvas&) const { }
-    /// Draws what lies above the children.
+    /// Draws above the children.
     virtual void drawAbove(Canvas&) const { }
     /// How far the view draws beyond its bounds, in points.
     virtual double overhang() const { return 0; }
 
-    /// Whether touches go through the view, and all in it, to what lies below.
+    /// Whether touches pass through the view and its descendants to the views below.
     virtual bool ignoresTouches() const { return false; }
-    /// Whether a touch that hits the view, or a child that takes no touches, is the view's own.
+    /// Whether the view handles touches that hit it, or a descendant that handles none.
     virtual bool takesTouches() const { return false; }
-    /// Whether the view gives its touch up when the finger turns out to scroll.
+    /// Whether the touch is canceled when the finger scrolls.
     virtual bool yieldsToScrolling() const { return true; }
     virtual void touchBegan(const Touch&) { }
     virtual void touchMoved(const Touch&) { }
     virtual void touchEnded(const Touch&) { }
     virtual void touchCancelled() { }
 
-    /// Whether the keyboard can type into the view.
+    /// Whether the keyboard types into the view.
     virtual bool takesText() const { return false; }
     bool hasKeyboard() const { return _hasKeyboard; }
-    /// Whether a ring shows that.
+    /// Whether the focus ring is visible.
     bool showsFocus() const { return _showsFocus; }
-    /// What shows that the view has the keyboard.
+    /// The focus ring, in the view's own coordinates.
     virtual FocusRing focusRing() const;
-    /// What in the view has the keyboard while the view has it.
+    /// The part of the view that the keyboard focus is on, such as a row of a list.
     virtual View& focusedPart() { return *this; }
-    /// The view is about to have the keyboard for the sake of that part of it, which may be itself.
+    /// Called before the view gets the keyboard focus because of that part, which may be the view itself.
     virtual void focusOn(View&) { }
-    /// Brings what has the keyboard on view.
+    /// Scrolls the focused part into view.
     virtual void scrollToFocus();
-    /// A key was pressed while the view has the keyboard. False when the key means nothing to it.
+    /// Called for a key while the view has the keyboard focus. Returns false when it does not use the key.
     virtual bool keyPressed(Key, KeyStroke) { return false; }
-    /// The last key that it took was let go of.
+    /// Called when the last key that it used was released.
     virtual void keysReleased() { }
 
-    /// The outermost views in the view that mean something, as they are read: from top to bottom, from left
-    /// to right. What is hidden is left out, and so is all that lies below a view that covers its parent.
+    /// The outermost descendants with a role, in reading order: from top to bottom, from left to right.
+    /// Hidden views are left out, and all views below one that covers its parent.
     std::vector<View*> accessibleChildren() const;
-    /// The nearest view around the view that means something; null when there is none.
+    /// The nearest ancestor with a role; may be null.
     View* accessibleParent() const;
     virtual Role role() const { return Role::None; }
-    /// Whether the keyboard can be given to a view that has a role.
+    /// Whether a view with a role can have the keyboard focus.
     virtual bool isFocusable() const { return false; }
-    /// Does what a tap does, for keys and screen readers. False when a finger could not touch the view.
+    /// Has the effect of a tap, for keys and screen readers. Returns false when a touch could not reach the
+    /// view.
     virtual bool activate() { return false; }
-    /// Everything else about a view that has a role.
+    /// All properties for screen readers. Only for a view with a role.
     virtual Accessible accessible() const { return { .role = role(), .name = label() }; }
 
-    /// Makes changes that show as movements of that many seconds, starting now: of frames, alphas and
-    /// backgrounds. The views have their new values at once. The completion is called when the time is over.
+    /// Animates the changes of frames, alphas and backgrounds that the function makes. The properties have
+    /// their new values immediately. The completion is called after the duration.
     static void animate(
         double seconds, const std::function<void()>& changes, std::function<void()> completion = nullptr);
 
 protected:
     ~View() override;
 
-    /// The radius of a ring in the view: larger where rounded corners cut the view off, so that it runs
-    /// beside them.
+    /// The radius of the focus ring: larger in rounded corners, so that the ring is parallel to them.
     double focusRingRadius() const;
-    /// The view got or lost the keyboard.
+    /// Called when the view got or lost the keyboard focus.
     virtual void keyboardChanged() { }
     virtual Window* asWindow() { return nullptr; }
     virtual ScrollView* asScrollView() { return nullptr; }
@@ -213,7 +214,7 @@ private:
     Rect shownBounds() const { return { _origin, shownFrame().size }; }
     const Rect& reach() const;
     Rect computeReach() const;
-    /// What the view draws on has changed, and so has what the views around it draw on.
+    /// Resets the reach of the view and its ancestors.
     void reachChanged() const;
     void resizeChildren(Size before);
     void drawContents(Canvas&) const;
@@ -229,10 +230,10 @@ private:
     double _cornerRadius = 0;
     std::string _label;
     long _tag = 0;
-    /// All that the view and its children draw on as they show now, in the view's own coordinates; unset
-    /// until somebody asks. Where it is set, so are those of the visible children that it was made of.
+    /// The area on which the view and its children currently draw, in the view's own coordinates. Unset until
+    /// needed. When it is set, so are those of the visible children that it was computed from.
     mutable std::optional<Rect> _reach;
-    /// Null until a change is animated.
+    /// Null before the first animated change.
     std::unique_ptr<Transition> _transition;
     bool _hidden = false;
     bool _clips = false;

@@ -14,7 +14,7 @@ bool closeFront(View& view)
         children.rbegin(), children.rend(), [](const auto& child) { return child->coversParent(); });
     if (front == children.rend())
         return false;
-    // Closing may remove it.
+    // The action may remove the view.
     const auto covering = keep(front->get());
     if (auto* overlay = dynamic_cast<Overlay*>(covering.get())) {
         overlay->escape();

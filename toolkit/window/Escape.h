@@ -1,12 +1,11 @@
-// What Escape does.
 #pragma once
 
 namespace brimsound::toolkit {
 
 class View;
 
-/// Closes what covers everything else in the view, which is a window: an overlay, or a view that has a plain
-/// button behind all it shows, which is pressed. False when nothing is in front.
+/// Closes the view that covers the rest of the window: calls escape() of an overlay; in another view, presses
+/// the invisible Button that fills it. Returns false when nothing covers the window.
 bool closeFront(View&);
 
 } // namespace brimsound::toolkit

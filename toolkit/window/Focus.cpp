@@ -77,7 +77,7 @@ bool Focus::keyPressed(Key key, KeyStroke stroke)
     switch (key) {
     case Key::Return:
     case Key::Space:
-        // A key that is held presses once.
+        // A repeated key does not press again.
         return focused && (stroke == KeyStroke::Repeated || focused->activate());
     case Key::Left:
     case Key::Up:
@@ -109,7 +109,7 @@ void Focus::releaseKeys()
 void Focus::touched(View& hit)
 {
     showRing(false);
-    // A text field keeps the keyboard, and takes it when the touch has ended in it.
+    // A text field keeps the focus, and gets it when a touch ends in it.
     auto* focused = view();
     auto* stop = tabStopAround(hit);
     if (!stop || stop->takesText() || (focused && focused->takesText()))
@@ -130,7 +130,7 @@ void Focus::forgetWithin(const View& tree)
 
 void Focus::refresh()
 {
-    // What covers the view that had the keyboard gets it, so that keys and readers go on there.
+    // What covers the focused view gets the focus, for keys and screen readers.
     if (!view() && std::ranges::any_of(_views, [](const auto* former) { return former->isCovered(); })) {
         if (auto* stop = tabStopBeside(_window, nullptr, Direction::Next)) {
             giveTo(*stop);

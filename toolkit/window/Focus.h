@@ -1,4 +1,3 @@
-// Where the keyboard is.
 #pragma once
 
 #include "toolkit/input/Key.h"
@@ -12,9 +11,9 @@ namespace brimsound::toolkit {
 class View;
 class Window;
 
-/// Knows the view of a window that has the keyboard, and moves it on. While a view is covered or hidden, the
-/// keyboard is where it was given to since; it comes back by itself when the view can be got at again. A ring
-/// shows where it is once a key was used, until something is touched.
+/// The keyboard focus of a window. When the focused view is covered or hidden, the focus is on another view.
+/// It returns when the view is reachable again. A ring shows the focus after a key was pressed, until a
+/// touch.
 class Focus {
 public:
     /// The window owns the focus and outlives it.
@@ -22,35 +21,34 @@ public:
     Focus(const Focus&) = delete;
     Focus& operator=(const Focus&) = delete;
 
-    /// The view that has the keyboard; null when none that can be got at has.
+    /// The focused view. Null when none is reachable.
     View* view() const;
-    /// What in that view has it: a row of a list, else the view itself.
+    /// The focused part of that view: a row of a list, otherwise the view itself.
     View* part() const;
 
     void giveTo(View&);
     void takeFrom(View&);
-    /// Whether the keyboard was given to the view and not taken from it, covered or not.
+    /// Whether giveTo was called for the view and takeFrom was not. The view may be covered.
     bool isGivenTo(const View&) const;
-    /// Gives the keyboard to the view or to what takes keys for it, and scrolls there. False when nothing
-    /// does.
+    /// Moves the focus to the view or its nearest ancestor that can have it, and scrolls there. Returns false
+    /// when there is none.
     bool moveTo(View&);
 
-    /// Tab and the arrows move the keyboard on, Space and Return press what has it, Escape closes what is in
-    /// front, unless the view that has the keyboard takes the key for itself. False when the key means
-    /// nothing.
+    /// Escape closes what is in front, Tab moves the focus. Other keys go to the focused view. When it does
+    /// not use them, the arrow keys move the focus, Space and Return press the view, and Page Up, Page Down,
+    /// Home and End scroll. Returns false when the key has no effect.
     bool keyPressed(Key, KeyStroke);
     void keyReleased(Key);
-    /// No key is held any more, as far as the views are concerned.
+    /// Treats all keys as released.
     void releaseKeys();
 
-    /// A touch begins on the view.
+    /// Called when a touch begins on the view.
     void touched(View& hit);
 
-    /// The view and all in it are about to leave the window.
+    /// Called before the view and its descendants are removed from the window.
     void forgetWithin(const View&);
 
-    /// Notices that the keyboard is at another view than before: to be called when views may have come or
-    /// gone.
+    /// Updates the focus. Must be called when views may have appeared or disappeared.
     void refresh();
 
 private:
@@ -60,12 +58,12 @@ private:
     void tell(View&, bool hasKeyboard) const;
 
     Window& _window;
-    /// Those that the keyboard was given to; each covered the one before.
+    /// The views that giveTo was called for. Each covered the one before.
     std::vector<View*> _views;
-    /// The one that knows that it has the keyboard.
+    /// The view that was last notified that it has the focus.
     View* _known = nullptr;
     bool _showsRing = false;
-    /// The key that is held, and the view that took it.
+    /// The pressed key, and the view that used it.
     std::optional<Key> _heldKey;
     Ref<View> _keyed;
 };

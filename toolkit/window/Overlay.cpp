@@ -7,7 +7,7 @@ namespace brimsound::toolkit {
 namespace {
 
 constexpr double fadeTime = 0.2;
-/// What an overlay appears with: enough to take touches from the first moment on.
+/// The initial alpha: large enough for the overlay to receive touches immediately.
 constexpr double firstAlpha = 0.1;
 
 } // namespace

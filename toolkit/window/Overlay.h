@@ -1,4 +1,3 @@
-// What lies over a whole window for a while.
 #pragma once
 
 #include "toolkit/time/Animation.h"
@@ -6,18 +5,18 @@
 
 namespace brimsound::toolkit {
 
-/// Dims the window and keeps touches and keys from what lies below.
+/// Covers the window for a while: dims it and blocks touches and keys for the views below.
 class Overlay : public View {
 public:
     /// `dimming` is the alpha of the black that covers the window.
     explicit Overlay(double dimming);
 
-    /// Appears over everything in the window.
+    /// Adds the overlay in front of everything in the window.
     void appearIn(View& window, bool animated);
-    /// Takes no touches from now on, and leaves the window when it has faded.
+    /// Ignores touches from now on, and removes the overlay after fading out.
     void disappear(bool animated);
 
-    /// Escape was pressed while this is in front.
+    /// Called for Escape while the overlay is in front.
     virtual void escape() { }
 
     bool takesTouches() const override { return true; }

@@ -1,4 +1,3 @@
-// Views that are shown over a whole window.
 #pragma once
 
 #include "toolkit/window/Overlay.h"
@@ -7,7 +6,7 @@
 
 namespace brimsound::toolkit {
 
-/// Keeps one view as large as the window.
+/// An overlay that shows one view in the size of the window.
 class Sheet : public Overlay {
 public:
     /// `onEscape` may be empty.

@@ -10,11 +10,11 @@ namespace brimsound::toolkit {
 
 namespace {
 
-/// How far rows are brought on view at a time, in points: no row and no gap between rows is so low that one
-/// could pass by unseen.
+/// How far to scroll at a time in search of the next stop, in points. Rows and the gaps between them are at
+/// least this high.
 constexpr double scrollStep = 44;
 
-/// The view itself as one that scrolls; null when it does not.
+/// The view as a scroll view; null for other views.
 ScrollView* asScrollView(View& view)
 {
     auto* scrollView = view.enclosingScrollView();
@@ -31,12 +31,12 @@ bool isInteractive(const View& view)
 
 bool isTabStop(const View& view)
 {
-    // The list has the keyboard for its rows.
+    // The focus is on the list, not on its rows.
     const auto role = view.role();
     return role != Role::None && role != Role::Row && view.isFocusable() && isInteractive(view);
 }
 
-/// The stops in the view, and what scrolls as a whole.
+/// The stops in the view. A scroll view counts as one.
 void addStops(const View& view, std::vector<View*>& stops)
 {
     for (auto* child : view.accessibleChildren()) {
@@ -54,7 +54,7 @@ std::vector<View*> stopsIn(const View& view)
     return stops;
 }
 
-/// Where the view is within what scrolls, wherever that is scrolled to.
+/// The position of the view in the scroll view's own coordinates.
 Point placeIn(const View& scrollView, const View& view)
 {
     return scrollView.fromWindow(view.toWindow(view.bounds().origin));
@@ -65,7 +65,7 @@ bool isBefore(Point a, Point b)
     return a.y != b.y ? a.y < b.y : a.x < b.x;
 }
 
-/// The stop in what scrolls that is next from the place on; null when there is none.
+/// The next stop in the scroll view from this position; null at the end. Scrolls to find it.
 View* stopBeyond(ScrollView& scrollView, std::optional<Point> place, Direction direction)
 {
     const bool down = direction == Direction::Next;
@@ -88,7 +88,7 @@ View* stopBeyond(ScrollView& scrollView, std::optional<Point> place, Direction d
     }
 }
 
-/// The stop itself or, in what scrolls, the one at the end that the keyboard comes in at.
+/// The stop itself. For a scroll view, its first or last stop.
 View* enter(View& stop, Direction direction)
 {
     if (isTabStop(stop))

@@ -1,4 +1,3 @@
-// The order in which the keyboard goes through the views.
 #pragma once
 
 #include "toolkit/input/Key.h"
@@ -8,16 +7,15 @@ namespace brimsound::toolkit {
 class ScrollView;
 class View;
 
-/// The view itself or the nearest view around it that takes the keyboard; null when there is none. A list is
-/// one stop, whatever its row.
+/// The view itself or its nearest ancestor that Tab stops at; may be null. Tab stops once at a list, not at
+/// each of its rows.
 View* tabStopAround(View&);
 
-/// The stop before or after a view, in the order in which the views are read; the first or the last one comes
-/// after the other end. Rows that a table has not got on view are scrolled to. Without a view, the first or
-/// the last one on view; null when there is none.
+/// The next or previous stop of Tab, in reading order, wrapping around at the end. Scrolls to rows that are
+/// not visible yet. Without a view, the first or the last visible stop. May be null.
 View* tabStopBeside(View& window, const View* from, Direction);
 
-/// The first view that scrolls among those in front; null when there is none.
+/// The first scroll view in reading order that is not covered; may be null.
 ScrollView* scrollViewInFront(View& window);
 
 } // namespace brimsound::toolkit

@@ -1,4 +1,3 @@
-// The bar above a window's contents.
 #pragma once
 
 #include "toolkit/text/Label.h"
@@ -7,7 +6,7 @@
 
 namespace brimsound::toolkit {
 
-/// Shows a title, centered, with a hairline below.
+/// The bar at the top of a window, with a centered title and a hairline below.
 class TitleBar : public View {
 public:
     /// In points.

@@ -8,7 +8,7 @@ namespace brimsound::toolkit {
 
 namespace {
 
-/// How long a finger within a scroll view is held back, in seconds.
+/// How long the touch of a finger in a scroll view is delayed, in seconds.
 constexpr double holdBackTime = 0.15;
 
 View* nearestThatTakesTouches(View* view)
@@ -27,7 +27,7 @@ bool TouchSession::isActive() const
 
 void TouchSession::begin(View& hit, const Touch& touch)
 {
-    // There may have been a hold whose view left the window.
+    // The held view may have left the window.
     _phase = Phase::None;
     _first = _last = touch;
     _view = keep(nearestThatTakesTouches(&hit));
@@ -40,7 +40,7 @@ void TouchSession::begin(View& hit, const Touch& touch)
         return;
     }
     _phase = Phase::HeldBack;
-    // A touch that stops a moving view means nothing else: nobody can have aimed at what was passing by.
+    // A touch that stops a moving view does nothing else, because the user could not aim at anything in it.
     if (_scrollView->isMoving())
         _view = nullptr;
     _scrollView->stop();
@@ -59,7 +59,7 @@ void TouchSession::letGo(const View& view)
         finish();
 }
 
-// A view may end the touch from within what it is told, so it is kept for as long as it is being told.
+// A view may end the touch in its callback, so the session keeps a reference to the view during the call.
 
 void TouchSession::move(Point location)
 {
@@ -131,7 +131,7 @@ void TouchSession::startScrolling()
 void TouchSession::finish()
 {
     _delay.cancel();
-    // The touch may have stopped the view on its way back to its edge.
+    // The touch may have stopped the view beyond its edge.
     if (_scrollView && _phase != Phase::Scrolling)
         _scrollView->comeBack();
     _phase = Phase::None;

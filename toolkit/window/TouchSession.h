@@ -1,4 +1,3 @@
-// The life of one touch.
 #pragma once
 
 #include "toolkit/input/Touch.h"
@@ -10,17 +9,18 @@ namespace brimsound::toolkit {
 class ScrollView;
 class View;
 
-/// Decides whether a touch belongs to the view that it hit or scrolls what that view lies in. A finger on a
-/// view within a scroll view is held back for a moment: when it starts to move up or down within that time it
-/// scrolls, and the view never hears of it. Once a control has the touch, it keeps it. A view that is held
-/// without a touch, as by a key, takes the touch's place.
+/// The current touch of a window. Decides whether the touch goes to the view that it hit or scrolls an
+/// enclosing scroll view. The touch of a finger in a scroll view is delayed for a moment: when the finger
+/// starts to move vertically within that time it scrolls, and the view does not receive the touch. A control
+/// keeps a touch that it received. A view that is operated without a touch, for example by a key, is held in
+/// place of a touch.
 class TouchSession {
 public:
     TouchSession() = default;
     TouchSession(const TouchSession&) = delete;
     TouchSession& operator=(const TouchSession&) = delete;
 
-    /// A hold is over when its view leaves the window.
+    /// False when the held view has left the window.
     bool isActive() const;
 
     /// `hit` is the frontmost view at the touch.
@@ -30,19 +30,19 @@ public:
     void cancel();
 
     void hold(View&);
-    /// Ends the hold of that view, without telling it. Nothing when it is not the one that is held.
+    /// Ends the hold without calling the view. Does nothing when the view is not held.
     void letGo(const View&);
 
 private:
     enum class Phase {
         None,
-        /// Nobody has heard of the touch yet.
+        /// No view has received the touch yet.
         HeldBack,
-        /// The view that was hit has it.
+        /// The view that was hit receives the touch.
         WithView,
-        /// It scrolls.
+        /// The touch scrolls.
         Scrolling,
-        /// There is no touch: a key or a screen reader holds the view.
+        /// There is no touch; a key or a screen reader operates the view.
         Held,
     };
 

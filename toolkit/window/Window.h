@@ -1,4 +1,3 @@
-// The root of the view tree.
 #pragma once
 
 #include "toolkit/alert/AlertQueue.h"
@@ -11,50 +10,50 @@
 
 namespace brimsound::toolkit {
 
-/// The view at the top: takes what the user does, hands out what has to be painted. Coordinates are points
-/// from the top left corner.
+/// The root of the view tree. Distributes input and reports what must be drawn. Coordinates are points from
+/// the top left corner.
 class Window : public View {
 public:
     explicit Window(Size);
 
-    /// One finger, or the mouse while its button is down, goes down, moves, and goes up or is taken away by
-    /// the system. Moves and ends without a touch are ignored; a second touch while one is down is ignored.
+    /// A finger, or the mouse while its button is pressed. touchCancel is for touches that the system takes
+    /// away. Moves and ends without a touch are ignored, and so is a second touch.
     void touchDown(const Touch&);
     void touchMove(Point location) { _touch.move(location); }
     void touchUp(Point location) { _touch.end(location); }
     void touchCancel() { _touch.cancel(); }
     bool isTouched() const { return _touch.isActive(); }
 
-    /// Takes hold of a view in a touch's place, scrolling it into view. False when a finger could not touch
-    /// it, or something is touched already.
+    /// Scrolls a view into view and holds it in place of a touch. Returns false when a touch could not reach
+    /// it, or another touch is active.
     bool hold(View&);
     void letGo(const View& view) { _touch.letGo(view); }
 
-    /// A key was pressed, or is held and strikes again. False when it means nothing.
+    /// Returns false when the key has no effect.
     bool keyPressed(Key, KeyStroke) override;
-    /// A key was let go of; all were, or the keyboard went elsewhere.
+    /// A key was released. releaseKeys is for all keys, also when the window loses the keyboard.
     void keyReleased(Key key) { _focus.keyReleased(key); }
     void releaseKeys() { _focus.releaseKeys(); }
-    /// Types into the text field that has the keyboard. False when there is none.
+    /// Types into the focused text field. Returns false when there is none.
     bool typeText(const std::string&);
 
     Focus& focus() { return _focus; }
     const Focus& focus() const { return _focus; }
     AlertQueue& alerts() { return _alerts; }
 
-    /// Turns a wheel over a point: scrolls what lies there by so many points.
+    /// Scrolls with a wheel over a point, by a distance in points.
     void scroll(Point at, Point by);
 
-    /// Lays out what needs it; to be called before painting and hit-testing.
+    /// Lays out the views that need it. Must be called before drawing and hit testing.
     void layOutAll();
-    /// Marks a part to be painted again.
+    /// Reports a rectangle that must be drawn again.
     void invalidate(const Rect&) const;
 
-    /// Set by whoever paints the window: told of every part that must be painted again.
+    /// Set by the program: called for every rectangle that must be drawn again.
     std::function<void(const Rect&)> onInvalidate;
-    /// Set by whoever lends text fields an editor: told when another view has the keyboard than before.
+    /// Set by the program: called when the focus moved to another view.
     std::function<void()> onFocusMoved;
-    /// Set by whoever makes the views accessible, while somebody listens.
+    /// Set by the program while a screen reader is active.
     std::function<void(View&, AccessibleChange)> onAccessibleChange;
 
 protected:
@@ -67,8 +66,7 @@ private:
     TouchSession _touch;
 };
 
-/// The window that was made last and still exists, which alerts and sheets appear in; null when there is
-/// none.
+/// The newest window, in which alerts and sheets appear; may be null.
 Window* keyWindow();
 
 } // namespace brimsound::toolkit
