@@ -1,11 +1,10 @@
-// A canvas for tests that look at what is drawn.
 #pragma once
 
 #include "toolkit/drawing/Canvas.h"
 
 namespace brimsound::tests {
 
-/// Draws nothing. A test overrides the operations that it looks at.
+/// A canvas that draws nothing. Tests override the operations that they check.
 class BlankCanvas : public toolkit::Canvas {
 public:
     void save() override { }

@@ -1,4 +1,3 @@
-// What controls under test tell.
 #pragma once
 
 #include "toolkit/control/Control.h"
@@ -9,7 +8,7 @@
 
 namespace brimsound::tests {
 
-/// Writes down every event of the controls that it listens to. Outlives them.
+/// Records the events of controls. It must exist longer than the controls.
 class EventLog {
 public:
     void listenTo(toolkit::Control& control)

@@ -1,5 +1,4 @@
-// A font of which every character is half as wide as the font's size, so that layouts are the same
-// everywhere.
+// The width of every character is half of the font's size, so that layouts are the same on all machines.
 #include "toolkit/drawing/Font.h"
 
 #include <algorithm>

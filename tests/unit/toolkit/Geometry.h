@@ -1,4 +1,4 @@
-// Geometry in the messages of failed tests.
+// Prints geometry in the messages of failed tests.
 #pragma once
 
 #include "toolkit/geometry/Geometry.h"

@@ -1,11 +1,10 @@
-// Images under test.
 #pragma once
 
 #include "toolkit/image/Image.h"
 
 namespace brimsound::tests {
 
-/// An image of that size in points, of one color.
+/// An image of this size in points, filled with one color.
 inline toolkit::Ref<toolkit::Image> filledImage(toolkit::Size size, const toolkit::Color& color)
 {
     class Filled : public toolkit::Image {

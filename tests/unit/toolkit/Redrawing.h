@@ -1,4 +1,3 @@
-// What of a window has to be painted again.
 #pragma once
 
 #include "tests/unit/toolkit/Geometry.h"
@@ -11,7 +10,7 @@
 
 namespace brimsound::tests {
 
-/// A window that notes the parts which have to be painted again.
+/// A window, and the rectangles that it reported for drawing.
 class Redrawing : public testing::Test {
 protected:
     Redrawing()
@@ -20,10 +19,10 @@ protected:
     }
     ~Redrawing() override { window->onInvalidate = nullptr; }
 
-    /// The parts since the last call.
+    /// The rectangles since the last call.
     std::vector<toolkit::Rect> parts() { return std::exchange(_parts, {}); }
 
-    /// The parts since the last call, as one rectangle.
+    /// The union of the rectangles since the last call.
     toolkit::Rect together()
     {
         toolkit::Rect all;
@@ -32,7 +31,7 @@ protected:
         return all;
     }
 
-    /// A view in the window, of which nothing has to be painted again yet.
+    /// Adds a view to the window, and clears the rectangles.
     template <typename View> toolkit::Ref<View> added(const toolkit::Rect& frame)
     {
         const auto view = toolkit::make<View>();

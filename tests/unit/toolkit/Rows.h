@@ -1,4 +1,3 @@
-// Tables under test and what fills them.
 #pragma once
 
 #include "toolkit/table/Table.h"
@@ -21,7 +20,7 @@ inline void PrintTo(const RowPath& path, std::ostream* out)
 
 namespace brimsound::tests {
 
-/// Rows of 44 points in sections. Writes down what a table asks for and tells.
+/// Provides rows of 44 points in sections, and records the calls of the table.
 class Rows : public toolkit::TableSource {
 public:
     explicit Rows(std::vector<std::size_t> rowsInSections)
@@ -68,7 +67,7 @@ public:
         table->removeRows({ row });
     }
 
-    /// The table that shows the rows; set by whoever shows them.
+    /// The table that shows the rows. Set by the test.
     toolkit::Table* table = nullptr;
 
     std::vector<std::size_t> counts;
@@ -79,17 +78,17 @@ public:
     std::function<void(toolkit::Cell&, toolkit::RowPath)> onCellMade;
     std::function<void(toolkit::Cell&, toolkit::RowPath)> onWillShow;
     std::function<bool(toolkit::RowPath)> isDeletable;
-    /// Whether rows that are deleted leave the table.
+    /// Whether deleted rows are removed from the table.
     bool removesDeleted = true;
 
     std::size_t cellsAskedFor = 0;
-    /// The sizes of the cells that were made, as they were when they were made.
+    /// The initial sizes of the cells.
     std::vector<toolkit::Size> initialSizes;
     std::vector<toolkit::RowPath> selectedRows;
     std::vector<toolkit::RowPath> deletedRows;
 };
 
-/// A table that fills a window, laid out.
+/// A table that fills a window and is laid out.
 class TableInWindow {
 public:
     TableInWindow(Rows& rows, toolkit::Size size, toolkit::Table::Style style = toolkit::Table::Style::List)
@@ -110,9 +109,9 @@ public:
     }
 
     double offset() const { return table->origin().y; }
-    /// The cell of a row in the first section; null when it is not on view.
+    /// The cell of a row in the first section; null when the row is not visible.
     toolkit::Cell* cell(std::size_t row) const { return table->cellOf({ 0, row }); }
-    /// Of all rows on view, from the back to the front.
+    /// The cells of all visible rows, from back to front.
     std::vector<toolkit::Cell*> cells() const
     {
         std::vector<toolkit::Cell*> cells;
@@ -138,7 +137,7 @@ public:
         table->setFrame({ {}, size });
         window->layOutAll();
     }
-    /// Down and up at once.
+    /// A touch that begins and ends immediately.
     void tap(toolkit::Point at, toolkit::Pointer pointer = toolkit::Pointer::Finger) const
     {
         window->touchDown({ at, pointer });

@@ -1,11 +1,10 @@
-// Switches as views that take the keyboard.
 #pragma once
 
 #include "toolkit/control/Switch.h"
 
 namespace brimsound::tests {
 
-/// A switch with its top left corner at the place, in points.
+/// A switch with this top left corner, in points.
 inline toolkit::Ref<toolkit::Switch> switchAt(double x, double y)
 {
     const auto toggle = toolkit::make<toolkit::Switch>();

@@ -32,7 +32,7 @@ using toolkit::Ref;
 using toolkit::View;
 using toolkit::Window;
 
-/// Where an alert draws its paragraphs, and what it cuts them off at.
+/// Records where an alert draws its paragraphs and how they are clipped.
 class Look : public BlankCanvas {
 public:
     explicit Look(const Alert& alert) { alert.draw(*this); }
@@ -50,7 +50,7 @@ public:
     std::vector<Rect> places;
 };
 
-/// Alerts in a window, which of them appeared, and the numbers of the buttons that they were answered with.
+/// Alerts in a window. Records which of them appeared, and the indexes of the buttons that answered them.
 class AnAlert : public testing::Test {
 protected:
     ~AnAlert() override
@@ -169,7 +169,7 @@ TEST_F(AnAlert, IsAnsweredOnceWhenItsButtonIsPressedAgainWhileItFades)
     EXPECT_THAT(window->children(), IsEmpty());
 }
 
-TEST_F(AnAlert, IsNotAnsweredByAButtonThatIsLetGoOfAfterItWasDismissed)
+TEST_F(AnAlert, IsNotAnsweredByAButtonThatIsReleasedAfterItWasDismissed)
 {
     show("Really?");
     const auto yes = keep(&button(1));
@@ -220,7 +220,7 @@ TEST_F(AnAlert, GivesTheKeyboardToItsCancelButtonUntilTabMovesIt)
     EXPECT_THAT(answers, ElementsAre("First 0", "Second 1", "Third 0"));
 }
 
-TEST_F(AnAlert, IsCancelledByEscapeWhicheverButtonHasTheKeyboard)
+TEST_F(AnAlert, IsCanceledByEscapeWhicheverButtonHasTheKeyboard)
 {
     show("Really?");
     press(Key::Tab);

@@ -26,7 +26,7 @@ using toolkit::TextButton;
 using toolkit::View;
 using toolkit::Window;
 
-/// A bar of 100 x 44 points with a label and over it a button that is larger than the bar.
+/// A bar of 100 x 44 points with a label, and an invisible button over it that is larger than the bar.
 class AButton : public testing::Test {
 protected:
     AButton()
@@ -88,7 +88,7 @@ TEST_F(AButton, IsNotReadWithoutALabel)
     EXPECT_THAT(window->accessibleChildren(), IsEmpty());
 }
 
-/// Whether the button fills its bounds with the color of pressed rows, and the titles that it draws.
+/// Records whether the button fills its bounds with the color of pressed rows, and the titles that it draws.
 class Look : public BlankCanvas {
 public:
     explicit Look(const TextButton& button) { button.draw(*this); }
@@ -107,7 +107,7 @@ public:
     std::vector<std::string> titles;
 };
 
-/// A text button of 100 x 40 points, and how often it was pressed.
+/// A text button of 100 x 40 points. Counts how often it was pressed.
 class ATextButton : public testing::Test {
 protected:
     ATextButton() { window->add(*button); }
@@ -145,7 +145,7 @@ TEST_F(ATextButton, IsNotPressedByATouchThatEndsBesideIt)
     EXPECT_EQ(presses, 0);
 }
 
-TEST_F(ATextButton, IsNotPressedByATouchThatIsCancelled)
+TEST_F(ATextButton, IsNotPressedByATouchThatIsCanceled)
 {
     window->touchDown({ { 150, 120 } });
     window->touchCancel();

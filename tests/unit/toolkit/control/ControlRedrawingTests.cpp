@@ -48,7 +48,7 @@ TEST_F(RedrawingASlider, HappensWhenItsTintChanges)
     EXPECT_THAT(parts(), Not(IsEmpty()));
     slider->setTint(std::nullopt);
     EXPECT_THAT(parts(), Not(IsEmpty()));
-    // A transparent track does not look like one in the theme's color.
+    // A transparent track differs from one in the theme's color.
     slider->setTint(toolkit::transparent);
     EXPECT_THAT(parts(), Not(IsEmpty()));
 }

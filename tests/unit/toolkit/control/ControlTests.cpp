@@ -27,7 +27,7 @@ protected:
         log.listenTo(*control);
     }
 
-    /// Lays a view over the whole window.
+    /// Covers the whole window with a view.
     void cover() const { window->add(*make<View>(makeRect(0, 0, 500, 500))); }
 
     static constexpr Point inside { 210, 210 };
@@ -97,7 +97,7 @@ TEST_F(ATouchOnAControl, EndsInsideOrOutsideByWhereItIsLifted)
     EXPECT_THAT(log.take(), ElementsAre("down", "up outside"));
 }
 
-TEST_F(ATouchOnAControl, SendsNothingAfterItIsCancelled)
+TEST_F(ATouchOnAControl, SendsNothingAfterItIsCanceled)
 {
     window->touchDown({ inside });
     window->touchCancel();

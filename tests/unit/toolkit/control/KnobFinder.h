@@ -1,4 +1,3 @@
-// Where the knobs of controls are drawn.
 #pragma once
 
 #include "tests/unit/toolkit/BlankCanvas.h"
@@ -6,7 +5,7 @@
 
 namespace brimsound::tests {
 
-/// Keeps the place of the last disc that was drawn: of a knob, its white top.
+/// Records where the last disc was drawn, which is the white part of a knob.
 class KnobFinder : public BlankCanvas {
 public:
     void fillEllipse(const toolkit::Rect& rect, const toolkit::Color&) override { lastDisc = rect; }
@@ -14,7 +13,7 @@ public:
     toolkit::Rect lastDisc;
 };
 
-/// In the view's own coordinates.
+/// The frame of the knob in the view's own coordinates.
 inline toolkit::Rect knobOf(const toolkit::View& view)
 {
     KnobFinder canvas;

@@ -22,7 +22,7 @@ using toolkit::Slider;
 using toolkit::Switch;
 using toolkit::Window;
 
-/// A slider from -12 to 12 that has the keyboard.
+/// A slider from -12 to 12 with the keyboard focus.
 class AKeyOnASlider : public testing::Test {
 protected:
     AKeyOnASlider()
@@ -156,7 +156,7 @@ TEST_F(AKeyOnASlider, EndsItsHoldWhenSomethingIsTouched)
     EXPECT_THAT(log.take(), IsEmpty());
 }
 
-TEST_F(AKeyOnASlider, HoldsItNoLongerWhenTheTouchIsCancelled)
+TEST_F(AKeyOnASlider, HoldsItNoLongerWhenTheTouchIsCanceled)
 {
     press(Key::Right);
     log.take();

@@ -34,7 +34,7 @@ protected:
         log.listenTo(*toggle);
     }
 
-    /// Where the knob is drawn: 0 at the off side, 1 at the on side.
+    /// The position of the drawn knob: 0 for off, 1 for on.
     double knob() const
     {
         const auto disc = knobOf(*toggle);
@@ -78,7 +78,7 @@ TEST_F(ASwitch, FlipsAndSendsItsValueOnceOnATap)
     EXPECT_THAT(log.take(), ElementsAre("down", "value", "up inside"));
 }
 
-TEST_F(ASwitch, FlipsWhenItIsPressedAndNotWhenItIsLetGoOfOutside)
+TEST_F(ASwitch, FlipsWhenItIsPressedAndNotWhenItIsReleasedOutside)
 {
     toggle->begin();
     toggle->commit(Switch::Side::Outside);
@@ -89,7 +89,7 @@ TEST_F(ASwitch, FlipsWhenItIsPressedAndNotWhenItIsLetGoOfOutside)
     EXPECT_THAT(log.take(), ElementsAre("down", "value", "up inside"));
 }
 
-TEST_F(ASwitch, DoesNotFlipWhenTheTouchEndsFarAwayOrIsCancelled)
+TEST_F(ASwitch, DoesNotFlipWhenTheTouchEndsFarAwayOrIsCanceled)
 {
     window->touchDown({ middle });
     window->touchUp({ 125, 400 });
@@ -100,7 +100,7 @@ TEST_F(ASwitch, DoesNotFlipWhenTheTouchEndsFarAwayOrIsCancelled)
     EXPECT_THAT(log.take(), Not(Contains("value")));
 }
 
-TEST_F(ASwitch, GoesOnWhenItIsDrawnToTheRightAndStaysOnWhenTheTouchEnds)
+TEST_F(ASwitch, TurnsOnWhenItIsDraggedToTheRightAndStaysOnWhenTheTouchEnds)
 {
     window->touchDown({ middle });
     window->touchMove({ 134, 115 });
@@ -114,7 +114,7 @@ TEST_F(ASwitch, GoesOnWhenItIsDrawnToTheRightAndStaysOnWhenTheTouchEnds)
         log.take(), ElementsAre("down", "drag inside", "value", "drag inside", "drag inside", "up inside"));
 }
 
-TEST_F(ASwitch, GoesOffWhenItIsDrawnToTheLeft)
+TEST_F(ASwitch, TurnsOffWhenItIsDraggedToTheLeft)
 {
     toggle->setOn(true, false);
     window->touchDown({ middle });
@@ -124,7 +124,7 @@ TEST_F(ASwitch, GoesOffWhenItIsDrawnToTheLeft)
     EXPECT_FALSE(toggle->isOn());
 }
 
-TEST_F(ASwitch, StaysWhenItIsDrawnToTheSideWhereItIs)
+TEST_F(ASwitch, StaysWhenItIsDraggedToTheSideWhereItIs)
 {
     toggle->setOn(true, false);
     window->touchDown({ middle });
@@ -134,7 +134,7 @@ TEST_F(ASwitch, StaysWhenItIsDrawnToTheSideWhereItIs)
     EXPECT_THAT(log.take(), Not(Contains("value")));
 }
 
-TEST_F(ASwitch, CanBeDrawnBothWaysInOneTouch)
+TEST_F(ASwitch, CanBeDraggedBothWaysInOneTouch)
 {
     window->touchDown({ middle });
     window->touchMove({ 140, 115 });
@@ -145,7 +145,7 @@ TEST_F(ASwitch, CanBeDrawnBothWaysInOneTouch)
     EXPECT_EQ(std::ranges::count(events, "value"), 2);
 }
 
-TEST_F(ASwitch, FlipsOnATapAfterItWasDrawn)
+TEST_F(ASwitch, FlipsOnATapAfterItWasDragged)
 {
     window->touchDown({ middle });
     window->touchMove({ 140, 115 });

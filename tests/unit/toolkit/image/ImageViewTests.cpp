@@ -73,7 +73,7 @@ TEST_F(AnImageView, IsNotRedrawnWhenItLooksTheSame)
     EXPECT_THAT(parts(), IsEmpty());
 }
 
-TEST_F(AnImageView, TellsWhenItTakesAnotherRoom)
+TEST_F(AnImageView, TellsWhenItsImageChanges)
 {
     int changes = 0;
     view->onChange = [&] { ++changes; };

@@ -13,7 +13,7 @@ using toolkit::make;
 using toolkit::Object;
 using toolkit::Ref;
 
-/// Counts those that exist.
+/// Counts its instances.
 class Counted : public Object {
 public:
     explicit Counted(int& count)

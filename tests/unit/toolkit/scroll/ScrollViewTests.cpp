@@ -42,7 +42,7 @@ protected:
 
     double offset() const { return page->bounds().top(); }
 
-    /// Puts a finger down and moves it so far that it scrolls, though the page has not moved yet.
+    /// Begins a touch and moves it far enough to scroll; the page has not moved yet.
     void grab(double y, double direction = 1) const
     {
         window->touchDown({ { 100, y - 20 * direction } });
@@ -51,7 +51,7 @@ protected:
     void pullTo(double y) const { window->touchMove({ 100, y }); }
     void release() const { window->touchUp({}); }
 
-    /// A finger that moves with that speed, in points a second, and is lifted while it moves.
+    /// Moves a finger at this speed, in points per second, and lifts it during the movement.
     void flick(double speed) const
     {
         grab(200, speed < 0 ? -1 : 1);
@@ -329,7 +329,7 @@ TEST_F(AScrollView, IsNotKeptAliveByItsMovement)
     Clock::shared().advance(10);
 }
 
-/// A scroll view of which the parts that have to be drawn again are counted.
+/// A scroll view. Counts how often it needs drawing.
 class TheScrollIndicator : public AScrollView {
 protected:
     TheScrollIndicator()
@@ -339,7 +339,7 @@ protected:
     }
     ~TheScrollIndicator() override { window->onInvalidate = nullptr; }
 
-    /// How often the view was to be drawn again in that time.
+    /// How often the view needed drawing within this time.
     int redrawingsIn(double seconds)
     {
         redrawings = 0;

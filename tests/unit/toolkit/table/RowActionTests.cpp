@@ -1,4 +1,4 @@
-// What keys, assistive technology and scripts do to rows.
+// Actions on rows by keys, assistive technology and scripts.
 #include "tests/unit/toolkit/Rows.h"
 
 #include "toolkit/control/Button.h"

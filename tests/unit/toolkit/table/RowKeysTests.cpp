@@ -26,14 +26,15 @@ using toolkit::View;
 
 constexpr RowPath nowhere { 99, 99 };
 
-/// The row of a list that has the keyboard; nowhere when none on view has.
+/// The focused row; `nowhere` when no visible row has the focus.
 RowPath focusedRow(const TableInWindow& list)
 {
     const auto* cell = dynamic_cast<const Cell*>(list.window->focus().part());
     return cell ? list.table->rowOf(*cell).value_or(nowhere) : nowhere;
 }
 
-/// A list of one row and then of fifty that has the keyboard, and a switch below.
+/// A list with a section of one row and a section of fifty rows. It has the keyboard focus. Below it is a
+/// switch.
 class AKeyInAList : public testing::Test {
 protected:
     AKeyInAList()

@@ -64,7 +64,7 @@ TEST_F(ATapOnARow, ThatMovesOffAndBackSelectsIt)
     EXPECT_THAT(rows.selectedRows, ElementsAre(RowPath { 0, 2 }));
 }
 
-TEST_F(ATapOnARow, ThatIsCancelledSelectsNothing)
+TEST_F(ATapOnARow, ThatIsCanceledSelectsNothing)
 {
     list.window->touchDown({ { 100, 100 }, Pointer::Mouse });
     list.window->touchCancel();

@@ -33,7 +33,7 @@ protected:
     Cell* cell(std::size_t row) const { return list.cell(row); }
     /// How far the row is moved to the left.
     double distance(std::size_t row) const { return 0 - cell(row)->frame().left(); }
-    /// The button that a swiped row uncovers; null when there is none.
+    /// The Delete button; null when there is none.
     View* button() const
     {
         for (const auto& view : list.table->children()) {
@@ -42,7 +42,7 @@ protected:
         }
         return nullptr;
     }
-    /// A drag in the third row, from x = 300 so far to the left, that is not lifted.
+    /// A touch on the third row that moves this far to the left from x = 300 and does not end.
     void drag(double length, Pointer pointer = Pointer::Finger) const
     {
         list.window->touchDown({ { 300, 100 }, pointer });
@@ -107,7 +107,7 @@ TEST_F(ASwipedRow, ClosesWhenItIsReleasedBefore)
     EXPECT_THAT(rows.selectedRows, IsEmpty());
 }
 
-TEST_F(ASwipedRow, ClosesWhenTheTouchIsCancelled)
+TEST_F(ASwipedRow, ClosesWhenTheTouchIsCanceled)
 {
     drag(200);
     list.window->touchCancel();
@@ -213,7 +213,7 @@ TEST_F(ASwipedRow, ClosesAsSoonAsItIsTouchedWhateverTheTouchDoesThen)
     EXPECT_THAT(rows.selectedRows, IsEmpty());
 }
 
-TEST_F(ASwipedRow, StaysOpenWhenAFingerBesideItIsCancelledAtOnce)
+TEST_F(ASwipedRow, StaysOpenWhenAFingerBesideItIsCanceledAtOnce)
 {
     swipe();
     list.window->touchDown({ { 100, 200 } });

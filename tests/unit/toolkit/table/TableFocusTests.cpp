@@ -22,7 +22,7 @@ using toolkit::Switch;
 using toolkit::Table;
 using toolkit::View;
 
-/// A grouped table of four rows, each with a switch, then a hundred without, then one to be pressed.
+/// A grouped table of four rows with switches, then a hundred rows that cannot be pressed, then one that can.
 class TheFocusInATable : public testing::Test {
 protected:
     TheFocusInATable()

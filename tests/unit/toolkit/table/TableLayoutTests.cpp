@@ -16,7 +16,7 @@ using toolkit::makeRect;
 using toolkit::RowPath;
 using toolkit::TableLayout;
 
-/// Two rows in the first section, none in the second, three in the third; groups in a table of 320 points.
+/// Two rows in the first section, none in the second, three in the third, in a grouped table of 320 points.
 class ALayoutOfGroups : public testing::Test {
 protected:
     double top(RowPath path) const { return layout.rowRect(path).top(); }

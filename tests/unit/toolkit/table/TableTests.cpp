@@ -338,7 +338,7 @@ TEST(ATable, HasHairlinesOfTheThemeBetweenItsRowsOrOfTheColorThatItIsGiven)
 
 class AGroupedTable : public testing::Test {
 protected:
-    /// The parts of a section in a table of that width.
+    /// The layout of a section in a table of this width.
     toolkit::TableSection section(double width, std::size_t index = 0)
     {
         const TableInWindow list(rows, { width, 400 }, Table::Style::Grouped);

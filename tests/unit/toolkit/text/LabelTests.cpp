@@ -19,7 +19,7 @@ using toolkit::Label;
 using toolkit::make;
 using toolkit::Role;
 
-/// What a label draws.
+/// Records what a label draws.
 class Look : public BlankCanvas {
 public:
     explicit Look(const Label& label) { label.draw(*this); }
@@ -96,7 +96,7 @@ TEST(ALabel, TellsWhenItsTextOrFontChanges)
     EXPECT_EQ(changes, 2);
 }
 
-TEST(ALabel, IsReadByItsTextUnlessItIsEmptyOrNamesAnother)
+TEST(ALabel, IsReadByItsTextUnlessItIsEmptyOrNamesAControl)
 {
     const auto label = make<Label>();
     EXPECT_EQ(label->role(), Role::None);

@@ -31,7 +31,7 @@ using toolkit::TextField;
 using toolkit::View;
 using toolkit::Window;
 
-/// A text field in a strip in a window, and its text at every press of its return key.
+/// A text field in a strip in a window. Records its text when the return key is pressed.
 class ATextField : public testing::Test {
 protected:
     ATextField()
@@ -327,7 +327,7 @@ TEST_F(ATextField, IsNotReadWhileAnEditorLiesOverIt)
     EXPECT_EQ(field->role(), Role::TextField);
 }
 
-/// The text of a field, where it is drawn, and the left end of the caret.
+/// The drawn text of a field, its position, and the left end of the caret.
 class Look : public BlankCanvas {
 public:
     explicit Look(const TextField& field) { field.draw(*this); }

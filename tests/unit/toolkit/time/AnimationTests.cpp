@@ -34,7 +34,7 @@ TEST(AnEasedInAndOutCurve, StartsAndEndsSlowly)
     EXPECT_NEAR(easeInOut(0), 0, 1e-9);
     EXPECT_NEAR(easeInOut(1), 1, 1e-9);
     EXPECT_NEAR(easeInOut(0.5), 0.5, 1e-6);
-    // Values of the curve's own equation, solved by hand for s = 1/4.
+    // The curve's own equation for s = 1/4.
     const double x = 3 * 0.42 * 0.25 * 0.5625 + 3 * 0.58 * 0.0625 * 0.75 + 0.015625;
     EXPECT_NEAR(easeInOut(x), 3 * 0.0625 * 0.75 + 0.015625, 1e-6);
     EXPECT_LT(easeInOut(0.1), 0.05);
@@ -52,7 +52,7 @@ class AnAnimation : public testing::Test {
 protected:
     ~AnAnimation() override
     {
-        // Steps that are left on the clock may not outlive what they note.
+        // Steps that are still on the clock use the members of the test.
         animation.reset();
         Clock::shared().advance(oneFrame);
     }
@@ -120,7 +120,7 @@ TEST_F(AnAnimation, OfNoTimeIsAtItsEndOnTheNextFrame)
     EXPECT_EQ(completions, 1);
 }
 
-TEST_F(AnAnimation, ThatIsCancelledNeitherStepsNorCompletes)
+TEST_F(AnAnimation, ThatIsCanceledNeitherStepsNorCompletes)
 {
     start();
     advance(0.1);
@@ -132,7 +132,7 @@ TEST_F(AnAnimation, ThatIsCancelledNeitherStepsNorCompletes)
     EXPECT_EQ(completions, 0);
 }
 
-TEST_F(AnAnimation, IsCancelledWhenItIsDestroyed)
+TEST_F(AnAnimation, IsCanceledWhenItIsDestroyed)
 {
     start();
     animation.reset();
@@ -141,7 +141,7 @@ TEST_F(AnAnimation, IsCancelledWhenItIsDestroyed)
     EXPECT_EQ(completions, 0);
 }
 
-TEST_F(AnAnimation, IsCancelledWhenAnotherOneIsStarted)
+TEST_F(AnAnimation, IsCanceledWhenAnotherOneIsStarted)
 {
     start();
     advance(0.1);
@@ -152,7 +152,7 @@ TEST_F(AnAnimation, IsCancelledWhenAnotherOneIsStarted)
     EXPECT_EQ(completions, 0);
 }
 
-TEST_F(AnAnimation, MayBeCancelledByItsStep)
+TEST_F(AnAnimation, MayBeCanceledByItsStep)
 {
     animation->start(
         1, linear,
@@ -230,7 +230,7 @@ TEST_F(AnAnimation, ThatRunsEndsWhenItsStepReturnsFalse)
     EXPECT_FALSE(animation->isRunning());
 }
 
-TEST_F(AnAnimation, ThatRunsMayBeCancelledByItsStep)
+TEST_F(AnAnimation, ThatRunsMayBeCanceledByItsStep)
 {
     animation->run([this](double seconds) {
         steps.push_back(seconds);

@@ -15,7 +15,7 @@ using toolkit::Clock;
 
 class TheClock : public testing::Test {
 protected:
-    /// An action that notes its name and the time.
+    /// An action that records its name and the time.
     std::function<void()> note(const char* name)
     {
         return [this, name] {
@@ -73,10 +73,10 @@ TEST_F(TheClock, CallsAnActionWithoutADelayOnTheNextAdvanceEvenByZeroSeconds)
     EXPECT_THAT(names, ElementsAre("action"));
 }
 
-TEST_F(TheClock, DoesNotCallACancelledAction)
+TEST_F(TheClock, DoesNotCallACanceledAction)
 {
     clock.after(1, note("kept"));
-    const auto number = clock.after(1, note("cancelled"));
+    const auto number = clock.after(1, note("canceled"));
     clock.cancel(number);
     clock.cancel(12345);
     clock.advance(2);
@@ -87,7 +87,7 @@ TEST_F(TheClock, LetsAnActionCancelAnotherThatIsDueAtTheSameTime)
 {
     std::uint64_t second = 0;
     clock.after(1, [&] { clock.cancel(second); });
-    second = clock.after(1, note("cancelled"));
+    second = clock.after(1, note("canceled"));
     clock.advance(2);
     EXPECT_THAT(names, IsEmpty());
 }
@@ -192,7 +192,7 @@ TEST_F(TheClock, CatchesUpWithTheRealTime)
 
 TEST_F(TheClock, NeverGivesAStepANegativeTime)
 {
-    // The real time goes on while the clock catches up with it.
+    // The real time continues while the clock catches up with it.
     double realTime = 0;
     clock.realTime = [&] { return realTime += 0.001; };
     std::vector<double> steps;

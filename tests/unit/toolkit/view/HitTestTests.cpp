@@ -15,7 +15,7 @@ using toolkit::Size;
 using toolkit::View;
 using toolkit::Window;
 
-/// Two views that overlap, in a box in a window.
+/// Two overlapping views in a box in a window.
 class AHitTest : public testing::Test {
 protected:
     AHitTest()

@@ -23,7 +23,7 @@ public:
     int layouts = 0;
 };
 
-/// Counts the layouts of a view from its second one on.
+/// A view in a window that was laid out once. Counts the layouts after that.
 class ALayout : public testing::Test {
 protected:
     ALayout()

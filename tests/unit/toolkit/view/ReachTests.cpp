@@ -1,4 +1,4 @@
-// Which views the user can get at.
+// Which views touches and screen readers can reach.
 #include "tests/unit/toolkit/Geometry.h"
 #include "tests/unit/toolkit/Rows.h"
 #include "toolkit/control/Button.h"
@@ -194,17 +194,17 @@ TEST(AViewInAList, ComesIntoReachByScrolling)
     EXPECT_TRUE(list.cell(4)->comeIntoReach());
     EXPECT_EQ(list.offset(), 4 * 44);
     EXPECT_TRUE(row->comeIntoReach());
-    EXPECT_EQ(list.offset(), 4 * 44) << "it was in sight";
+    EXPECT_EQ(list.offset(), 4 * 44) << "it was visible";
 }
 
-/// A view that a screen reader is told of.
+/// A view that is an element for screen readers.
 class Meaningful : public View {
 public:
     using View::View;
     Role role() const override { return Role::Button; }
 };
 
-/// A view that is read together with what is in it.
+/// An element for screen readers that can contain others.
 class MeaningfulGroup : public View {
 public:
     using View::View;

@@ -17,7 +17,7 @@ using toolkit::Size;
 using toolkit::View;
 using toolkit::Window;
 
-/// Notes that it was destroyed.
+/// Records its destruction.
 class NotingView : public View {
 public:
     explicit NotingView(bool& isGone)
@@ -189,7 +189,7 @@ TEST(AChild, LivesAsLongAsItsParent)
     EXPECT_TRUE(isGone);
 }
 
-TEST(AChild, IsDestroyedWhenItIsRemovedAndNobodyElseHoldsIt)
+TEST(AChild, IsDestroyedWhenItIsRemovedWithoutOtherReferences)
 {
     bool isGone = false;
     const auto parent = make<View>();
@@ -198,7 +198,7 @@ TEST(AChild, IsDestroyedWhenItIsRemovedAndNobodyElseHoldsIt)
     EXPECT_TRUE(isGone);
 }
 
-TEST(AChild, SurvivesAMoveWhenOnlyItsParentHeldIt)
+TEST(AChild, SurvivesAMoveWhenOnlyItsParentHasAReference)
 {
     bool isGone = false;
     const auto former = make<View>();
@@ -279,7 +279,7 @@ TEST(ATaggedView, IsFoundInTheViewsAroundItDepthFirst)
     EXPECT_EQ(second->withTag(6), nullptr);
 }
 
-/// A view of 50 by 50 points in a view of 100 by 100, half of it beyond the right edge.
+/// A view of 50 by 50 points in a view of 100 by 100 points, half of it beyond the right edge.
 class AViewThatIsCutOff : public testing::Test {
 protected:
     AViewThatIsCutOff()

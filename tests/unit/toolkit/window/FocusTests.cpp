@@ -30,7 +30,7 @@ using toolkit::TextField;
 using toolkit::View;
 using toolkit::Window;
 
-/// Four switches, added in another order than they are read in.
+/// Four switches. They were not added in reading order.
 class TheFocus : public testing::Test {
 protected:
     TheFocus()
@@ -303,7 +303,7 @@ TEST_F(TheFocusInATextField, DoesNotComeBackToItFromAnotherOne)
     EXPECT_EQ(window->focus().view(), nullptr);
 }
 
-/// Notes whether it has the keyboard, each time that this changes.
+/// Records each change of whether it has the keyboard focus.
 class NotingView : public View {
 public:
     using View::View;

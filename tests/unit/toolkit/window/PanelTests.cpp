@@ -1,4 +1,3 @@
-// What keys do where a view covers all others.
 #include "tests/unit/toolkit/EventLog.h"
 #include "tests/unit/toolkit/Geometry.h"
 #include "tests/unit/toolkit/Switches.h"
@@ -29,8 +28,8 @@ using toolkit::TextField;
 using toolkit::View;
 using toolkit::Window;
 
-/// Two switches, and a panel over them: a plain button as large as the panel, and in front of it a box with a
-/// bar whose button is larger than the bar.
+/// Two switches, and a panel over them: an invisible button of the size of the panel, and in front of it a
+/// box with a bar whose button is larger than the bar.
 class APanel : public testing::Test {
 protected:
     APanel()

@@ -44,7 +44,7 @@ protected:
 
     Window& window() const { return *list->window; }
     double offset() const { return list->offset(); }
-    /// Where the thumb stands for the value, in the window.
+    /// The center of the thumb for the value, in the window.
     Point thumb(double value) const { return slider->toWindow(slider->thumbCenter(value)); }
     void putDown(Point at, Pointer pointer = Pointer::Finger) const { window().touchDown({ at, pointer }); }
 
@@ -90,7 +90,7 @@ TEST_F(AFingerOnASliderInATable, ThatStopsAMovingTableTapsNothing)
     EXPECT_EQ(offset(), passing);
     window().touchUp({ 150, 200 });
     EXPECT_THAT(rows.selectedRows, IsEmpty());
-    // The same tap on a table at rest selects a row.
+    // The same tap on a table that does not move selects a row.
     putDown({ 150, 200 });
     window().touchUp({ 150, 200 });
     EXPECT_EQ(rows.selectedRows.size(), 1u);
@@ -183,7 +183,7 @@ TEST_F(AFingerOnASliderInATable, IsNotDisturbedByASecondTouch)
     EXPECT_THAT(rows.selectedRows, IsEmpty());
 }
 
-TEST_F(AFingerOnASliderInATable, ThatIsCancelledAtOnceSendsTheSliderNothing)
+TEST_F(AFingerOnASliderInATable, ThatIsCanceledAtOnceSendsTheSliderNothing)
 {
     putDown(onSlider);
     window().touchCancel();
@@ -195,7 +195,7 @@ TEST_F(AFingerOnASliderInATable, ThatIsCancelledAtOnceSendsTheSliderNothing)
     EXPECT_THAT(log.take(), IsEmpty());
 }
 
-TEST_F(AFingerOnASliderInATable, ThatIsCancelledCancelsTheSlidersTouch)
+TEST_F(AFingerOnASliderInATable, ThatIsCanceledCancelsTheSlidersTouch)
 {
     putDown(thumb(0));
     window().touchMove(thumb(0.5));
@@ -208,7 +208,7 @@ TEST_F(AFingerOnASliderInATable, ThatIsCancelledCancelsTheSlidersTouch)
     EXPECT_EQ(slider->value(), 0.5f);
 }
 
-TEST_F(AFingerOnASliderInATable, ThatIsCancelledWhileItScrollsLeavesTheTableWithinItsEdges)
+TEST_F(AFingerOnASliderInATable, ThatIsCanceledWhileItScrollsLeavesTheTableWithinItsEdges)
 {
     putDown(onSlider);
     window().touchMove({ 150, 170 });
@@ -306,7 +306,7 @@ TEST_F(AWheelOverASlider, OrWhereNothingScrollsDoesNothing)
     EXPECT_EQ(offset(), 0);
 }
 
-/// A slider that is held without a touch, as by a key or a screen reader.
+/// A slider that is operated without a touch, for example by a key or a screen reader.
 class AHeldSlider : public SliderInATable {
 protected:
     AHeldSlider()
@@ -345,7 +345,7 @@ TEST_F(AHeldSlider, MakesRoomForATouchWhenItIsReleased)
     EXPECT_THAT(rows.selectedRows, ElementsAre(RowPath { 0, 1 }));
 }
 
-TEST_F(AHeldSlider, IsReleasedByACancelledTouch)
+TEST_F(AHeldSlider, IsReleasedByACanceledTouch)
 {
     window().touchCancel();
     EXPECT_THAT(log.take(), ElementsAre("cancel"));
@@ -411,9 +411,9 @@ TEST_F(AHeldSlider, ThatLeftTheWindowLeavesNothingTouchedWhereNothingTakesTheNex
     EXPECT_THAT(log.take(), IsEmpty());
 }
 
-using TakingHoldOfASlider = SliderInATable;
+using HoldingASliderInATable = SliderInATable;
 
-TEST_F(TakingHoldOfASlider, ScrollsItIntoView)
+TEST_F(HoldingASliderInATable, ScrollsItIntoView)
 {
     list->scrollTo(150);
     EXPECT_TRUE(slider->begin());
@@ -421,7 +421,7 @@ TEST_F(TakingHoldOfASlider, ScrollsItIntoView)
     EXPECT_THAT(log.take(), ElementsAre("down"));
 }
 
-TEST_F(TakingHoldOfASlider, FailsWhileSomethingIsTouched)
+TEST_F(HoldingASliderInATable, FailsWhileSomethingIsTouched)
 {
     putDown({ 150, 20 });
     EXPECT_FALSE(slider->begin());
@@ -432,7 +432,7 @@ TEST_F(TakingHoldOfASlider, FailsWhileSomethingIsTouched)
     EXPECT_TRUE(slider->begin());
 }
 
-TEST_F(TakingHoldOfASlider, FailsWhileItIsCovered)
+TEST_F(HoldingASliderInATable, FailsWhileItIsCovered)
 {
     const auto cover = make<View>(window().bounds());
     window().add(*cover);
@@ -442,7 +442,7 @@ TEST_F(TakingHoldOfASlider, FailsWhileItIsCovered)
     EXPECT_TRUE(slider->begin());
 }
 
-TEST_F(TakingHoldOfASlider, FailsOutsideOfAWindow)
+TEST_F(HoldingASliderInATable, FailsOutsideOfAWindow)
 {
     list->table->removeFromParent();
     EXPECT_FALSE(slider->begin());

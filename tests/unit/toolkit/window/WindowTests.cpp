@@ -86,7 +86,7 @@ TEST(AWindow, TellsAssistiveTechnologyOfViewsThatComeAndGo)
     window->onAccessibleChange = nullptr;
 }
 
-TEST(AWindow, NeedsNobodyToTell)
+TEST(AWindow, WorksWithoutListeners)
 {
     const auto window = make<Window>(Size { 100, 100 });
     const auto view = make<View>(makeRect(0, 0, 10, 10));
