@@ -98,7 +98,7 @@ void Control::end(bool inside)
     send(inside ? ControlEvent::TouchUpInside : ControlEvent::TouchUpOutside);
 }
 
-void Control::touchCancelled()
+void Control::touchCanceled()
 {
     const auto kept = keep(this);
     if (!std::exchange(_held, false))

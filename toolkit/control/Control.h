@@ -49,7 +49,7 @@ public:
     void touchBegan(const Touch&) override;
     void touchMoved(const Touch&) override;
     void touchEnded(const Touch&) override;
-    void touchCancelled() override;
+    void touchCanceled() override;
 
 protected:
     /// Calls begin, the action and commit. Returns false when begin does.

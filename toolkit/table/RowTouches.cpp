@@ -61,7 +61,7 @@ void RowTouches::ended(const Touch& touch)
     cancelPress();
 }
 
-void RowTouches::cancelled()
+void RowTouches::canceled()
 {
     cancelPress();
     _table.swipe().close();

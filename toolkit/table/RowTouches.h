@@ -22,7 +22,7 @@ public:
     void began(const Touch&);
     void moved(const Touch&);
     void ended(const Touch&);
-    void cancelled();
+    void canceled();
 
     /// Whether the touch is swiping a row and therefore cannot scroll.
     bool isSwiping() const;

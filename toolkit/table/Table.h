@@ -75,7 +75,7 @@ public:
     void touchBegan(const Touch& touch) override { _touches.began(touch); }
     void touchMoved(const Touch& touch) override { _touches.moved(touch); }
     void touchEnded(const Touch& touch) override { _touches.ended(touch); }
-    void touchCancelled() override { _touches.cancelled(); }
+    void touchCanceled() override { _touches.canceled(); }
     bool keyPressed(Key, KeyStroke) override;
     FocusRing focusRing() const override;
     View& focusedPart() override;

@@ -155,7 +155,7 @@ public:
     virtual void touchBegan(const Touch&) { }
     virtual void touchMoved(const Touch&) { }
     virtual void touchEnded(const Touch&) { }
-    virtual void touchCancelled() { }
+    virtual void touchCanceled() { }
 
     /// Whether the keyboard types into the view.
     virtual bool takesText() const { return false; }

@@ -81,7 +81,7 @@ void TouchSession::move(Point location)
         _scrollView->panTo(location.y);
     } else if (_scrollView && movesUpOrDown(location) && (!view || view->yieldsToScrolling())) {
         if (view)
-            view->touchCancelled();
+            view->touchCanceled();
         startScrolling();
     } else if (view) {
         view->touchMoved(_last);
@@ -109,7 +109,7 @@ void TouchSession::cancel()
     if (_phase == Phase::Scrolling)
         _scrollView->endPan();
     else if ((_phase == Phase::WithView || _phase == Phase::Held) && view)
-        view->touchCancelled();
+        view->touchCanceled();
     finish();
 }
 
