@@ -37,7 +37,7 @@ double lengthFrom(const std::string& word)
     return length;
 }
 
-/// What a reader finds first in the bar; the bar itself when nothing in it can be got at.
+/// The first element for screen readers in the bar; the bar itself when there is none.
 toolkit::View& buttonIn(toolkit::View& bar)
 {
     const auto found = bar.accessibleChildren();

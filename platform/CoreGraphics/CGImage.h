@@ -4,7 +4,8 @@
 
 namespace brimsound {
 
-/// An immutable picture. It has no size in points: whoever shows it chooses how many pixels make a point.
+/// An immutable picture. It has no size in points: the code that shows it chooses the number of pixels per
+/// point.
 class CGImage : public NSObject {
 protected:
     explicit CGImage(Peer*);

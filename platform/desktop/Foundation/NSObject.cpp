@@ -21,7 +21,8 @@ NSObject::NSObject(Peer* peer)
 
 NSObject::~NSObject()
 {
-    // One that is not destroyed with its native object, as a local variable, takes that along.
+    // An object that is not destroyed by its native object, such as a local variable, also destroys the
+    // native object.
     auto& native = nativeOf(*this);
     if (native.counterpart()) {
         native.setCounterpart(nullptr, nullptr);

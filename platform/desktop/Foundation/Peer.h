@@ -1,7 +1,6 @@
-// How the toolkit's objects and the product's belong together.
-//
-// A toolkit object is the peer of one of the product's, and the two live equally long: the product's is
-// retained by retaining the toolkit's and is destroyed with it. Objects that nobody sees have a plain one.
+// The native objects of the product's objects. A native object is a toolkit object and exists as long as the
+// product's object: retaining the product's object retains the native one, and both are destroyed together.
+// Objects other than views have a plain one.
 #pragma once
 
 #include "platform/Foundation/NSObject.h"
@@ -15,7 +14,7 @@ struct Peer {
 
 namespace desktop {
 
-/// A toolkit object as a constructor takes it: with the reference that came with its making.
+/// A native object as a constructor takes it, with its first reference.
 inline Peer* peer(toolkit::Object* native)
 {
     return reinterpret_cast<Peer*>(native);
@@ -26,7 +25,7 @@ inline toolkit::Object& nativeOf(const NSObject& object)
     return reinterpret_cast<toolkit::Object&>(object.peer());
 }
 
-/// The same, as the class that it is known to have.
+/// The native object, which must be of this class.
 template <typename Native> Native& nativeOf(const NSObject& object)
 {
     return static_cast<Native&>(nativeOf(object));
@@ -38,13 +37,14 @@ template <typename Native> toolkit::Ref<Native> nativeOf(const NSObject* object)
     return toolkit::keep(object ? &nativeOf<Native>(*object) : nullptr);
 }
 
-/// The product's object that the toolkit's belongs to; null when there is none.
+/// The object of this native object; may be null.
 inline NSObject* existingObjectOf(const toolkit::Object& native)
 {
     return static_cast<NSObject*>(native.counterpart());
 }
 
-/// The same, made when there is none, as the class that belongs to the toolkit's. Not retained.
+/// The object of this native object, created if necessary; an existing one must be of this class. Not
+/// retained.
 template <typename Class> Class& objectOf(toolkit::Object& native)
 {
     struct Made : Class {
@@ -58,7 +58,7 @@ template <typename Class> Class& objectOf(toolkit::Object& native)
     return *new Made(peer(&native));
 }
 
-/// The same with a reference of its own; null for null.
+/// The same, retained; null for null.
 template <typename Class> RetainPtr<Class> retainedObjectOf(toolkit::Object* native)
 {
     return brimsound::retain(native ? &objectOf<Class>(*native) : nullptr);

@@ -13,7 +13,7 @@ using toolkit::AccessibleChange, toolkit::Role, toolkit::View, toolkit::Window;
 
 namespace {
 
-/// The widget, with the views for its children.
+/// The interface of the widget. Its children are the views.
 class RootInterface : public QAccessibleWidget {
 public:
     RootInterface(QWidget& widget, Accessibility& accessibility)
@@ -31,7 +31,7 @@ public:
     QAccessible::State state() const override
     {
         auto state = QAccessibleWidget::state();
-        // One thing has the keyboard.
+        // The widget itself is not focused while a child is.
         state.focused = state.focused && !focusedAmong(children());
         return state;
     }
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    /// The views, and after them the widgets that lie over them.
+    /// The views, followed by the widgets over them.
     QList<QAccessibleInterface*> children() const
     {
         auto found = interfacesIn(_accessibility, _accessibility.window());
@@ -69,7 +69,8 @@ QAccessibleInterface* makeRoot(const QString&, QObject* object)
     return widget ? new RootInterface(*widget, widget->accessibility()) : nullptr;
 }
 
-/// What a text field says that can be got at and has no editor, which would tell for itself.
+/// The text of a reachable text field without an editor; empty for other views. An editor reports its changes
+/// itself.
 QString textOf(const View& view)
 {
     const bool tells = view.role() == Role::TextField && view.isReachable();
@@ -100,7 +101,7 @@ Accessibility::~Accessibility()
         const_cast<View*>(view)->onDestroyed = nullptr;
         remove(interface);
     }
-    // The widget lives on for a moment, without its views.
+    // The widget exists a little longer, without the views.
     if (auto* root = QAccessible::queryAccessibleInterface(&_widget))
         remove(root);
 }
@@ -180,7 +181,7 @@ void Accessibility::changed(View& view, AccessibleChange what)
         send({ interfaceOf(view), QAccessible::Alert });
         break;
     case AccessibleChange::FocusMoved:
-        // A text field gets an editor, which tells for itself.
+        // A text field gets an editor, which reports the focus itself.
         if (const auto role = view.role(); role != Role::None && role != Role::TextField)
             send({ interfaceOf(view), QAccessible::Focus });
         break;

@@ -1,4 +1,3 @@
-// Makes the views visible to screen readers.
 #pragma once
 
 #include "toolkit/view/View.h"
@@ -18,11 +17,12 @@ namespace brimsound::desktop {
 
 class ViewInterface;
 
-/// Hands out an interface for each view of a window that somebody asks about. An interface lives as long as
-/// its view, or as long as this; it has the same id all the time. The widget's own interface is the root.
+/// Makes the views of a window accessible to screen readers. Creates an interface for a view when it is
+/// requested. The interface is destroyed with the view or with this object, and keeps its id until then. The
+/// interface of the widget is the root.
 class Accessibility : public QAccessible::ActivationObserver {
 public:
-    /// The widget shows the window; both outlive this.
+    /// Both must outlive this object.
     Accessibility(QWidget&, toolkit::Window&);
     Accessibility(const Accessibility&) = delete;
     Accessibility& operator=(const Accessibility&) = delete;
@@ -32,12 +32,12 @@ public:
     toolkit::Window& window() const { return _window; }
 
     QAccessibleInterface* interfaceOf(toolkit::View&);
-    /// The interface of the nearest view around the view that has one, the root for want of any.
+    /// The interface of the nearest ancestor with a role, otherwise the root.
     QAccessibleInterface* parentOf(const toolkit::View&);
 
     void accessibilityActiveChanged(bool active) override { setListening(active); }
 
-    /// Where events go: to the screen reader, through Qt, which drops them where the platform has none.
+    /// Delivers events to the screen reader, through Qt.
     std::function<void(QAccessibleEvent*)> deliver = QAccessible::updateAccessibility;
 
 private:

@@ -12,7 +12,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// What a line edit keeps free at either side of its text, in points.
+/// The horizontal margin of the text in a line edit, in points.
 constexpr double sideMargin = 2;
 
 bool isMoving(const toolkit::View& view)

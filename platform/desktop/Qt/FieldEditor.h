@@ -1,4 +1,3 @@
-// The desktop's own editing of a text field.
 #pragma once
 
 #include "toolkit/text/TextField.h"
@@ -7,9 +6,8 @@
 
 namespace brimsound::desktop {
 
-/// Lies over the text of a field while that is edited, looks like it, and brings what a user expects of a
-/// desktop's text field: a selection, the clipboard, undo, input methods. What Return, Escape and Tab mean is
-/// up to the widget around it.
+/// Covers the text of a focused text field with a Qt editor of the same appearance, for selection, clipboard,
+/// undo and input methods. The parent widget handles Return, Escape and Tab.
 class FieldEditor : public QLineEdit {
 public:
     FieldEditor(QWidget& around, toolkit::TextField&);
@@ -17,15 +15,15 @@ public:
 
     const toolkit::TextField& field() const { return *_field; }
 
-    /// Lets more be typed than Qt's 32,767 characters. Qt tells readers of the caret then: one that hears of
-    /// it before the editor has the keyboard does not say what the field is.
+    /// Removes Qt's limit of 32,767 characters. Must be called after the editor has the focus: Qt reports the
+    /// caret to screen readers then, and before the focus these would not name the field.
     void liftLengthLimit();
 
-    /// Takes over the text's place and the text, as the field has them now.
+    /// Copies the text and its position from the field.
     void follow();
-    /// Whether the editor shows the text. While the field moves or fades it shows the text itself.
+    /// Whether the editor draws the text. The field draws it while it moves or fades.
     bool isDrawing() const;
-    /// Leaves the drawing of the text to the editor, or to the field.
+    /// Lets the field or the editor draw the text.
     void setFieldDraws(bool);
 
 protected:

@@ -4,7 +4,7 @@ namespace brimsound::desktop {
 
 QString FieldText::text(int startOffset, int endOffset) const
 {
-    // Any offset may be asked for.
+    // Callers may pass any offset.
     return _field.text(QAccessible::Value).mid(startOffset, endOffset - startOffset);
 }
 

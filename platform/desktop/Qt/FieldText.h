@@ -1,12 +1,11 @@
-// The text of a field that nobody edits, as a screen reader reads it.
 #pragma once
 
 #include <QAccessibleInterface>
 
 namespace brimsound::desktop {
 
-/// Reads along in the value of a text field's interface, which outlives this. There is neither caret nor
-/// selection: they come with the field's editor.
+/// The text of a text field without an editor, for screen readers: the value of `field`, which must outlive
+/// this object. It has no caret and no selection; an editor has.
 class FieldText : public QAccessibleTextInterface {
 public:
     explicit FieldText(const QAccessibleInterface& field)
@@ -25,7 +24,7 @@ public:
     int cursorPosition() const override { return characterCount(); }
     void setCursorPosition(int) override { }
 
-    /// Nowhere: which character is where is the editor's to know.
+    /// Empty, because only the editor knows the positions of characters.
     QRect characterRect(int) const override { return {}; }
     int offsetAtPoint(const QPoint&) const override { return -1; }
     void scrollToSubstring(int, int) override { }

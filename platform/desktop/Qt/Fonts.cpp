@@ -15,8 +15,8 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// A PostScript name is a family and, after a hyphen, a style. They are told apart here because Qt ignores
-/// the weight of a font that it finds by its full name.
+/// A PostScript name consists of a family and, after a hyphen, a style. They are separated here because Qt
+/// ignores the weight of a font that it finds by its full name.
 struct FaceName {
     QString family;
     QFont::Weight weight = QFont::Normal;
@@ -43,7 +43,7 @@ FaceName faceNamed(const std::string& postScriptName)
     return face;
 }
 
-/// The platform's own text face is not free; these come closest, the best first.
+/// Similar fonts to the platform's own text font, which is not free; the most similar one first.
 const QStringList& standIns()
 {
     static const QStringList families { "Inter", "TeX Gyre Heros", "Liberation Sans", "sans-serif" };

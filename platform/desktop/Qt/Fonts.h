@@ -1,4 +1,4 @@
-// The fonts that stand in for the platform's.
+// Replacements for the platform's fonts.
 #pragma once
 
 #include "toolkit/drawing/Font.h"
@@ -7,7 +7,7 @@
 
 namespace brimsound::desktop {
 
-/// The font to draw with; its size in points is taken as pixels of a canvas at scale 1.
+/// The font to draw with. Its size in points is used as pixels of a canvas at scale 1.
 QFont qFont(const toolkit::Font&);
 
 } // namespace brimsound::desktop

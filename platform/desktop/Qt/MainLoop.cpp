@@ -86,7 +86,7 @@ void MainLoop::watchBus()
 
 void MainLoop::lookForBus()
 {
-    // Watched from then on when it is there.
+    // When the bus is back, watchBus is called and stops the timer.
     if (!SessionBus::shared().connection())
         _busTimer.start(std::min(2 * _busTimer.intervalAsDuration(), longestPause));
 }
@@ -101,7 +101,7 @@ void MainLoop::scheduleTick()
 {
     const auto& clock = toolkit::Clock::shared();
     if (clock.isAnimating()) {
-        // Events that come faster than frames must not put the next frame off again and again.
+        // Events that arrive faster than frames must not delay the next frame again and again.
         if (!_timer.isActive() || _timer.remainingTimeAsDuration() > frame)
             _timer.start(frame);
     } else if (const auto next = clock.untilNextAction()) {

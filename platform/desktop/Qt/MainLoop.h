@@ -1,4 +1,3 @@
-// Time and bus traffic for a running pane.
 #pragma once
 
 #include <QElapsedTimer>
@@ -10,12 +9,12 @@
 
 namespace brimsound::desktop {
 
-/// Moves the clock of the view tree and takes in what arrives on the session bus, on Qt's event loop. With
-/// real time it looks for a bus that was lost until it is back.
+/// Advances the clock of the views and processes messages of the session bus, in Qt's event loop. In real
+/// time it also reconnects to a bus that was lost.
 class MainLoop {
 public:
-    /// Real time passes by itself, for a pane in a window. Virtual time passes only while `wait` is called,
-    /// as much as it is told, and bus traffic is taken in only then: every run of a script is the same.
+    /// Real time is for a pane in a window. Virtual time only advances in `wait`, by the given time, and bus
+    /// messages are processed only then, so that every run of a script has the same result.
     enum class Time { Real, Virtual };
 
     explicit MainLoop(Time);
@@ -23,11 +22,12 @@ public:
     MainLoop& operator=(const MainLoop&) = delete;
     ~MainLoop();
 
-    /// Runs for that many seconds; whatever was on its way on the bus has arrived and is handled by then.
+    /// Runs for this many seconds. All bus messages that were sent before are processed.
     void wait(double seconds);
 
 private:
-    /// Disabled at once, as its descriptor may be closed already; deleted once its own signal has returned.
+    /// Disables the notifier immediately, because its descriptor may already be closed. Deletes it after its
+    /// own signal has returned.
     struct DeleteLater {
         void operator()(QSocketNotifier* notifier) const
         {
@@ -44,7 +44,7 @@ private:
     const Time _time;
     QElapsedTimer _elapsed;
     QTimer _timer;
-    /// Runs while there is no bus; every look makes the next one come later.
+    /// Active without a bus. The interval increases with each attempt.
     QTimer _busTimer;
     std::vector<std::unique_ptr<QSocketNotifier, DeleteLater>> _busNotifiers;
 };

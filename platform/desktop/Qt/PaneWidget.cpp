@@ -19,9 +19,9 @@ using toolkit::Key, toolkit::KeyStroke, toolkit::Point, toolkit::Pointer;
 
 namespace {
 
-/// Points that one notch of a wheel scrolls.
+/// The distance that one notch of a wheel scrolls, in points.
 constexpr double notchDistance = 60;
-/// The wheel's angle for one notch, in the eighths of a degree that Qt counts in.
+/// The wheel's angle for one notch, in Qt's unit of 1/8 degree.
 constexpr double notchAngle = 120;
 
 Point toolkitPoint(QPointF point)
@@ -29,7 +29,7 @@ Point toolkitPoint(QPointF point)
     return { point.x(), point.y() };
 }
 
-// A mouse event that Qt made up from a touch; the touch itself has been seen.
+// Whether Qt created the mouse event from a touch, which was already handled.
 bool isMadeUp(const QMouseEvent& event)
 {
     return event.source() != Qt::MouseEventNotSynthesized;
@@ -88,7 +88,7 @@ PaneWidget::PaneWidget(toolkit::Window& window)
     const auto size = window.bounds().size;
     resize(QSizeF(size.width, size.height).toSize());
     _window.onInvalidate = [this](const toolkit::Rect& part) { repaintPart(part); };
-    // Later, as it may be told from within the painting or from within the editor.
+    // Delayed, because the focus may move during painting or in the editor.
     _window.onFocusMoved = [this] { QTimer::singleShot(0, this, [this] { lendEditor(); }); };
 }
 
@@ -105,7 +105,7 @@ void PaneWidget::repaintPart(const toolkit::Rect& part)
 
 void PaneWidget::paintEvent(QPaintEvent* event)
 {
-    // Everything is painted again whenever the window comes to a screen of another scale.
+    // The whole window is painted when it moves to a screen with another scale.
     setScreenScale(devicePixelRatioF());
     _window.layOutAll();
     if (_editor) {
@@ -116,7 +116,7 @@ void PaneWidget::paintEvent(QPaintEvent* event)
     painter.setClipRect(event->rect());
     QtCanvas canvas(painter, devicePixelRatioF());
     _window.drawTree(canvas);
-    // A picture of the window shows no editor.
+    // Other pictures of the window do not show the editor.
     if (_editor)
         _editor->setFieldDraws(true);
 }
@@ -195,7 +195,7 @@ void PaneWidget::wheelEvent(QWheelEvent* event)
 
 void PaneWidget::keyPressEvent(QKeyEvent* event)
 {
-    // What comes before the editor is there.
+    // Text may arrive before the editor exists.
     if (!_editor && isText(event->text()) && _window.typeText(event->text().toStdString()))
         return;
     const auto key = keyOf(*event);
@@ -206,7 +206,7 @@ void PaneWidget::keyPressEvent(QKeyEvent* event)
 
 void PaneWidget::keyReleaseEvent(QKeyEvent* event)
 {
-    // A key that is held is said to be released before each repetition.
+    // Qt also reports a release before each repetition of a pressed key.
     const auto key = keyOf(*event);
     if (key && !event->isAutoRepeat())
         _window.keyReleased(*key);
@@ -215,7 +215,7 @@ void PaneWidget::keyReleaseEvent(QKeyEvent* event)
 void PaneWidget::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
-    // Qt tells readers of the widget as soon as this is done; where in it the keyboard is they hear after
+    // Qt reports the focus of the widget when this function returns. The focused view must be reported after
     // that.
     QTimer::singleShot(0, this, [this] {
         if (auto* part = _window.focus().part())
@@ -252,7 +252,7 @@ void PaneWidget::lendEditor()
 
 bool PaneWidget::focusNextPrevChild(bool)
 {
-    // There is no other widget to go to: Tab is the views' own.
+    // There are no other widgets. Tab moves between the views.
     return false;
 }
 

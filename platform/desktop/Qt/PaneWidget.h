@@ -1,4 +1,3 @@
-// The one widget that shows a view tree.
 #pragma once
 
 #include "platform/desktop/Qt/Accessibility.h"
@@ -12,8 +11,8 @@
 
 namespace brimsound::desktop {
 
-/// Paints a window's views and hands it what mouse, finger, wheel and keys do. The window outlives the
-/// widget.
+/// Shows the views of a window, and passes it the input from mouse, touch screen, wheel and keyboard. The
+/// window must outlive the widget.
 class PaneWidget : public QWidget {
 public:
     explicit PaneWidget(toolkit::Window&);
@@ -38,13 +37,13 @@ protected:
 private:
     void touchEvent(const QTouchEvent&);
     void repaintPart(const toolkit::Rect&);
-    /// Lays an editor over the text field that has the keyboard, and takes it away from another.
+    /// Puts an editor over the focused text field, and removes the editor from any other field.
     void lendEditor();
 
     toolkit::Window& _window;
     Accessibility _accessibility { *this, _window };
     std::unique_ptr<FieldEditor> _editor;
-    /// The finger or the mouse that holds the touch; the others are ignored.
+    /// The finger or the mouse of the current touch. All others are ignored.
     int _finger = -1;
     bool _mouse = false;
 };

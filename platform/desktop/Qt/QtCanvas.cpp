@@ -20,7 +20,7 @@ QRectF qRect(const Rect& rect)
     return { rect.origin.x, rect.origin.y, rect.size.width, rect.size.height };
 }
 
-/// Between 0 and 1; 0 for what is no number.
+/// Clamps to 0 to 1; 0 for NaN.
 float shownComponent(double component)
 {
     return component > 0 ? static_cast<float>(std::min(component, 1.0)) : 0.0f;
@@ -91,7 +91,7 @@ void QtCanvas::beginGroup(const Rect& rect, double alpha, double cornerRadius)
     group->rect = qRect(rect);
     group->alpha = alpha;
     group->cornerRadius = cornerRadius;
-    // The picture covers whole device pixels, so that the group's contents stay as sharp as without it.
+    // The picture covers whole device pixels, so that its contents are as sharp as outside of a group.
     const auto toDevice = painter().combinedTransform();
     const auto visible = toDevice.mapRect(group->rect & painter().clipBoundingRect()).toAlignedRect();
     group->image = QImage(visible.size().expandedTo({ 1, 1 }), QImage::Format_ARGB32_Premultiplied);

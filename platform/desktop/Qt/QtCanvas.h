@@ -1,4 +1,3 @@
-// A canvas that draws with QPainter.
 #pragma once
 
 #include "toolkit/drawing/Canvas.h"
@@ -12,13 +11,12 @@
 
 namespace brimsound::desktop {
 
-/// The same colour; components outside of their range are brought into it.
+/// Components out of range are clamped.
 QColor qColor(const toolkit::Color&);
 
 class QtCanvas : public toolkit::Canvas {
 public:
-    /// Draws with the painter, which has a clip set and outlives the canvas. `scale` is device pixels a
-    /// point.
+    /// The painter must have a clip and outlive the canvas. `scale` is the number of device pixels per point.
     QtCanvas(QPainter&, double scale);
 
     void save() override;
@@ -42,7 +40,7 @@ public:
     double hairline() const override { return 1 / _scale; }
 
 private:
-    /// A picture that a group is drawn into before it goes onto what lies below.
+    /// The picture that a group is drawn on before it is blended.
     struct Group {
         QRectF rect;
         double alpha = 1;
@@ -55,7 +53,7 @@ private:
 
     QPainter& _base;
     const double _scale;
-    /// By pointer, as a picture must stay where it is while it is painted.
+    /// Pointers, because a picture must not move in memory while it is painted.
     std::vector<std::unique_ptr<Group>> _groups;
 };
 

@@ -9,7 +9,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// To be painted on; on pixels that have to outlive it.
+/// For painting on the pixels, which must outlive it.
 QImage paintable(const Pixels& pixels)
 {
     return { pixels.bytes, static_cast<int>(pixels.width), static_cast<int>(pixels.height),
@@ -47,7 +47,7 @@ std::shared_ptr<const Bitmap> readPng(std::span<const std::byte> bytes)
               .convertToFormat(QImage::Format_RGBA8888_Premultiplied);
     if (picture.isNull())
         return nullptr;
-    // Only looked at, though the type does not say so.
+    // The pixels are only read.
     auto* pixels = const_cast<uchar*>(picture.constBits());
     return Bitmap::copyOf({ pixels, static_cast<std::size_t>(picture.width()),
         static_cast<std::size_t>(picture.height()), static_cast<std::size_t>(picture.bytesPerLine()) });

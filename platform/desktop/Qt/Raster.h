@@ -1,4 +1,4 @@
-// Bitmaps as Qt knows them.
+// Conversions between bitmaps and Qt images.
 #pragma once
 
 #include "platform/UIKit/UIImage.h"
@@ -10,7 +10,7 @@
 
 namespace brimsound::desktop {
 
-/// On those pixels, which have to outlive it.
+/// An image on these pixels, which must outlive it.
 QImage qImage(const toolkit::Pixels&);
 
 /// Writes the image's pixels as a PNG. False when it has none or the file cannot be written.

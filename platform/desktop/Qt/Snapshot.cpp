@@ -8,7 +8,7 @@ namespace brimsound::desktop {
 
 namespace {
 
-/// Beyond that a picture would ask for more memory than a machine may have to spare: four bytes a pixel.
+/// The maximum size of a picture in pixels, to limit the memory; a pixel takes four bytes.
 constexpr double mostPixels = 1e8;
 
 } // namespace

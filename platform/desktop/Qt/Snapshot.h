@@ -1,4 +1,3 @@
-// Pictures of the window.
 #pragma once
 
 #include "toolkit/window/Window.h"
@@ -8,8 +7,8 @@
 
 namespace brimsound::desktop {
 
-/// Lays the window out and draws all of it, with `scale` device pixels a point. Null when that makes more
-/// than a hundred million pixels, or more than there is memory for.
+/// Lays out the window and draws all of it, with `scale` device pixels per point. Null for more than a
+/// hundred million pixels, and without enough memory.
 QImage pictureOf(toolkit::Window&, double scale);
 
 /// Writes such a picture as a PNG. False when there is none or the file cannot be written.

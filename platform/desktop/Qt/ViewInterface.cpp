@@ -13,7 +13,7 @@ using toolkit::Accessible, toolkit::Role, toolkit::View;
 
 namespace {
 
-/// Qt has no name of its own for it.
+/// Qt defines no name for this action.
 const auto deleteAction = QStringLiteral("Delete");
 
 QAccessible::Role qtRole(Role role)
@@ -22,7 +22,7 @@ QAccessible::Role qtRole(Role role)
     case Role::None:
         return QAccessible::NoRole;
     case Role::Table:
-        // A list of unlike things; a table to Qt is a grid of cells.
+        // Not a table, which is a grid of cells in Qt.
         return QAccessible::Grouping;
     case Role::List:
         return QAccessible::List;
@@ -46,7 +46,7 @@ QAccessible::Role qtRole(Role role)
     return QAccessible::NoRole;
 }
 
-/// What can be done with a view besides giving it the keyboard.
+/// The actions of a view, except for moving the focus to it.
 QStringList actionsOf(const Accessible& self)
 {
     switch (self.role) {
@@ -261,7 +261,7 @@ QStringList ViewInterface::actionNames() const
 
 void ViewInterface::doAction(const QString& name)
 {
-    // What an action does may take the view away, and this with it.
+    // The action may remove the view and destroy this object.
     if (!actionNames().contains(name))
         return;
     if (name == setFocusAction())

@@ -1,4 +1,3 @@
-// A view as a screen reader sees it.
 #pragma once
 
 #include "platform/desktop/Qt/FieldText.h"
@@ -14,8 +13,8 @@ namespace brimsound::desktop {
 
 class Accessibility;
 
-/// Whoever asks may hold an interface of a view that is out of the window for now, like a table row that is
-/// kept for reuse: then it is not valid and knows nothing.
+/// A view for screen readers. The view may be out of the window, for example a table row that is kept for
+/// reuse; the interface is then not valid.
 class ViewInterface : public QAccessibleInterface,
                       public QAccessibleValueInterface,
                       public QAccessibleActionInterface {
@@ -52,7 +51,7 @@ public:
 
 private:
     toolkit::Accessible accessible() const;
-    /// The view as a slider; null when it is none.
+    /// The view as a slider; null for other views.
     toolkit::Slider* slider() const;
 
     Accessibility& _accessibility;
@@ -62,9 +61,9 @@ private:
 
 /// The children of a view as interfaces, in reading order.
 QList<QAccessibleInterface*> interfacesIn(Accessibility&, const toolkit::View&);
-/// The one at a point of the screen; null when there is none.
+/// The interface at a point of the screen; may be null.
 QAccessibleInterface* interfaceAt(const QList<QAccessibleInterface*>&, QPoint);
-/// The one that has the keyboard, or in which something has it; null when none has.
+/// The interface that has the focus, or a descendant with the focus; may be null.
 QAccessibleInterface* focusedAmong(const QList<QAccessibleInterface*>&);
 
 } // namespace brimsound::desktop

@@ -1,4 +1,3 @@
-// Images that are made of pixels.
 #pragma once
 
 #include "platform/CoreGraphics/CGImage.h"
@@ -7,7 +6,7 @@
 
 namespace brimsound::desktop {
 
-/// A picture and how many of its pixels make a point. The native object of every UIImage.
+/// An image made of pixels, with the number of pixels per point. The native object of every UIImage.
 class BitmapImage : public toolkit::Image {
 public:
     BitmapImage(const RetainPtr<CGImage>&, double scale);

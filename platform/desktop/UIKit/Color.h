@@ -1,4 +1,4 @@
-// Colors of the platform's interface as the toolkit's, and back.
+// Conversions between the colors of the platform's interface and of the toolkit.
 #pragma once
 
 #include "platform/UIKit/UIColor.h"
@@ -13,7 +13,7 @@ using toolkit::Color;
 /// The components of a color; fully transparent for null.
 Color colorOf(const RetainPtr<UIColor>&);
 
-/// The same; nothing for null.
+/// The color; nothing for null.
 std::optional<Color> toolkitColor(const RetainPtr<UIColor>&);
 /// Null for nothing.
 RetainPtr<UIColor> uiColor(const std::optional<Color>&);

@@ -1,4 +1,3 @@
-// What a control's events are sent to.
 #pragma once
 
 #include "platform/UIKit/UIControl.h"
@@ -22,7 +21,7 @@ private:
     struct Target {
         NSObject* object;
         std::string action;
-        /// Null when the object does not answer the action.
+        /// Null when the object has no such method.
         const Method* method;
         UIControlEvents events;
     };
@@ -30,7 +29,7 @@ private:
     std::vector<Target> _targets;
 };
 
-/// A toolkit control that sends its events to the targets of the product's.
+/// A toolkit control with the targets of its UIControl.
 template <typename Native> class HostedControl : public Hosted<Native>, public ControlTargets {
 public:
     using Hosted<Native>::Hosted;

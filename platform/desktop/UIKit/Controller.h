@@ -1,4 +1,3 @@
-// View controllers' views, and what they present.
 #pragma once
 
 #include "platform/UIKit/UIViewController.h"
@@ -11,22 +10,22 @@ class Sheet;
 
 namespace brimsound::desktop {
 
-/// The native object of a view controller.
+/// The native object of a view controller: its view, and the controller that it presents.
 class Controller : public toolkit::Object {
 public:
     Controller();
 
-    /// Null when there is none.
+    /// May be null.
     const toolkit::Ref<toolkit::View>& view() const { return _view; }
-    /// Null lets go of it.
+    /// Null removes the view.
     void setView(toolkit::Ref<toolkit::View>);
 
-    /// The controller that is shown over the window; null for none.
+    /// The presented controller; may be null.
     UIViewController* presented() const { return _presented.get(); }
     void present(RetainPtr<UIViewController>, bool animated);
     void dismiss(bool animated);
 
-    /// Escape was pressed while the controller's view is over everything.
+    /// Called for Escape while the controller's view is in front.
     virtual void escape() { }
 
 protected:
@@ -45,7 +44,7 @@ inline Controller& nativeController(const UIViewController& controller)
     return nativeOf<Controller>(controller);
 }
 
-/// Makes a controller whose view is that one.
+/// Creates a controller with this view.
 RetainPtr<UIViewController> makeViewController(toolkit::View&);
 
 } // namespace brimsound::desktop

@@ -1,4 +1,4 @@
-// Fonts of the platform's interface as the toolkit's, and back.
+// Conversions between the fonts of the platform's interface and of the toolkit.
 #pragma once
 
 #include "platform/UIKit/UIFont.h"

@@ -1,4 +1,4 @@
-// Points, sizes and rectangles of the platform's interface as the toolkit's, and back.
+// Conversions between the geometry of the platform's interface and of the toolkit.
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"

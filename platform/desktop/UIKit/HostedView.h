@@ -1,4 +1,3 @@
-// Toolkit views that the product's views can derive from.
 #pragma once
 
 #include "platform/UIKit/UIView.h"
@@ -11,19 +10,19 @@
 
 namespace brimsound::desktop {
 
-/// A toolkit view that asks the product's view for what that may override. What the product's view asks of
-/// its base class goes to the toolkit's own.
+/// The native object of a view of the product. It calls the methods that the product's class may override;
+/// their base implementations call the toolkit.
 class HostedView {
 public:
     virtual ~HostedView() = default;
 
-    /// Lays the view out as the toolkit does by itself.
+    /// The toolkit's own layout.
     virtual void layOutItself() = 0;
 
-    /// Whose view it is; null for one that is nobody's.
+    /// The controller that this is the view of; may be null.
     void setController(UIViewController* controller) { _controller = controller; }
 
-    /// The background color as it was given; null for none.
+    /// The background color that was set; may be null.
     const RetainPtr<UIColor>& backgroundColor() const { return _backgroundColor; }
     void setBackgroundColor(RetainPtr<UIColor> color) { _backgroundColor = std::move(color); }
 
@@ -69,13 +68,13 @@ private:
     UIView* product() const { return static_cast<UIView*>(existingObjectOf(*this)); }
 };
 
-/// The toolkit's view behind one of the product's.
+/// The toolkit view of one of the product's views.
 inline toolkit::View& nativeView(const UIView& view)
 {
     return nativeOf<toolkit::View>(view);
 }
 
-/// The product's view that the toolkit's belongs to, made when there is none. Not retained; null for null.
+/// The UIView of a toolkit view, created if necessary. Not retained; null for null.
 UIView* viewOf(toolkit::View*);
 
 } // namespace brimsound::desktop

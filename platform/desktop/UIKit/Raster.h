@@ -1,4 +1,4 @@
-// From images to pixels and back.
+// Conversions between images and bitmaps.
 #pragma once
 
 #include "platform/desktop/CoreGraphics/Bitmap.h"
@@ -10,11 +10,11 @@
 
 namespace brimsound::desktop {
 
-/// The image drawn on a transparent bitmap, its size in points times the scale and rounded up. Null when
-/// there is no such bitmap.
+/// The image drawn on a transparent bitmap. The size of the bitmap is the image's size in points times the
+/// scale, rounded up. Null when the bitmap cannot be created.
 std::shared_ptr<const Bitmap> rasterized(const toolkit::Image&, double scale);
 
-/// The picture in a PNG file's bytes. Null when they are none.
+/// Decodes a PNG file. Null when it is invalid.
 std::shared_ptr<const Bitmap> readPng(std::span<const std::byte>);
 
 } // namespace brimsound::desktop

@@ -1,9 +1,8 @@
-// The scale of the screen that the pane is shown on.
 #pragma once
 
 namespace brimsound::desktop {
 
-/// What UIScreen says from now on, in pixels a point; 2 until then. Process-wide, for whoever shows the pane.
+/// Sets the scale that UIScreen returns, in pixels per point, for the whole process. Initially 2.
 void setScreenScale(double);
 
 } // namespace brimsound::desktop

@@ -1,11 +1,10 @@
-// The fonts that the machine has.
 #pragma once
 
 #include <string>
 
 namespace brimsound::desktop {
 
-/// Whether the machine has a font to show for the PostScript name.
+/// Whether the machine has a font with this PostScript name or a replacement.
 bool fontExists(const std::string& postScriptName);
 
 } // namespace brimsound::desktop

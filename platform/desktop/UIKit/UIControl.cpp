@@ -76,7 +76,7 @@ void ControlTargets::add(NSObject& target, std::string_view action, UIControlEve
 void ControlTargets::send(UIControl& sender, UIControlEvents events) const
 {
     const Argument argument = static_cast<NSObject*>(&sender);
-    // By position: an action may add targets.
+    // By index, because an action may add targets.
     for (std::size_t i = 0; i < _targets.size(); ++i) { // NOLINT(modernize-loop-convert)
         if ((_targets[i].events & events) && _targets[i].method)
             _targets[i].method->invoke(*_targets[i].object, { &argument, 1 });

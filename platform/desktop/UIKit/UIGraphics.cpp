@@ -12,23 +12,23 @@ namespace brimsound {
 namespace {
 
 struct ImageContext {
-    /// Null where it could not be made.
+    /// Null when it could not be created.
     RetainPtr<CGContext> context;
-    /// Pixels a point.
+    /// Pixels per point.
     double scale = 1;
 };
 
-/// The current one last.
+/// The current one is the last.
 std::vector<ImageContext>& imageContexts()
 {
     static std::vector<ImageContext> contexts;
     return contexts;
 }
 
-/// 0 for what is no length, or too long.
+/// 0 for an invalid length, or one that is too large.
 std::size_t wholePixels(double length)
 {
-    // What is a whole number but for the last digits that its factors were rounded to is meant to be one.
+    // Rounding errors must not make a whole number of pixels one larger.
     const double pixels = std::ceil(length - 1e-6);
     return pixels > 0 && pixels <= desktop::longestSide ? static_cast<std::size_t>(pixels) : 0;
 }

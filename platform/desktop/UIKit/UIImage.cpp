@@ -16,7 +16,7 @@ namespace brimsound {
 
 namespace {
 
-/// "plus@2x.png" and "plus@2x~ipad.png" are at 2 pixels a point.
+/// "plus@2x.png" and "plus@2x~ipad.png" have 2 pixels per point.
 double scaleInName(const std::string& path)
 {
     auto name = std::filesystem::path(path).stem().string();

@@ -71,7 +71,7 @@ void UISlider::setAccessibilityAdjustment(const UIAccessibilityAdjustment& adjus
 
 UIImage* UISlider::currentThumbImage() const
 {
-    // All sliders look alike and share the one thumb.
+    // All sliders share the image.
     static const auto image = [] {
         const double scale = UIScreen::mainScreen().scale();
         const auto& thumb = toolkit::Slider::thumb();

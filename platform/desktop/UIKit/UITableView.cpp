@@ -23,7 +23,7 @@ UITableViewCell& productCell(toolkit::Cell& cell)
     return desktop::objectOf<UITableViewCell>(cell);
 }
 
-/// A table that asks the product's data source and delegate.
+/// A table with the product's data source and delegate.
 class TableView : public desktop::Hosted<toolkit::Table>, private toolkit::TableSource {
 public:
     using Hosted::Hosted;

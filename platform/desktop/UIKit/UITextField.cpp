@@ -9,7 +9,7 @@ namespace brimsound {
 
 namespace {
 
-/// A field, and what the platform's interface knows of it besides.
+/// A text field with the properties that only the platform's interface has.
 struct FieldView : desktop::HostedControl<toolkit::TextField> {
     using HostedControl::HostedControl;
 

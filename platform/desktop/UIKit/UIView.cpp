@@ -14,7 +14,7 @@ using desktop::nativeView;
 
 namespace {
 
-/// Null for a view that the toolkit made.
+/// Null for a view that the toolkit created.
 desktop::HostedView* hostedView(const UIView& view)
 {
     return dynamic_cast<desktop::HostedView*>(&nativeView(view));

@@ -81,7 +81,7 @@ void Controller::tellView(UIViewController* controller) const
 void Controller::present(RetainPtr<UIViewController> controller, bool animated)
 {
     _presented = std::move(controller);
-    // The sheet may fade for longer than this lives.
+    // The sheet may exist longer than this object while it fades out.
     const auto escape = [kept = _presented] { nativeController(*kept).escape(); };
     _sheet = toolkit::make<toolkit::Sheet>(nativeView(_presented->view()), escape);
     _sheet->appearIn(*toolkit::keyWindow(), animated);

@@ -1,11 +1,11 @@
-// Opening URLs and files with the desktop's programs.
+// Opens URLs and files with the desktop's programs.
 #pragma once
 
 #include <string>
 
 namespace brimsound::desktop {
 
-/// Whether a program is set up for the URL's scheme.
+/// Whether there is a default program for the URL's scheme.
 bool hasProgramFor(const std::string& url);
 /// Starts the scheme's default program with the URL. False when there is none or it cannot be started.
 bool openWithProgram(const std::string& url);
