@@ -25,9 +25,21 @@ std::uint64_t Clock::after(double delay, std::function<void()> action)
     return _lastNumber;
 }
 
+// What an action holds may cancel other actions when it is destroyed. So an action is removed before it is
+// destroyed.
+
+Clock::~Clock()
+{
+    while (!_actions.empty())
+        _actions.extract(_actions.begin());
+}
+
 void Clock::cancel(std::uint64_t number)
 {
-    std::erase_if(_actions, [&](const auto& action) { return action.second.first == number; });
+    const auto found
+        = std::ranges::find_if(_actions, [&](const auto& action) { return action.second.first == number; });
+    if (found != _actions.end())
+        _actions.extract(found);
 }
 
 void Clock::onEveryFrame(std::function<bool(double)> step)

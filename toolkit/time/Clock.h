@@ -14,6 +14,11 @@ class Clock {
 public:
     static Clock& shared();
 
+    Clock() = default;
+    Clock(const Clock&) = delete;
+    Clock& operator=(const Clock&) = delete;
+    ~Clock();
+
     double now() const { return realTime ? realTime() : _now; }
 
     /// Calls the action once, `delay` seconds from now. The returned number cancels it.

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
 #include <string>
 
 namespace brimsound::tests {
@@ -22,6 +23,13 @@ protected:
             names.emplace_back(name);
             times.push_back(clock.now());
         };
+    }
+
+    /// An action that cancels the one of that number when it is destroyed.
+    static std::function<void()> cancelerOf(Clock& clock, std::uint64_t number)
+    {
+        const std::shared_ptr<void> canceler(nullptr, [&clock, number](void*) { clock.cancel(number); });
+        return [canceler] {};
     }
 
     Clock clock;
@@ -81,6 +89,27 @@ TEST_F(TheClock, DoesNotCallACanceledAction)
     clock.cancel(12345);
     clock.advance(2);
     EXPECT_THAT(names, ElementsAre("kept"));
+}
+
+TEST_F(TheClock, LetsACanceledActionCancelItsNeighborsWhenItIsDestroyed)
+{
+    const auto before = clock.after(1, note("before"));
+    const auto canceler = clock.after(2, cancelerOf(clock, before));
+    const auto after = clock.after(3, note("after"));
+    const auto last = clock.after(4, cancelerOf(clock, after));
+    clock.cancel(canceler);
+    clock.cancel(last);
+    EXPECT_EQ(clock.untilNextAction(), std::nullopt);
+}
+
+TEST_F(TheClock, LetsActionsCancelOthersWhenItIsDestroyed)
+{
+    auto other = std::make_unique<Clock>();
+    const auto last = other->after(3, note("last"));
+    const auto first = other->after(1, cancelerOf(*other, last));
+    other->after(2, cancelerOf(*other, first));
+    other = nullptr;
+    EXPECT_THAT(names, IsEmpty());
 }
 
 TEST_F(TheClock, LetsAnActionCancelAnotherThatIsDueAtTheSameTime)
