@@ -8,7 +8,6 @@ namespace {
 
 using toolkit::Color;
 using toolkit::colorOf;
-using toolkit::Hsv;
 using toolkit::hsvOf;
 
 TEST(AColorByItsHue, IsRedGreenAndBlueAThirdOfTheCircleApart)
