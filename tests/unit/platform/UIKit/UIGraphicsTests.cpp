@@ -151,7 +151,8 @@ TEST_F(AnImageContext, RoundsItsSizeUpToPixels)
     };
     EXPECT_EQ(sizeOf({ 10.7, 3.2 }, 1), (CGSize { 11, 4 }));
     EXPECT_EQ(sizeOf({ 10.7, 3.2 }, 2), (CGSize { 11, 3.5 }));
-    EXPECT_EQ(sizeOf({ 1.1, 3.3 }, 10), (CGSize { 1.1, 3.3 })) << "though 1.1 times 10 is a little above 11";
+    EXPECT_EQ(sizeOf({ 1.1, 3.3 }, 100), (CGSize { 1.1, 3.3 }))
+        << "though 1.1 times 100 is a little above 110";
 }
 
 TEST_F(AnImageContext, TakesTheScreensScaleForZero)

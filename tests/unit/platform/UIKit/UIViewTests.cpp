@@ -184,7 +184,15 @@ TEST(AFirstResponder, HasTheKeyboardOfItsWindow)
     EXPECT_TRUE(window->focus().isGivenTo(nativeView(*view)));
     view->resignFirstResponder();
     EXPECT_FALSE(view->isFirstResponder());
-    EXPECT_FALSE(make<UIView>()->becomeFirstResponder());
+}
+
+TEST(AFirstResponder, IsNoViewThatDoesNotWantToBe)
+{
+    const auto window = toolkit::make<toolkit::Window>(toolkit::Size { 320, 400 });
+    const auto view = make<UIView>();
+    window->add(nativeView(*view));
+    EXPECT_FALSE(view->becomeFirstResponder());
+    EXPECT_FALSE(window->focus().isGivenTo(nativeView(*view)));
 }
 
 TEST(AnimatingWithADuration, ShowsTheChangesOnTheirWay)
