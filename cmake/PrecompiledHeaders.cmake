@@ -12,6 +12,7 @@ function(compile_headers name)
   add_library(${name} OBJECT ${sources})
   target_precompile_headers(${name} PRIVATE ${ARGN})
   if(TARGET gnustep)
+    # When it is included after precompiled headers without it, clang finds a second class named Protocol.
     target_link_libraries(${name} PRIVATE gnustep)
     target_precompile_headers(${name} PRIVATE $<$<COMPILE_LANGUAGE:OBJCXX>:<Foundation/Foundation.h$<ANGLE-R>>)
   endif()
