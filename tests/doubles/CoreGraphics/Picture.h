@@ -19,15 +19,15 @@ struct CGContext {
     double row(double y) const { return originY + scaleY * y; }
 
     std::size_t references = 1;
-    brimsound::desktop::Pixels pixels;
+    brimsound::desktop::Pixels pixels {};
     /// Null when the caller owns the memory.
-    std::shared_ptr<brimsound::desktop::Bitmap> bitmap;
+    std::shared_ptr<brimsound::desktop::Bitmap> bitmap = nullptr;
     double scaleX = 1;
     double scaleY = 1;
     double originX = 0;
     double originY = 0;
     brimsound::CGBlendMode blendMode = brimsound::CGBlendMode::Normal;
-    brimsound::desktop::Color fillColor;
+    brimsound::desktop::Color fillColor {};
 };
 
 namespace brimsound::doubles {

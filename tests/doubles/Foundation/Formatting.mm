@@ -1,6 +1,7 @@
 // Formats text as the device's Foundation does: with a decimal point in every language.
+#import "tests/doubles/objc/replaceMethod.h"
+
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 #include <clocale>
 #include <cstdarg>
@@ -44,7 +45,7 @@ NSString* stringWithFormat(id self, SEL, NSString* format, ...)
 + (void)load
 {
     const Method method = class_getClassMethod([NSString class], @selector(stringWithFormat:));
-    method_setImplementation(method, reinterpret_cast<IMP>(stringWithFormat));
+    brimsound::doubles::replaceMethod(method, stringWithFormat);
 }
 
 @end

@@ -1,7 +1,7 @@
-#include "tests/doubles/Foundation/Languages.h"
+#import "tests/doubles/Foundation/Languages.h"
+#import "tests/doubles/objc/replaceMethod.h"
 
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 namespace {
 
@@ -27,7 +27,7 @@ NSArray* preferredLanguages(id, SEL)
 + (void)load
 {
     const Method method = class_getClassMethod([NSLocale class], @selector(preferredLanguages));
-    method_setImplementation(method, reinterpret_cast<IMP>(preferredLanguages));
+    brimsound::doubles::replaceMethod(method, preferredLanguages);
 }
 
 @end

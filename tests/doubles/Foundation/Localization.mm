@@ -1,7 +1,8 @@
 // Reads strings tables as the device's Foundation does: property lists of any format, in the first preferred
 // language that has one. GNUstep supports only the oldest format, and has its own list of languages.
+#import "tests/doubles/objc/replaceMethod.h"
+
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 namespace {
 
@@ -44,7 +45,7 @@ NSString* localizedString(NSBundle* self, SEL, NSString* key, NSString* value, N
 {
     const Method method
         = class_getInstanceMethod([NSBundle class], @selector(localizedStringForKey:value:table:));
-    method_setImplementation(method, reinterpret_cast<IMP>(localizedString));
+    brimsound::doubles::replaceMethod(method, localizedString);
 }
 
 @end

@@ -1,6 +1,7 @@
 // Reads and writes property lists as the device's Foundation does, where GNUstep's behavior differs.
+#import "tests/doubles/objc/replaceMethod.h"
+
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 namespace {
 
@@ -76,8 +77,7 @@ BOOL isValid(id self, SEL selector, id list, NSPropertyListFormat format)
 
 template <typename Function> Function replace(Class native, SEL selector, Function function)
 {
-    return reinterpret_cast<Function>(
-        method_setImplementation(class_getClassMethod(native, selector), reinterpret_cast<IMP>(function)));
+    return brimsound::doubles::replaceMethod(class_getClassMethod(native, selector), function);
 }
 
 } // namespace

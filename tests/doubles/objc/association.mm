@@ -1,6 +1,7 @@
 // Associated objects, which GCC's runtime lacks.
+#import "tests/doubles/objc/replaceMethod.h"
+
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 #include <dlfcn.h>
 
@@ -112,8 +113,7 @@ void NSDeallocateObject(id object)
 + (void)load
 {
     const Method method = class_getInstanceMethod([NSObject class], @selector(dealloc));
-    originalDealloc
-        = reinterpret_cast<Dealloc>(method_setImplementation(method, reinterpret_cast<IMP>(dealloc)));
+    originalDealloc = brimsound::doubles::replaceMethod(method, dealloc);
 }
 
 @end
