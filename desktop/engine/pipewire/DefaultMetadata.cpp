@@ -46,9 +46,12 @@ int DefaultMetadata::property(
     void* self, std::uint32_t subject, const char* key, const char*, const char* value)
 {
     auto& metadata = *static_cast<DefaultMetadata*>(self);
-    if (key && std::string_view(key) == "default.audio.sink") {
+    const std::string_view name = key ? key : "";
+    if (name == "default.audio.sink") {
         metadata._defaultSink = nameIn(value);
         metadata._routing.defaultSinkChanged(metadata._defaultSink);
+    } else if (name == "default.configured.audio.sink") {
+        metadata._chosenSink = nameIn(value);
     } else {
         metadata._routing.metadataChanged(subject, optionalString(key), optionalString(value));
     }

@@ -24,6 +24,9 @@ public:
     void write(const MetadataWrite&);
     /// The node name of the default sink; empty when there is none.
     const std::string& defaultSink() const { return _defaultSink; }
+    /// The node name of the sink that the user chose as the default; empty when there is none. It is the
+    /// default while it exists.
+    const std::string& chosenSink() const { return _chosenSink; }
 
 private:
     static int property(
@@ -32,6 +35,7 @@ private:
     Proxy _proxy;
     StreamRouting& _routing;
     std::string _defaultSink;
+    std::string _chosenSink;
     Hook _listener;
 };
 

@@ -19,6 +19,8 @@ using namespace std::chrono_literals;
 constexpr auto limitedInterval = 1s;
 /// How long to wait for the session manager to link the output to the device.
 constexpr auto linkPatience = 2s;
+/// How long to wait for the session manager to make the user's choice the default.
+constexpr auto defaultPatience = 500ms;
 constexpr auto releasePatience = 500ms;
 
 } // namespace
@@ -31,6 +33,7 @@ Session::Session(
     , _core(std::move(core))
     , _limitedTimer(event, [this] { tellLimited(); })
     , _unlinkedTimer(event, [this] { remakeUnlinkedSink(); })
+    , _defaultTimer(event, [this] { readMetadataAgain(); })
 {
     static constexpr auto coreEvents = [] {
         pw_core_events events {};
@@ -142,6 +145,7 @@ void Session::bindMetadata(std::uint32_t id, std::uint32_t version)
         return;
     _metadata = std::make_unique<DefaultMetadata>(std::move(proxy), _routing);
     _metadataId = id;
+    _metadataVersion = version;
     sync();
     _metadataAsked = _asked;
 }
@@ -176,6 +180,7 @@ void Session::update()
         _mayStayUnlinked = false;
         _unlinkedTimer.start(linkPatience);
     }
+    expectDefault();
     writeMetadata();
     report();
 }
@@ -276,6 +281,22 @@ void Session::remakeUnlinkedSink()
     const auto layout = _sink->layout();
     _sink.reset();
     makeSink(layout);
+}
+
+void Session::expectDefault()
+{
+    if (!_metadata || _metadata->chosenSink().empty() || _metadata->chosenSink() == _expectedDefault)
+        return;
+    _expectedDefault = _metadata->chosenSink();
+    _defaultTimer.start(defaultPatience);
+}
+
+/// PipeWire does not report a change to a client when another client begins to read the metadata at that
+/// moment.
+void Session::readMetadataAgain()
+{
+    if (_metadata && _metadata->defaultSink() != _expectedDefault && _graph.sinkNamed(_expectedDefault))
+        bindMetadata(_metadataId, _metadataVersion);
 }
 
 void Session::release()

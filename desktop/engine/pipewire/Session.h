@@ -54,6 +54,8 @@ private:
     void report();
     void tellLimited();
     bool hasDefaultDevice() const;
+    void expectDefault();
+    void readMetadataAgain();
     void remakeUnlinkedSink();
 
     PipeWireLoop& _loop;
@@ -67,6 +69,9 @@ private:
     std::map<std::uint32_t, std::unique_ptr<PlayingStream>> _streams;
     std::unique_ptr<DefaultMetadata> _metadata;
     std::uint32_t _metadataId = SPA_ID_INVALID;
+    std::uint32_t _metadataVersion = 0;
+    /// The sink that the user chose last.
+    std::string _expectedDefault;
     std::unique_ptr<EqualizedSink> _sink;
     /// Replaces `_sink` once it appears in the graph.
     std::unique_ptr<EqualizedSink> _nextSink;
@@ -90,6 +95,7 @@ private:
     std::uint64_t _reportedLimited = 0;
     EventTimer _limitedTimer;
     EventTimer _unlinkedTimer;
+    EventTimer _defaultTimer;
     Hook _coreListener;
     Hook _registryListener;
 };
