@@ -3,6 +3,7 @@
 #include "platform/Foundation/NSLocale.h"
 #include "platform/Foundation/PropertyListSerialization.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
+#include "platform/desktop/Foundation/Localizations.h"
 
 #include <vector>
 
@@ -14,11 +15,8 @@ namespace {
 std::vector<std::string> resourceFolders()
 {
     std::vector<std::string> folders;
-    for (const auto& language : preferredLanguages()) {
-        folders.emplace_back("/" + language + ".lproj");
-        if (const auto region = language.find('-'); region != std::string::npos)
-            folders.emplace_back("/" + language.substr(0, region) + ".lproj");
-    }
+    for (const auto& localization : desktop::localizationsFor(preferredLanguages()))
+        folders.emplace_back("/" + localization + ".lproj");
     folders.emplace_back("/en.lproj");
     folders.emplace_back("");
     return folders;
