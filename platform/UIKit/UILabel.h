@@ -11,6 +11,8 @@ enum class NSTextAlignment {
     Left = 0,
     Center = 1,
     Right = 2,
+    /// At the side where the language of the interface starts its lines.
+    Natural = 4,
 };
 
 /// One line of text, truncated with an ellipsis when it does not fit.
@@ -32,6 +34,7 @@ public:
     /// A pressed or selected table row highlights its labels.
     bool isHighlighted() const;
     void setHighlighted(bool);
+    /// Initially natural.
     NSTextAlignment textAlignment() const;
     void setTextAlignment(NSTextAlignment);
 

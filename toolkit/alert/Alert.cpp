@@ -99,7 +99,8 @@ void Alert::layOut()
     for (std::size_t i = 0; i < count; ++i) {
         if (hasButtonsSideBySide()) {
             const double left = static_cast<double>(i) * width / 2;
-            _buttons[i]->setFrame(makeRect(left, height - buttonHeight, width / 2, buttonHeight));
+            _buttons[i]->setFrame(
+                inLayoutDirection(makeRect(left, height - buttonHeight, width / 2, buttonHeight)));
         } else {
             // The first button, which cancels, is at the bottom.
             const double row = i == 0 ? 1 : static_cast<double>(count - i) + 1;

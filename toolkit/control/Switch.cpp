@@ -55,7 +55,7 @@ void Switch::trackingMoved(Point point)
     if (std::abs(point.x - _dragStart) < dragDistance)
         return;
     _wasDragged = true;
-    const bool wanted = point.x > _dragStart;
+    const bool wanted = (point.x > _dragStart) != isRightToLeft();
     _dragStart = point.x;
     if (wanted != _on)
         flip();
@@ -97,7 +97,8 @@ void Switch::draw(Canvas& canvas) const
     canvas.fillRoundedRect(area, area.size.height / 2, between(theme::switchOff, theme::switchOn, _knob));
     const double size = area.size.height - 2 * knobMargin;
     const double way = area.size.width - size - 2 * knobMargin;
-    drawKnob(canvas, makeRect(area.left() + knobMargin + way * _knob, area.top() + knobMargin, size, size));
+    const auto knob = makeRect(knobMargin + way * _knob, knobMargin, size, size);
+    drawKnob(canvas, inLayoutDirection(knob));
 }
 
 } // namespace brimsound::toolkit

@@ -5,7 +5,8 @@
 
 namespace brimsound::toolkit {
 
-/// A switch, initially off. A tap flips it; so does dragging the knob to the other side.
+/// A switch, initially off. A tap flips it; so does dragging the knob to the other side. It is off at the
+/// side where lines of text start.
 class Switch : public Control {
 public:
     Switch();

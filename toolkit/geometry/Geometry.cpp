@@ -16,6 +16,11 @@ Rect between(const Rect& from, const Rect& to, double share)
         between(from.size.width, to.size.width, share), between(from.size.height, to.size.height, share));
 }
 
+Rect mirrored(const Rect& rect, double width)
+{
+    return { { width - rect.right(), rect.top() }, rect.size };
+}
+
 bool isFinite(const Rect& rect)
 {
     return std::isfinite(rect.origin.x) && std::isfinite(rect.origin.y) && std::isfinite(rect.size.width)

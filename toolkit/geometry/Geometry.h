@@ -62,6 +62,9 @@ constexpr double between(double from, double to, double share)
 }
 Rect between(const Rect& from, const Rect& to, double share);
 
+/// The rectangle as far from the right end of that width as it is from the left.
+Rect mirrored(const Rect&, double width);
+
 bool isFinite(const Rect&);
 bool contains(const Rect&, Point);
 bool contains(const Rect& outer, const Rect& inner);

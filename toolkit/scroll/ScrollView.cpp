@@ -179,9 +179,10 @@ void ScrollView::drawAbove(Canvas& canvas) const
     const double height = size.height - 2 * indicatorMargin;
     const double length = std::max(shortestIndicator, height * size.height / contentHeight());
     const double way = std::clamp(origin().y / furthest(), 0.0, 1.0) * (height - length);
-    canvas.fillRoundedRect(makeRect(size.width - indicatorWidth - indicatorMargin,
-                               origin().y + indicatorMargin + way, indicatorWidth, length),
-        indicatorWidth / 2, theme::scrollIndicator.withAlpha(theme::scrollIndicator.alpha * _indicatorAlpha));
+    const auto place = makeRect(size.width - indicatorWidth - indicatorMargin,
+        origin().y + indicatorMargin + way, indicatorWidth, length);
+    canvas.fillRoundedRect(inLayoutDirection(place), indicatorWidth / 2,
+        theme::scrollIndicator.withAlpha(theme::scrollIndicator.alpha * _indicatorAlpha));
 }
 
 void scrollIntoView(View& view)

@@ -214,35 +214,38 @@ void Cell::layOut()
     if (_accessory) {
         const auto size = _accessory->frame().size;
         free = width - theme::rowMargin - size.width;
-        _accessory->setFrame(makeRect(free, (height - size.height) / 2, size.width, size.height));
+        _accessory->setFrame(
+            inLayoutDirection(makeRect(free, (height - size.height) / 2, size.width, size.height)));
     }
     for (const auto& background : { _backgroundView, _selectedBackgroundView }) {
         if (background)
             background->setFrame(bounds());
     }
-    _content->setFrame(makeRect(0, 0, free, height));
+    _content->setFrame(inLayoutDirection(makeRect(0, 0, free, height)));
     placeContents();
 }
 
 void Cell::placeContents()
 {
     const auto [width, height] = _content->frame().size;
+    const auto place
+        = [this](View& view, const Rect& rect) { view.setFrame(_content->inLayoutDirection(rect)); };
     double left = theme::rowMargin;
     if (const auto* image = _imageView ? _imageView->image() : nullptr) {
         const auto size = fitted(image->size(), height);
-        _imageView->setFrame(makeRect(left, (height - size.height) / 2, size.width, size.height));
+        place(*_imageView, makeRect(left, (height - size.height) / 2, size.width, size.height));
         left += size.width + theme::rowMargin;
     }
     const double free = std::max(0.0, width - left - theme::rowMargin);
     if (!_detailLabel || _detailLabel->text().empty()) {
-        _textLabel->setFrame(makeRect(left, 0, free, height));
+        place(*_textLabel, makeRect(left, 0, free, height));
         return;
     }
     const double textHeight = lineHeight(*_textLabel);
     const double detailHeight = lineHeight(*_detailLabel);
     const double top = std::round((height - textHeight - detailHeight) / 2);
-    _textLabel->setFrame(makeRect(left, top, free, textHeight));
-    _detailLabel->setFrame(makeRect(left, top + textHeight, free, detailHeight));
+    place(*_textLabel, makeRect(left, top, free, textHeight));
+    place(*_detailLabel, makeRect(left, top + textHeight, free, detailHeight));
 }
 
 void Cell::drawAbove(Canvas& canvas) const
@@ -251,9 +254,9 @@ void Cell::drawAbove(Canvas& canvas) const
         return;
     const auto size = frame().size;
     const double hairline = canvas.hairline();
-    canvas.fillRect(
-        makeRect(theme::rowMargin, size.height - hairline, size.width - theme::rowMargin, hairline),
-        _appearance.separator);
+    const auto separator
+        = makeRect(theme::rowMargin, size.height - hairline, size.width - theme::rowMargin, hairline);
+    canvas.fillRect(inLayoutDirection(separator), _appearance.separator);
 }
 
 Table* Cell::table() const

@@ -31,10 +31,10 @@ public:
     Label& textLabel() const { return *_textLabel; }
     /// Null in the style OneText. While it is empty, the text label has the whole height.
     Label* detailLabel() const { return _detailLabel.get(); }
-    /// At the row's left end. Created by the first call.
+    /// Before the text. Created by the first call.
     ImageView& imageView();
 
-    /// The view at the row's right end; may be null.
+    /// The view at the row's end, opposite to where the text starts; may be null.
     View* accessory() const { return _accessory.get(); }
     void setAccessory(Ref<View>);
     /// May be null.

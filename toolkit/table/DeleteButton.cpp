@@ -24,8 +24,9 @@ void DeleteButton::draw(Canvas& canvas) const
     const auto size = shownFrame().size;
     canvas.fillRect({ {}, size }, looksPressed() ? theme::destructivePressed : theme::destructive);
     // The title moves with the edge of the row.
-    canvas.drawLine(
-        title(), makeRect(0, 0, width, size.height), font(), theme::rowBackground, Alignment::Center);
+    const auto place = makeRect(0, 0, width, size.height);
+    canvas.drawLine(title(), isRightToLeft() ? mirrored(place, size.width) : place, font(),
+        theme::rowBackground, Alignment::Center);
 }
 
 } // namespace brimsound::toolkit

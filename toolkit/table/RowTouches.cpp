@@ -6,16 +6,6 @@
 
 namespace brimsound::toolkit {
 
-namespace {
-
-bool goesLeft(Point from, Point to)
-{
-    const double distance = from.x - to.x;
-    return distance > touchSlop && distance > std::abs(to.y - from.y);
-}
-
-} // namespace
-
 void RowTouches::began(const Touch& touch)
 {
     _touched.reset();
@@ -37,14 +27,22 @@ void RowTouches::moved(const Touch& touch)
         return;
     const auto point = _table.fromWindow(touch.location);
     auto& swipe = _table.swipe();
-    if (!swipe.isOpen() && goesLeft(_touched->start, point) && _table.canDelete(_touched->row)) {
+    const double distance = swipedDistance(point);
+    const bool isSwipe = distance > touchSlop && distance > std::abs(point.y - _touched->start.y);
+    if (!swipe.isOpen() && isSwipe && _table.canDelete(_touched->row)) {
         setPressed(false);
         swipe.begin(_touched->row);
     }
     if (swipe.isOpen())
-        swipe.moveTo(_touched->start.x - point.x - touchSlop);
+        swipe.moveTo(distance - touchSlop);
     else
         setPressed(_table.rows().rowAt(point) == _touched->row);
+}
+
+double RowTouches::swipedDistance(Point point) const
+{
+    const double left = _touched->start.x - point.x;
+    return _table.isRightToLeft() ? -left : left;
 }
 
 void RowTouches::ended(const Touch& touch)

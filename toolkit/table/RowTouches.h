@@ -9,8 +9,8 @@ namespace brimsound::toolkit {
 
 class Table;
 
-/// The touch control of the rows of a table. A tap selects a row, a finger that moves to the left swipes it.
-/// A touch on the rows while a swipe is open only closes the swipe.
+/// The touch control of the rows of a table. A tap selects a row, a finger that moves toward the start of its
+/// text swipes it. A touch on the rows while a swipe is open only closes the swipe.
 class RowTouches {
 public:
     /// The table owns this object.
@@ -39,6 +39,8 @@ private:
         Point start;
     };
 
+    /// How far the finger moved toward the start of the row's text since it was put down.
+    double swipedDistance(Point) const;
     void setPressed(bool) const;
 
     Table& _table;

@@ -82,8 +82,10 @@ Rect Swipe::place(RowPath row, Rect rect) const
 {
     if (_row != row)
         return rect;
-    _button->setFrame(makeRect(rect.right() - _distance, rect.top(), _distance, rect.size.height));
-    return offset(rect, { -_distance, 0 });
+    const bool rightToLeft = _table.isRightToLeft();
+    const double left = rightToLeft ? rect.left() : rect.right() - _distance;
+    _button->setFrame(makeRect(left, rect.top(), _distance, rect.size.height));
+    return offset(rect, { rightToLeft ? _distance : -_distance, 0 });
 }
 
 Ref<View> Swipe::takeButtonOf(RowPath row)

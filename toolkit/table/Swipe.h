@@ -11,8 +11,8 @@ namespace brimsound::toolkit {
 class Table;
 class View;
 
-/// A row of a table that is moved to the left, and the Delete button that appears at its right. All distances
-/// are points.
+/// A row of a table that is moved toward the start of its text, to the left in a window laid out from left to
+/// right, and the Delete button that appears at its end. All distances are points.
 class Swipe {
 public:
     /// The table owns this object.

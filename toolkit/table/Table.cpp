@@ -267,7 +267,7 @@ void Table::slideOut(RowPath row, const Ref<Cell>& cell)
     const auto rect = _rows.rowRect(row);
     _leaving.push_back(cell);
     const auto changes = [&] {
-        cell->setFrame(offset(rect, { -rect.size.width, 0 }));
+        cell->setFrame(offset(rect, { isRightToLeft() ? rect.size.width : -rect.size.width, 0 }));
         cell->setAlpha(0);
         // The button fills the space of the removed row while the next rows move up.
         if (button)
@@ -303,7 +303,7 @@ void Table::draw(Canvas& canvas) const
         for (const auto& [text, rect] : { std::pair { &section.header, &section.headerRect },
                  std::pair { &section.footer, &section.footerRect } }) {
             if (canvas.showsAnythingIn(*rect))
-                canvas.drawParagraph(*text, *rect, smallFont, theme::secondaryText, Alignment::Left);
+                canvas.drawParagraph(*text, *rect, smallFont, theme::secondaryText, naturalAlignment());
         }
         const auto& rows = section.rowsRect;
         if (!canvas.showsAnythingIn(inset(rows, 0, -1)))

@@ -47,7 +47,7 @@ void Label::setHighlighted(bool highlighted)
     setLook(_highlighted, highlighted);
 }
 
-void Label::setAlignment(Alignment alignment)
+void Label::setAlignment(std::optional<Alignment> alignment)
 {
     if (std::exchange(_alignment, alignment) != alignment)
         setNeedsDisplay();
@@ -56,7 +56,7 @@ void Label::setAlignment(Alignment alignment)
 void Label::draw(Canvas& canvas) const
 {
     if (!_text.empty() && _font)
-        canvas.drawLine(_text, bounds(), *_font, shownColor(), _alignment);
+        canvas.drawLine(_text, bounds(), *_font, shownColor(), _alignment ? *_alignment : naturalAlignment());
 }
 
 } // namespace brimsound::toolkit

@@ -23,8 +23,9 @@ public:
     void setHighlightedColor(std::optional<Color>);
     bool isHighlighted() const { return _highlighted; }
     void setHighlighted(bool);
-    Alignment alignment() const { return _alignment; }
-    void setAlignment(Alignment);
+    /// Nothing (the initial value) for the natural one.
+    std::optional<Alignment> alignment() const { return _alignment; }
+    void setAlignment(std::optional<Alignment>);
 
     /// Called when the text or the font changed, because the label may need another size.
     std::function<void()> onChange;
@@ -43,7 +44,7 @@ private:
     Color _color { 0, 0, 0 };
     std::optional<Color> _highlightedColor;
     bool _highlighted = false;
-    Alignment _alignment = Alignment::Left;
+    std::optional<Alignment> _alignment;
 };
 
 } // namespace brimsound::toolkit

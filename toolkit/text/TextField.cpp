@@ -41,11 +41,10 @@ void ReturnKey::draw(Canvas& canvas) const
 {
     if (!_shows)
         return;
-    auto place = bounds();
-    place.origin.x += returnGap;
-    place.size.width -= returnGap;
+    const auto [width, height] = frame().size;
+    const auto place = inLayoutDirection(makeRect(returnGap, 0, width - returnGap, height));
     const auto color = looksPressed() ? theme::tint.withAlpha(pressedAlpha) : theme::tint;
-    canvas.drawLine(title(), place, font(), color, Alignment::Right);
+    canvas.drawLine(title(), place, font(), color, isRightToLeft() ? Alignment::Left : Alignment::Right);
 }
 
 TextField::TextField(const Rect& frame)
@@ -114,14 +113,14 @@ Rect TextField::textArea() const
     auto area = bounds();
     if (hasKeyboard())
         area.size.width = std::max(0.0, area.size.width - _returnKey->width());
-    return area;
+    return inLayoutDirection(area);
 }
 
 void TextField::layOut()
 {
     const auto [width, height] = frame().size;
     const double keyWidth = std::min(width, _returnKey->width());
-    _returnKey->setFrame(makeRect(width - keyWidth, 0, keyWidth, height));
+    _returnKey->setFrame(inLayoutDirection(makeRect(width - keyWidth, 0, keyWidth, height)));
 }
 
 void TextField::keyboardChanged()
@@ -135,7 +134,7 @@ void TextField::draw(Canvas& canvas) const
         return;
     const auto area = textArea();
     if (!hasKeyboard()) {
-        canvas.drawLine(_text, area, *_font, _color, Alignment::Left);
+        canvas.drawLine(_text, area, *_font, _color, naturalAlignment());
         return;
     }
     const double width = widthOfLine(_text, *_font);
@@ -144,9 +143,10 @@ void TextField::draw(Canvas& canvas) const
     canvas.save();
     canvas.clip(area);
     // One point more, because a text that just fits may be truncated.
-    canvas.drawLine(
-        _text, makeRect(caret - width, 0, width + 1, area.size.height), *_font, _color, Alignment::Left);
-    canvas.fillRect(makeRect(caret, (area.size.height - height) / 2, caretWidth, height), theme::tint);
+    canvas.drawLine(_text, inLayoutDirection(makeRect(caret - width, 0, width + 1, area.size.height)), *_font,
+        _color, naturalAlignment());
+    canvas.fillRect(
+        inLayoutDirection(makeRect(caret, (area.size.height - height) / 2, caretWidth, height)), theme::tint);
     canvas.restore();
 }
 

@@ -9,7 +9,7 @@
 
 namespace brimsound::toolkit {
 
-/// The button at the right end of a text field that has the keyboard focus.
+/// The button at the end of a text field that has the keyboard focus.
 class ReturnKey : public TitledButton {
 public:
     ReturnKey(std::string title, std::function<void()> onPress);
@@ -27,7 +27,7 @@ private:
 };
 
 /// A field for one line of text. While it has the keyboard focus it draws a caret after the text, and the
-/// return key at its right end. In a real window, an editor widget then covers the text, with selection,
+/// return key at its end. In a real window, an editor widget then covers the text, with selection,
 /// clipboard and input methods.
 class TextField : public Control {
 public:

@@ -124,10 +124,12 @@ std::vector<View*> View::accessibleChildren() const
     std::vector<View*> children;
     for (const auto& child : _children)
         children.push_back(child.get());
-    std::ranges::stable_sort(children, [](const View* a, const View* b) {
-        const auto first = a->_frame.origin;
-        const auto second = b->_frame.origin;
-        return first.y != second.y ? first.y < second.y : first.x < second.x;
+    std::ranges::stable_sort(children, [rightToLeft = isRightToLeft()](const View* a, const View* b) {
+        const auto first = a->_frame;
+        const auto second = b->_frame;
+        if (first.top() != second.top())
+            return first.top() < second.top();
+        return rightToLeft ? first.right() > second.right() : first.left() < second.left();
     });
     std::vector<View*> found;
     for (auto* child : children) {

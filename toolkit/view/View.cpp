@@ -81,6 +81,22 @@ Window* View::window() const
     return root->asWindow();
 }
 
+bool View::isRightToLeft() const
+{
+    const auto* around = window();
+    return around && around->layoutDirection() == LayoutDirection::RightToLeft;
+}
+
+Rect View::inLayoutDirection(const Rect& rect) const
+{
+    return isRightToLeft() ? mirrored(rect, _frame.size.width) : rect;
+}
+
+Alignment View::naturalAlignment() const
+{
+    return isRightToLeft() ? Alignment::Right : Alignment::Left;
+}
+
 ScrollView* View::enclosingScrollView() const
 {
     for (auto* view = const_cast<View*>(this); view; view = view->_parent) {

@@ -89,6 +89,12 @@ public:
     bool isMoving() const;
 
     // Layout and drawing.
+    /// Whether the view's window is laid out from right to left.
+    bool isRightToLeft() const;
+    /// The place of what has that place in the view when it is laid out from left to right.
+    Rect inLayoutDirection(const Rect&) const;
+    /// Where texts start that have no other alignment.
+    Alignment naturalAlignment() const;
     void setNeedsLayout() { _needsLayout = true; }
     /// Lays out the view and its descendants that need it.
     void layOutIfNeeded();
@@ -175,8 +181,8 @@ public:
     /// Called when the last key that it used was released.
     virtual void keysReleased() { }
 
-    /// The outermost descendants with a role, in reading order: from top to bottom, from left to right.
-    /// Hidden views are left out, and all views below one that covers its parent.
+    /// The outermost descendants with a role, in reading order: from top to bottom, then in the window's
+    /// layout direction. Hidden views are left out, and all views below one that covers its parent.
     std::vector<View*> accessibleChildren() const;
     /// The nearest ancestor with a role; may be null.
     View* accessibleParent() const;

@@ -16,8 +16,9 @@ Window* keyWindow()
     return lastWindow;
 }
 
-Window::Window(Size size)
+Window::Window(Size size, LayoutDirection direction)
     : View({ {}, size })
+    , _layoutDirection(direction)
 {
     lastWindow = this;
 }

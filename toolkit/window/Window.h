@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/alert/AlertQueue.h"
+#include "toolkit/geometry/LayoutDirection.h"
 #include "toolkit/view/View.h"
 #include "toolkit/window/Focus.h"
 #include "toolkit/window/TouchSession.h"
@@ -14,7 +15,9 @@ namespace brimsound::toolkit {
 /// the top left corner.
 class Window : public View {
 public:
-    explicit Window(Size);
+    explicit Window(Size, LayoutDirection = LayoutDirection::LeftToRight);
+
+    LayoutDirection layoutDirection() const { return _layoutDirection; }
 
     /// A finger, or the mouse while its button is pressed. touchCancel is for touches that the system takes
     /// away. Moves and ends without a touch are ignored, and so is a second touch.
@@ -61,6 +64,7 @@ protected:
     Window* asWindow() override { return this; }
 
 private:
+    const LayoutDirection _layoutDirection;
     Focus _focus { *this };
     AlertQueue _alerts { *this };
     TouchSession _touch;

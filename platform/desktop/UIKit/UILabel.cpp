@@ -78,7 +78,10 @@ void UILabel::setHighlighted(bool highlighted)
 
 NSTextAlignment UILabel::textAlignment() const
 {
-    switch (native(*this).alignment()) {
+    const auto alignment = native(*this).alignment();
+    if (!alignment)
+        return NSTextAlignment::Natural;
+    switch (*alignment) {
     case toolkit::Alignment::Center:
         return NSTextAlignment::Center;
     case toolkit::Alignment::Right:
@@ -100,6 +103,9 @@ void UILabel::setTextAlignment(NSTextAlignment alignment)
         break;
     case NSTextAlignment::Right:
         native(*this).setAlignment(toolkit::Alignment::Right);
+        break;
+    case NSTextAlignment::Natural:
+        native(*this).setAlignment(std::nullopt);
         break;
     }
 }

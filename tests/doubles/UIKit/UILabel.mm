@@ -1,6 +1,8 @@
 #include "tests/doubles/UIKit/Forward.h"
 #include "toolkit/text/Label.h"
 
+#include <optional>
+
 namespace doubles = brimsound::doubles;
 namespace toolkit = brimsound::toolkit;
 
@@ -50,12 +52,16 @@ FORWARD_GETTER(UIColor*, textColor, color)
 
 - (NSTextAlignment)textAlignment
 {
-    return static_cast<NSTextAlignment>(native(self).alignment());
+    const auto alignment = native(self).alignment();
+    return alignment ? static_cast<NSTextAlignment>(*alignment) : NSTextAlignmentNatural;
 }
 
 - (void)setTextAlignment:(NSTextAlignment)alignment
 {
-    native(self).setAlignment(static_cast<toolkit::Alignment>(alignment));
+    if (alignment == NSTextAlignmentNatural)
+        native(self).setAlignment(std::nullopt);
+    else
+        native(self).setAlignment(static_cast<toolkit::Alignment>(alignment));
 }
 
 @end

@@ -256,6 +256,7 @@ TEST_F(ARow, IsClearWithBoldBlackTextThatTurnsWhite)
     EXPECT_EQ(componentsOf(label.textColor()), black);
     EXPECT_EQ(componentsOf(label.highlightedTextColor()), white);
     EXPECT_EQ(componentsOf(label.backgroundColor())[3], 0);
+    EXPECT_EQ(label.textAlignment(), NSTextAlignment::Natural);
 }
 
 TEST_F(ARow, IsBlackWithADarkCurveWhilePressed)

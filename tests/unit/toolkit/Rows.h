@@ -91,8 +91,9 @@ public:
 /// A table that fills a window and is laid out.
 class TableInWindow {
 public:
-    TableInWindow(Rows& rows, toolkit::Size size, toolkit::Table::Style style = toolkit::Table::Style::List)
-        : window(toolkit::make<toolkit::Window>(size))
+    TableInWindow(Rows& rows, toolkit::Size size, toolkit::Table::Style style = toolkit::Table::Style::List,
+        toolkit::LayoutDirection direction = toolkit::LayoutDirection::LeftToRight)
+        : window(toolkit::make<toolkit::Window>(size, direction))
         , table(toolkit::make<toolkit::Table>(toolkit::Rect { {}, size }, style))
     {
         rows.table = table.get();

@@ -45,7 +45,7 @@ TEST_F(ALabelInAWindow, IsNotRedrawnWhenItLooksTheSame)
     label->setText("60");
     label->setColor({ 0, 0, 0 });
     label->setFont(label->font());
-    label->setAlignment(Alignment::Left);
+    label->setAlignment(std::nullopt);
     EXPECT_THAT(parts(), IsEmpty());
 }
 

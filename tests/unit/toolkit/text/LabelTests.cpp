@@ -45,7 +45,7 @@ TEST(ALabel, IsEmptyAndBlackAtFirst)
     EXPECT_EQ(label->color(), (Color { 0, 0, 0, 1 }));
     EXPECT_FALSE(label->highlightedColor());
     EXPECT_FALSE(label->isHighlighted());
-    EXPECT_EQ(label->alignment(), Alignment::Left);
+    EXPECT_EQ(label->alignment(), std::nullopt);
     EXPECT_THAT(Look(*label).texts, IsEmpty());
 }
 

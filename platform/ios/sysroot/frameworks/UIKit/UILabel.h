@@ -9,6 +9,7 @@ typedef enum NSTextAlignment : NSInteger {
     NSTextAlignmentLeft = 0,
     NSTextAlignmentCenter = 1,
     NSTextAlignmentRight = 2,
+    NSTextAlignmentNatural = 4,
 } NSTextAlignment;
 
 @interface UILabel : UIView
