@@ -6,7 +6,8 @@
 namespace brimsound {
 
 /// A horizontal slider. Its value is clamped to [minimumValue, maximumValue], initially 0 to 1. Setting the
-/// value in code sends no actions.
+/// value in code sends no actions. The minimum is always at the left, in languages that are read from right
+/// to left too.
 class UISlider : public UIControl {
 public:
     UISlider();

@@ -79,6 +79,7 @@ namespace {
 UISlider::UISlider()
     : UIControl(ios::peer([[BRSlider alloc] init]))
 {
+    [nativeOf(*this) setSemanticContentAttribute:UISemanticContentAttributeForceLeftToRight];
 }
 
 float UISlider::value() const

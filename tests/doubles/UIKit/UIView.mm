@@ -33,6 +33,8 @@ void refuseNaN(const toolkit::Rect& frame)
 
 @implementation UIView
 
+@synthesize semanticContentAttribute = _semanticContentAttribute;
+
 // In here, because the variables are not visible elsewhere.
 
 toolkit::View& doubles::nativeView(UIView* view)

@@ -45,6 +45,13 @@ private:
     void up(UISlider&) { seen.emplace_back("up"); }
 };
 
+TEST(ASlider, IsNotMirroredInLanguagesThatAreReadFromRightToLeft)
+{
+    const auto slider = make<UISlider>();
+    EXPECT_EQ([static_cast<::UIView*>(ios::nativeOf(*slider)) semanticContentAttribute],
+        UISemanticContentAttributeForceLeftToRight);
+}
+
 /// From -12 to 12, with the product's steps.
 class AnAccessibleSlider : public testing::Test {
 protected:

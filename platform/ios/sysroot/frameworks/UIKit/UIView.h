@@ -9,6 +9,11 @@
 
 typedef uint64_t UIAccessibilityTraits;
 
+typedef enum UISemanticContentAttribute : NSInteger {
+    UISemanticContentAttributeUnspecified = 0,
+    UISemanticContentAttributeForceLeftToRight = 3,
+} UISemanticContentAttribute;
+
 typedef NSUInteger UIViewAutoresizing;
 enum {
     UIViewAutoresizingNone = 0,
@@ -24,6 +29,7 @@ enum {
     UIViewController* _controller;
     UIColor* _backgroundColor;
     CALayer* _layer;
+    UISemanticContentAttribute _semanticContentAttribute;
 }
 #endif
 
@@ -32,6 +38,7 @@ enum {
 @property (nonatomic) CGRect frame;
 @property (nonatomic) CGRect bounds;
 @property (nonatomic) UIViewAutoresizing autoresizingMask;
+@property (nonatomic) UISemanticContentAttribute semanticContentAttribute;
 
 @property (nonatomic, readonly) UIView* superview;
 @property (nonatomic, readonly, copy) NSArray* subviews;
