@@ -1,16 +1,28 @@
 #include "desktop/brimsound/PaneHost.h"
 
+#include "platform/desktop/Foundation/Localizations.h"
 #include "platform/desktop/Preferences/RootController.h"
 #include "platform/desktop/UIKit/Controller.h"
 #include "platform/desktop/UIKit/HostedView.h"
+#include "settings/Bundle.h"
 #include "settings/Localized.h"
 #include "toolkit/window/TitleBar.h"
+
+#include <QLocale>
 
 namespace brimsound::desktop {
 
 namespace {
 
 constexpr double barHeight = toolkit::TitleBar::height;
+
+toolkit::LayoutDirection layoutDirection()
+{
+    const auto language = preferredLocalization(NSBundle::bundleForClass(controllerClassName));
+    return QLocale(QString::fromStdString(language)).textDirection() == Qt::RightToLeft
+        ? toolkit::LayoutDirection::RightToLeft
+        : toolkit::LayoutDirection::LeftToRight;
+}
 
 /// Resizes its one child with the window.
 class PaneWindow : public toolkit::Window {
@@ -66,7 +78,7 @@ std::string paneTitle()
 }
 
 PaneHost::PaneHost(toolkit::Size size)
-    : _window(toolkit::make<PaneWindow>(size))
+    : _window(toolkit::make<PaneWindow>(size, layoutDirection()))
     , _root(toolkit::make<RootView>())
     , _rootController(makeViewController(*_root))
 {

@@ -21,7 +21,7 @@ using toolkit::Cell, toolkit::Control, toolkit::Point, toolkit::Pointer, toolkit
 namespace {
 
 constexpr std::size_t lastSlider = 10;
-/// How far a swipe moves a row to the left, in points: more than the width of its button.
+/// How far a swipe moves a row aside, in points: more than the width of its button.
 constexpr double swipeDistance = 120;
 /// Where a script taps the dimmed area next to the panel, in points from the window's corner.
 constexpr double dimmedMargin = 22;
@@ -317,10 +317,12 @@ void ScriptRunner::swipe(const Words& words)
     const auto& cell = rowInPresetList(presetRow(words[0]));
     const auto [width, height] = cell.frame().size;
     auto& window = _host.window();
-    pressAt(cell.toWindow({ width - swipeDistance / 8, height / 2 }));
+    const bool rightToLeft = window.layoutDirection() == toolkit::LayoutDirection::RightToLeft;
+    const double start = swipeDistance / 8;
+    pressAt(cell.toWindow({ rightToLeft ? start : width - start, height / 2 }));
     window.touchDown({ _finger, Pointer::Mouse });
     for (const double part : { 0.25, 0.75 }) {
-        _finger.x -= part * swipeDistance;
+        _finger.x += (rightToLeft ? part : -part) * swipeDistance;
         window.touchMove(_finger);
     }
     window.touchUp(_finger);

@@ -55,8 +55,8 @@ ComposeView::ComposeView(const Mail& mail, std::function<void()> onCancel, std::
 
 void ComposeView::layOut()
 {
-    _cancel->setFrame(makeRect(0, 0, buttonWidth, barHeight));
-    _send->setFrame(makeRect(frame().size.width - buttonWidth, 0, buttonWidth, barHeight));
+    _cancel->setFrame(inLayoutDirection(makeRect(0, 0, buttonWidth, barHeight)));
+    _send->setFrame(inLayoutDirection(makeRect(frame().size.width - buttonWidth, 0, buttonWidth, barHeight)));
 }
 
 void ComposeView::draw(Canvas& canvas) const
@@ -81,12 +81,14 @@ void ComposeView::drawRow(
 {
     const double left = theme::rowMargin;
     const double width = frame().size.width - 2 * left;
-    canvas.drawLine(
-        caption, makeRect(left, y, captionWidth, rowHeight), rowFont, theme::secondaryText, Alignment::Left);
-    canvas.drawLine(text, makeRect(left + captionWidth, y, width - captionWidth, rowHeight), rowFont,
-        theme::text, Alignment::Left);
+    const auto captionPlace = inLayoutDirection(makeRect(left, y, captionWidth, rowHeight));
+    const auto textPlace
+        = inLayoutDirection(makeRect(left + captionWidth, y, width - captionWidth, rowHeight));
+    canvas.drawLine(caption, captionPlace, rowFont, theme::secondaryText, naturalAlignment());
+    canvas.drawLine(text, textPlace, rowFont, theme::text, naturalAlignment());
     y += rowHeight;
-    canvas.fillRect(makeRect(left, y - canvas.hairline(), width + left, canvas.hairline()), theme::separator);
+    const auto separator = makeRect(left, y - canvas.hairline(), width + left, canvas.hairline());
+    canvas.fillRect(inLayoutDirection(separator), theme::separator);
 }
 
 toolkit::Accessible ComposeView::accessible() const

@@ -23,7 +23,10 @@ public:
 
     void draw(toolkit::Canvas& canvas) const override
     {
-        canvas.strokeLine({ { 1, 1 }, { 6.5, 6.5 }, { 1, 12 } }, 2, theme::chevron);
+        if (isRightToLeft())
+            canvas.strokeLine({ { 7, 1 }, { 1.5, 6.5 }, { 7, 12 } }, 2, theme::chevron);
+        else
+            canvas.strokeLine({ { 1, 1 }, { 6.5, 6.5 }, { 1, 12 } }, 2, theme::chevron);
     }
 };
 

@@ -33,6 +33,8 @@ FieldEditor::FieldEditor(QWidget& around, toolkit::TextField& field)
     field.setEditor(toolkit::TextField::Editor::Hidden);
     setAccessibleName(QString::fromStdString(field.label()));
     setFrame(false);
+    const auto side = field.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
     if (field.font())
         setFont(qFont(*field.font()));
     auto colors = palette();

@@ -1,6 +1,7 @@
 #include "platform/desktop/Qt/QtCanvas.h"
 
 #include "platform/desktop/Qt/Fonts.h"
+#include "platform/desktop/Qt/Paragraph.h"
 #include "platform/desktop/Qt/Raster.h"
 
 #include <QFontMetricsF>
@@ -24,19 +25,6 @@ QRectF qRect(const Rect& rect)
 float shownComponent(double component)
 {
     return component > 0 ? static_cast<float>(std::min(component, 1.0)) : 0.0f;
-}
-
-Qt::Alignment qAlignment(Alignment alignment)
-{
-    switch (alignment) {
-    case Alignment::Center:
-        return Qt::AlignHCenter;
-    case Alignment::Right:
-        return Qt::AlignRight;
-    case Alignment::Left:
-        break;
-    }
-    return Qt::AlignLeft;
 }
 
 double fittingRadius(double radius, const Rect& rect)
@@ -196,11 +184,8 @@ void QtCanvas::drawLine(
 void QtCanvas::drawParagraph(
     const std::string& text, const Rect& rect, const Font& font, const Color& color, Alignment alignment)
 {
-    painter().setFont(qFont(font));
     painter().setPen(qColor(color));
-    painter().drawText(qRect(rect),
-        static_cast<int>(Qt::AlignTop | qAlignment(alignment)) | Qt::TextWordWrap | Qt::TextDontClip,
-        QString::fromStdString(text));
+    paragraph(text, font, rect.size.width, alignment)->draw(&painter(), { rect.left(), rect.top() });
 }
 
 } // namespace brimsound::desktop

@@ -1,9 +1,9 @@
 #include "toolkit/drawing/Font.h"
 
 #include "platform/desktop/Qt/Fonts.h"
+#include "platform/desktop/Qt/Paragraph.h"
 
 #include <QFontMetricsF>
-#include <QRectF>
 #include <QString>
 
 #include <cmath>
@@ -17,9 +17,7 @@ double widthOfLine(const std::string& text, const Font& font)
 
 double heightOfParagraph(const std::string& text, const Font& font, double width)
 {
-    const QFontMetricsF metrics(desktop::qFont(font));
-    const QRectF room(0, 0, width, 1e6);
-    return std::ceil(metrics.boundingRect(room, Qt::TextWordWrap, QString::fromStdString(text)).height());
+    return std::ceil(desktop::paragraph(text, font, width, Alignment::Left)->boundingRect().height());
 }
 
 } // namespace brimsound::toolkit

@@ -381,6 +381,99 @@ TEST(ACanvas, StretchesImagesUprightOverTheirRectangle)
     EXPECT_THAT(picture.pixelColor(15, 5), isWhite);
 }
 
+/// The columns that something is drawn in, in a part of a picture.
+std::vector<int> drawnColumns(const QImage& picture, const QRect& part)
+{
+    std::vector<int> columns;
+    for (int x = part.left(); x <= part.right(); ++x) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            if (picture.pixelColor(x, y) != Qt::white) {
+                columns.push_back(x);
+                break;
+            }
+        }
+    }
+    return columns;
+}
+
+/// "Save" in Hebrew.
+const std::string hebrew = "\u05e9\u05de\u05d9\u05e8\u05d4";
+
+TEST(ACanvas, DrawsTextsOfBothDirectionsAtTheGivenSide)
+{
+    const auto columns = [](const std::string& text, toolkit::Alignment alignment, bool asParagraph) {
+        QImage picture(200, 20, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        desktop::QtCanvas canvas(painter, 1);
+        const auto place = makeRect(0, 0, 200, 20);
+        if (asParagraph)
+            canvas.drawParagraph(text, place, {}, {}, alignment);
+        else
+            canvas.drawLine(text, place, {}, {}, alignment);
+        return drawnColumns(picture, picture.rect());
+    };
+    for (const bool asParagraph : { false, true }) {
+        for (const std::string& text : { std::string("Save"), hebrew }) {
+            const auto left = columns(text, toolkit::Alignment::Left, asParagraph);
+            ASSERT_FALSE(left.empty());
+            EXPECT_LT(left.front(), 5) << text;
+            EXPECT_LT(left.back(), 100) << text;
+            const auto right = columns(text, toolkit::Alignment::Right, asParagraph);
+            ASSERT_FALSE(right.empty());
+            EXPECT_GT(right.front(), 100) << text;
+            EXPECT_GT(right.back(), 194) << text;
+        }
+    }
+}
+
+TEST(ACanvas, DrawsTheEndOfATextInItsOwnDirection)
+{
+    const auto rightEnd = [](const std::string& text, bool asParagraph) {
+        QImage picture(200, 20, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        desktop::QtCanvas canvas(painter, 1);
+        const auto place = makeRect(0, 0, 200, 20);
+        if (asParagraph)
+            canvas.drawParagraph(text, place, {}, {}, toolkit::Alignment::Right);
+        else
+            canvas.drawLine(text, place, {}, {}, toolkit::Alignment::Right);
+        return picture.copy(170, 0, 30, 20);
+    };
+    for (const bool asParagraph : { false, true }) {
+        EXPECT_EQ(rightEnd(hebrew + ".", asParagraph), rightEnd(hebrew, asParagraph));
+        EXPECT_NE(rightEnd("Save.", asParagraph), rightEnd("Save", asParagraph));
+    }
+}
+
+TEST(ACanvas, DrawsAllLinesOfAParagraphFromTheSameEdge)
+{
+    for (const std::string& word : { std::string("Save"), hebrew }) {
+        // One word in each of three lines.
+        const auto text = word + " " + word + " " + word;
+        const Font font { {}, 20 };
+        const double width = 1.5 * widthOfLine(word, font);
+        const double height = heightOfParagraph(text, font, width);
+        for (const auto alignment :
+            { toolkit::Alignment::Left, toolkit::Alignment::Center, toolkit::Alignment::Right }) {
+            QImage picture(200, static_cast<int>(height), QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::white);
+            QPainter painter(&picture);
+            desktop::QtCanvas canvas(painter, 1);
+            canvas.drawParagraph(text, makeRect(0, 0, width, height), font, {}, alignment);
+            const int line = static_cast<int>(height) / 3;
+            const auto first = drawnColumns(picture, { 0, 0, 200, line });
+            ASSERT_FALSE(first.empty());
+            for (const int number : { 1, 2 }) {
+                const auto columns = drawnColumns(picture, { 0, number * line, 200, line });
+                EXPECT_EQ(columns.front(), first.front()) << word;
+                EXPECT_EQ(columns.back(), first.back()) << word;
+            }
+        }
+    }
+}
+
 TEST_F(APicture, CanBeWrittenToAFile)
 {
     window->add(*box(makeRect(10, 10, 20, 20), red));

@@ -319,6 +319,27 @@ TEST_F(AFieldInAPaneWidget, HasAnEditorWhileItIsTheFirstResponder)
     EXPECT_EQ(QApplication::focusWidget(), &widget);
 }
 
+TEST_F(AFieldInAPaneWidget, HasAnEditorWithTheTextAtTheSideWhereItIsDrawn)
+{
+    // Qt would otherwise place texts at the side where their own direction starts.
+    window->focus().giveTo(*field);
+    EXPECT_EQ(editor()->alignment(), Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+
+    const auto mirrored = make<Window>(Size { 320, 400 }, toolkit::LayoutDirection::RightToLeft);
+    PaneWidget mirroredWidget(*mirrored);
+    mirrored->add(*strip);
+    mirrored->focus().giveTo(*field);
+    QApplication::processEvents();
+    const auto* mirroredEditor = mirroredWidget.findChild<QLineEdit*>();
+    ASSERT_TRUE(mirroredEditor);
+    EXPECT_EQ(mirroredEditor->alignment(), Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    // Over the text, with the editor's own margin at either side.
+    const auto width = field->textArea().size.width;
+    EXPECT_EQ(mirroredEditor->geometry(), QRectF(44 + 20 + 192 - width - 2, 52, width + 4, 28).toRect());
+    mirrored->focus().takeFrom(*field);
+    QApplication::processEvents();
+}
+
 TEST_F(AFieldInAPaneWidget, HasEachChangeOfTheEditor)
 {
     window->focus().giveTo(*field);
