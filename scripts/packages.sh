@@ -11,6 +11,7 @@ run_packages=(
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
     locales python3 xvfb xdotool
+    fonts-dejavu-core fonts-wqy-microhei
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng

@@ -1,16 +1,12 @@
 #include "desktop/brimsound/ScriptRunner.h"
 
-#include "tests/support/EnvironmentVariable.h"
+#include "tests/integration/brimsound/RunningQt.h"
 #include "tests/support/MediaServer.h"
 #include "tests/support/TemporaryRoot.h"
 #include "tests/support/TestBus.h"
 
-#include <QGuiApplication>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <array>
 
 namespace brimsound::tests {
 namespace {
@@ -67,15 +63,6 @@ protected:
             runner.run(line);
         return listener->heard;
     }
-
-    /// Keeps Qt running, which measures text.
-    class RunningQt {
-        int _count = 1;
-        std::string _name = "brimsound";
-        std::array<char*, 2> _arguments { _name.data(), nullptr };
-        EnvironmentVariable _platform { "QT_QPA_PLATFORM", "offscreen" };
-        QGuiApplication _application { _count, _arguments.data() };
-    };
 
     RunningQt qt;
     TemporaryRoot root;
