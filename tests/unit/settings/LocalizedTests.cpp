@@ -1,4 +1,6 @@
-// The pane in the tests' own language, whose texts differ from the defaults.
+// The pane in other languages, one of them the tests' own, whose texts differ from the defaults.
+#include "settings/Localized.h"
+
 #include "tests/unit/settings/PresetPane.h"
 
 #include <gtest/gtest.h>
@@ -32,6 +34,15 @@ TEST_F(ThePaneInEsperanto, HasItsTextsInThePanel)
     pane.showPresets();
     EXPECT_EQ(pane.cell({ 0, 0 })->textLabel().text(), "Konservi");
     EXPECT_EQ(pane.panel().cancelText(), "Nuligi");
+}
+
+TEST(TheTextsOfTheBundle, AreThoseOfALanguageWithItsScriptOrRegion)
+{
+    TestPlatform platform;
+    platform.setPreferredLanguages({ "zh-Hans" });
+    EXPECT_EQ(localized("SAVE", "none"), "\u5b58\u50a8");
+    platform.setPreferredLanguages({ "sk", "pt-BR", "de" });
+    EXPECT_EQ(localized("SAVE", "none"), "Salvar");
 }
 
 } // namespace
