@@ -127,7 +127,7 @@ RetainPtr<UISlider> BrimsoundSettingsListController::makeSlider(const CGRect& fr
     auto slider = make<UISlider>();
     slider->setMaximumValue(gainLimit);
     slider->setMinimumValue(-gainLimit);
-    slider->setAccessibilityAdjustment({ gainStep, largeGainStep, "dB", gainText });
+    slider->setAccessibilityAdjustment({ gainStep, largeGainStep, "dB", gainText, 0 });
     slider->addTargetActionForControlEvents(*this, "sliderChanged:",
         UIControlEventTouchDown | UIControlEventTouchDragInside | UIControlEventTouchDragOutside);
     slider->addTargetActionForControlEvents(*this, "sliderStopped:",

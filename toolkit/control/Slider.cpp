@@ -134,10 +134,24 @@ void Slider::change(double value)
         send(ControlEvent::ValueChanged);
 }
 
+void Slider::touchBegan(const Touch& touch)
+{
+    const auto kept = keep(this);
+    const bool thumbClicked = _thumbTouched;
+    Control::touchBegan(touch);
+    // The first click of a double click may have brought the thumb to the mouse.
+    if (touch.isDoubleClick && thumbClicked && _thumbTouched && _steps.neutral) {
+        _grip = std::nullopt;
+        set(*_steps.neutral);
+    }
+}
+
 void Slider::trackingBegan(Point point, Pointer pointer)
 {
-    _grip = point.x - thumbCenter(_value).x;
-    if (pointer == Pointer::Mouse && std::abs(_grip) > thumbSize / 2) {
+    const double distance = point.x - thumbCenter(_value).x;
+    _grip = distance;
+    _thumbTouched = std::abs(distance) <= thumbSize / 2;
+    if (pointer == Pointer::Mouse && !_thumbTouched) {
         _grip = 0;
         takeValueAt(point.x);
     }
@@ -145,7 +159,8 @@ void Slider::trackingBegan(Point point, Pointer pointer)
 
 void Slider::trackingMoved(Point point)
 {
-    takeValueAt(point.x - _grip);
+    if (_grip)
+        takeValueAt(point.x - *_grip);
 }
 
 /// The value at this distance, as a multiple of the small step, which is the precision of its text.
@@ -172,6 +187,8 @@ std::optional<double> Slider::target(Key key) const
         return _minimum;
     case Key::End:
         return _maximum;
+    case Key::Zero:
+        return _steps.neutral;
     default:
         return std::nullopt;
     }

@@ -11,7 +11,8 @@ namespace brimsound::toolkit {
 /// A horizontal slider. A finger moves the thumb from wherever it touches the slider, so a touch without a
 /// movement changes nothing. A mouse press next to the thumb moves the thumb there. The arrow keys change the
 /// value by a small step, Page Up and Page Down by a large one, Home and End set the minimum and the maximum.
-/// The first stroke of a key calls begin, each stroke sets the value, and releasing the key calls commit.
+/// A double click on the thumb and the key 0 set the neutral value. The first stroke of a key calls begin,
+/// each stroke sets the value, and releasing the key calls commit.
 class Slider : public Control {
 public:
     Slider() = default;
@@ -50,12 +51,15 @@ public:
         std::string unit {};
         /// The value in words, with its unit; may be null.
         std::string (*words)(double value) = nullptr;
+        /// What a double click on the thumb and the key 0 set; nothing when they do nothing.
+        std::optional<double> neutral = std::nullopt;
     };
     void setSteps(Steps);
 
     /// The center of the thumb for a value, in the slider's own coordinates.
     Point thumbCenter(double value) const;
 
+    void touchBegan(const Touch&) override;
     void draw(Canvas&) const override;
     double overhang() const override;
     FocusRing focusRing() const override;
@@ -79,8 +83,11 @@ private:
     float _maximum = 1;
     std::optional<Color> _tint;
     Steps _steps;
-    /// The horizontal distance from the thumb's center to the touch, in points.
-    double _grip = 0;
+    /// The horizontal distance from the thumb's center to the touch, in points; nothing when the touch does
+    /// not move the thumb.
+    std::optional<double> _grip;
+    /// Whether the last touch began on the thumb.
+    bool _thumbTouched = false;
     bool _heldByKey = false;
 };
 

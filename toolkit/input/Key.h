@@ -19,6 +19,7 @@ enum class Key {
     Home,
     End,
     Delete,
+    Zero,
 };
 
 /// A key that is held down repeats its stroke.

@@ -16,6 +16,8 @@ struct Touch {
     /// In points of the window.
     Point location;
     Pointer pointer = Pointer::Finger;
+    /// Whether the press is the second one of a double click.
+    bool isDoubleClick = false;
 };
 
 } // namespace brimsound::toolkit

@@ -67,6 +67,11 @@ std::optional<Key> keyOf(const QKeyEvent& event)
         return Key::End;
     case Qt::Key_Delete:
         return Key::Delete;
+    case Qt::Key_0:
+        // With one of these it is a shortcut.
+        if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+            return std::nullopt;
+        return Key::Zero;
     default:
         return std::nullopt;
     }
@@ -165,10 +170,20 @@ void PaneWidget::touchEvent(const QTouchEvent& event)
 
 void PaneWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || isMadeUp(*event) || _finger >= 0)
+    mouseDown(*event, false);
+}
+
+void PaneWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mouseDown(*event, true);
+}
+
+void PaneWidget::mouseDown(const QMouseEvent& event, bool isDoubleClick)
+{
+    if (event.button() != Qt::LeftButton || isMadeUp(event) || _finger >= 0)
         return;
     _mouse = true;
-    _window.touchDown({ toolkitPoint(event->position()), Pointer::Mouse });
+    _window.touchDown({ toolkitPoint(event.position()), Pointer::Mouse, isDoubleClick });
 }
 
 void PaneWidget::mouseMoveEvent(QMouseEvent* event)

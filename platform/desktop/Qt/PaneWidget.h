@@ -25,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
@@ -36,6 +37,7 @@ protected:
 
 private:
     void touchEvent(const QTouchEvent&);
+    void mouseDown(const QMouseEvent&, bool isDoubleClick);
     void repaintPart(const toolkit::Rect&);
     /// Puts an editor over the focused text field, and removes the editor from any other field.
     void lendEditor();

@@ -66,7 +66,8 @@ void UISlider::setMinimumTrackTintColor(RetainPtr<UIColor> color)
 
 void UISlider::setAccessibilityAdjustment(const UIAccessibilityAdjustment& adjustment)
 {
-    native(*this).setSteps({ adjustment.step, adjustment.largeStep, adjustment.unit, adjustment.valueText });
+    native(*this).setSteps({ adjustment.step, adjustment.largeStep, adjustment.unit, adjustment.valueText,
+        adjustment.neutralValue });
 }
 
 UIImage* UISlider::currentThumbImage() const

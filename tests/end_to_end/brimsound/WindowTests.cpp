@@ -112,6 +112,23 @@ TEST_F(ARealWindow, ReceivesNotificationsOfOtherProcessesByItself)
     EXPECT_EQ(pane.state().at("sliders")[0], -5.0);
 }
 
+TEST_F(ARealWindow, BringsASliderToZeroByADoubleClickOnItsThumbAsADragDoes)
+{
+    pane.say("touch 3");
+    pane.say("drag 3 6");
+    pane.say("lift 3");
+    pane.say("wait 0.1");
+    gesture(pane);
+    point({ "mousemove", "--window", "%1", "238", "541", "click", "--repeat", "2", "--delay", "50", "1" });
+    const auto firstClick = gesture(pane);
+    EXPECT_EQ(firstClick.front().at("vals")[3], 6.0);
+    const auto secondClick = gesture(pane);
+    ASSERT_GE(secondClick.size(), 5u);
+    EXPECT_EQ(secondClick[0].at("vals")[3], 6.0) << "the touch itself moves nothing";
+    EXPECT_EQ(secondClick[1].at("vals")[3], 0.0);
+    EXPECT_EQ(pane.state().at("sliders")[3], 0.0);
+}
+
 TEST(AProgramThatCannotReachItsDisplay, IsHeadlessByItself)
 {
     const EnvironmentVariable display("DISPLAY", ":4711");

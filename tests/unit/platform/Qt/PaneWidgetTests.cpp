@@ -103,6 +103,23 @@ TEST_F(APaneWidget, HandsTheMouseOn)
     EXPECT_THAT(log.take(), ElementsAre("down", "exit", "drag outside", "up outside"));
 }
 
+TEST_F(APaneWidget, HandsADoubleClickOn)
+{
+    class Clicked : public toolkit::Control {
+    public:
+        using Control::Control;
+        void touchBegan(const toolkit::Touch& touch) override { doubleClicks.push_back(touch.isDoubleClick); }
+        std::vector<bool> doubleClicks;
+    };
+    const auto clicked = make<Clicked>(makeRect(50, 50, 40, 40));
+    window->add(*clicked);
+    press(inside);
+    release(inside);
+    mouse(QEvent::MouseButtonDblClick, inside);
+    release(inside);
+    EXPECT_THAT(clicked->doubleClicks, ElementsAre(false, true));
+}
+
 TEST_F(APaneWidget, HandsTheLeftButtonOnOnly)
 {
     mouse(QEvent::MouseButtonPress, inside, Qt::MouseEventNotSynthesized, Qt::RightButton);
@@ -202,22 +219,22 @@ protected:
         slider->setMaximum(12);
         slider->setMinimum(-12);
         slider->setValue(0);
-        slider->setSteps({ .small = 0.1, .large = 1 });
+        slider->setSteps({ .small = 0.1, .large = 1, .neutral = 0 });
         slider->setFrame(makeRect(35, 50, 250, 44));
         window->add(*slider);
         log.listenTo(*slider);
         widget.show();
     }
 
-    void key(QEvent::Type type, int code, bool isRepeat = false)
+    void key(QEvent::Type type, int code, bool isRepeat = false, Qt::KeyboardModifiers modifiers = {})
     {
-        QKeyEvent event(type, code, Qt::NoModifier, QString(), isRepeat);
+        QKeyEvent event(type, code, modifiers, QString(), isRepeat);
         QApplication::sendEvent(&widget, &event);
     }
-    float valueAfter(Qt::Key code)
+    float valueAfter(Qt::Key code, Qt::KeyboardModifiers modifiers = {})
     {
-        key(QEvent::KeyPress, code);
-        key(QEvent::KeyRelease, code);
+        key(QEvent::KeyPress, code, false, modifiers);
+        key(QEvent::KeyRelease, code, false, modifiers);
         return slider->value();
     }
 
@@ -239,6 +256,8 @@ TEST_F(AKeyInAPaneWidget, IsHandedOn)
     EXPECT_EQ(valueAfter(Qt::Key_PageDown), 0);
     EXPECT_EQ(valueAfter(Qt::Key_End), 12);
     EXPECT_EQ(valueAfter(Qt::Key_Home), -12);
+    EXPECT_EQ(valueAfter(Qt::Key_0, Qt::ControlModifier), -12) << "a shortcut, not the key alone";
+    EXPECT_EQ(valueAfter(Qt::Key_0), 0);
 }
 
 TEST_F(AKeyInAPaneWidget, IsHeldUntilItIsReallyReleased)
@@ -477,6 +496,8 @@ TEST(AWheelOverAPaneWidget, ScrollsSixtyPointsANotchAndPixelForPixelOnATouchpad)
     EXPECT_EQ(list.offset(), 90);
     wheel({ 0, 25 }, { 0, 120 });
     EXPECT_EQ(list.offset(), 65);
+    toolkit::Clock::shared().advance(1);
+    EXPECT_EQ(list.offset(), 65) << "a touchpad's momentum is part of its events";
 }
 
 } // namespace

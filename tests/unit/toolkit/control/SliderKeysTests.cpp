@@ -30,7 +30,7 @@ protected:
         slider->setMaximum(12);
         slider->setMinimum(-12);
         slider->setValue(0);
-        slider->setSteps({ .small = 0.1, .large = 1 });
+        slider->setSteps({ .small = 0.1, .large = 1, .neutral = 2 });
         slider->setFrame(makeRect(35, 50, 250, 44));
         window->add(*slider);
         window->add(*other);
@@ -67,6 +67,15 @@ TEST_F(AKeyOnASlider, MovesItByASmallStepOrByALargeOneOrToItsEnds)
     EXPECT_EQ(valueAfter(Key::PageUp), 12);
     EXPECT_EQ(valueAfter(Key::Home), -12);
     EXPECT_EQ(valueAfter(Key::Left), -12);
+    EXPECT_EQ(valueAfter(Key::Zero), 2);
+}
+
+TEST_F(AKeyOnASlider, DoesNothingWithoutANeutralValueToSet)
+{
+    slider->setSteps({ .small = 0.1, .large = 1 });
+    slider->setValue(3);
+    EXPECT_FALSE(window->keyPressed(Key::Zero, KeyStroke::First));
+    EXPECT_EQ(slider->value(), 3);
 }
 
 TEST_F(AKeyOnASlider, MovesItToWholeSteps)

@@ -247,6 +247,63 @@ TEST_F(AMousePressOnASlider, OnTheThumbMovesNothingUntilTheMouseDoes)
     EXPECT_EQ(slider->value(), 4);
 }
 
+class ADoubleClickOnASlider : public ASliderInAWindow {
+protected:
+    ADoubleClickOnASlider() { slider->setSteps({ .neutral = 2 }); }
+
+    /// Clicks, and presses again without releasing.
+    void doubleClick(Point at)
+    {
+        window->touchDown({ at, Pointer::Mouse });
+        window->touchUp(at);
+        window->touchDown({ at, Pointer::Mouse, true });
+    }
+};
+
+TEST_F(ADoubleClickOnASlider, SetsTheNeutralValueAsADragDoes)
+{
+    slider->setValue(5);
+    doubleClick(thumb(5));
+    EXPECT_EQ(slider->value(), 2);
+    EXPECT_THAT(log.take(), ElementsAre("down", "up inside", "down", "value", "drag inside"));
+    window->touchMove(thumb(6));
+    EXPECT_EQ(slider->value(), 2) << "although the mouse moved before its button was released";
+    window->touchUp(thumb(6));
+    EXPECT_THAT(log.take(), ElementsAre("drag inside", "up inside"));
+}
+
+TEST_F(ADoubleClickOnASlider, IsFollowedByOrdinaryDrags)
+{
+    slider->setValue(5);
+    doubleClick(thumb(5));
+    window->touchUp(thumb(5));
+    window->touchDown({ thumb(2), Pointer::Mouse });
+    window->touchMove(thumb(4));
+    EXPECT_NEAR(slider->value(), 4, 1e-5);
+}
+
+TEST_F(ADoubleClickOnASlider, BesideTheThumbBringsTheThumbThere)
+{
+    doubleClick(thumb(8));
+    EXPECT_NEAR(slider->value(), 8, 1e-5);
+}
+
+TEST_F(ADoubleClickOnASlider, IsTwoClicksWhereThereIsNoNeutralValue)
+{
+    slider->setSteps({});
+    slider->setValue(5);
+    doubleClick(thumb(5));
+    EXPECT_EQ(slider->value(), 5);
+}
+
+TEST_F(ADoubleClickOnASlider, SetsNothingAfterAListenerCancelsIt)
+{
+    slider->setValue(5);
+    slider->onEvent = [&](toolkit::ControlEvent) { window->touchCancel(); };
+    doubleClick(thumb(5));
+    EXPECT_EQ(slider->value(), 5);
+}
+
 using HoldingASlider = ASliderInAWindow;
 
 TEST_F(HoldingASlider, SendsTheEventsOfADragForEveryValue)
