@@ -3,6 +3,7 @@
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/UIKit/Screen.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -202,7 +203,8 @@ void PaneWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void PaneWidget::wheelEvent(QWheelEvent* event)
 {
-    const auto pixels = event->pixelDelta();
+    // Under X11 the pixels are in a unit of the device's driver.
+    const auto pixels = QGuiApplication::platformName() == "xcb" ? QPoint() : event->pixelDelta();
     const QPointF distance
         = pixels.isNull() ? QPointF(event->angleDelta()) * (notchDistance / notchAngle) : QPointF(pixels);
     _window.scroll(toolkitPoint(event->position()), { -distance.x(), -distance.y() });
