@@ -5,6 +5,7 @@
 #include "desktop/brimsound/OwnBus.h"
 #include "desktop/brimsound/PaneHost.h"
 #include "desktop/brimsound/ScriptRunner.h"
+#include "desktop/brimsound/WindowSize.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
 #include "platform/desktop/Qt/MainLoop.h"
 #include "platform/desktop/Qt/PaneWidget.h"
@@ -14,6 +15,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QScreen>
+#include <QShortcut>
 
 #include <cstdio>
 #include <cstring>
@@ -39,6 +42,17 @@ void choosePlatform(const Options& options)
             qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? "wayland;xcb;offscreen" : "xcb;offscreen");
     if (options.scale && !options.headless)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(*options.scale));
+}
+
+/// Runs the app until the user closes the window.
+int runWindow(PaneWidget& widget)
+{
+    for (const auto key : { Qt::Key_Q, Qt::Key_W })
+        new QShortcut(Qt::CTRL | key, &widget, &widget, &QWidget::close);
+    const int status = QApplication::exec();
+    const bool fillsScreen = widget.isMaximized() || widget.isFullScreen();
+    storeWindowSize(fillsScreen ? widget.normalGeometry().size() : widget.size());
+    return status;
 }
 
 void throwIfIncomplete(const Trace& trace)
@@ -105,6 +119,8 @@ int run(int argc, char** argv, const Options& options)
         widget = std::make_unique<PaneWidget>(host.window());
         widget->setWindowTitle(QGuiApplication::applicationDisplayName());
         widget->setMinimumSize(smallestSize);
+        if (const auto size = storedWindowSize(); size && options.script.isEmpty())
+            widget->resize(size->boundedTo(widget->screen()->availableSize()));
         widget->show();
     }
     const double scale = headless ? options.scale.value_or(scaleWithoutScreen) : widget->devicePixelRatioF();
@@ -121,7 +137,7 @@ int run(int argc, char** argv, const Options& options)
         ScriptRunner runner(host, loop, trace, scale, resize);
         status = runScript(options.script, runner, trace, loop);
     } else if (!headless) {
-        status = QApplication::exec();
+        status = runWindow(*widget);
     }
     if (status == 0 && !options.snapshot.isEmpty() && !writeSnapshot(host.window(), scale, options.snapshot))
         throw std::runtime_error("the picture \"" + options.snapshot.toStdString() + "\" cannot be written");
