@@ -10,7 +10,7 @@ run_packages=(
 # Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
-    locales python3 xvfb xdotool
+    locales python3 xvfb xdotool weston
     fonts-dejavu-core fonts-wqy-microhei
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
