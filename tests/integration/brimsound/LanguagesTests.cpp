@@ -27,7 +27,6 @@ namespace brimsound::tests {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsSupersetOf;
 using toolkit::Alignment, toolkit::makeRect, toolkit::mirrored, toolkit::Rect;
 
 constexpr double paneWidth = 320;

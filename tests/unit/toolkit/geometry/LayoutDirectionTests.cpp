@@ -36,7 +36,6 @@ using toolkit::LayoutDirection;
 using toolkit::make;
 using toolkit::makeRect;
 using toolkit::mirrored;
-using toolkit::Point;
 using toolkit::Pointer;
 using toolkit::Rect;
 using toolkit::Ref;
