@@ -14,7 +14,7 @@ namespace {
 fs::path userDataFolder()
 {
     const fs::path folder = g_get_user_data_dir();
-    // The XDG specification requires absolute paths and says to ignore others, which GLib does not.
+    // GLib also returns an XDG_DATA_HOME that is a relative path, which programs are to ignore.
     return folder.is_absolute() ? folder : fs::path(g_get_home_dir()) / ".local/share";
 }
 
