@@ -10,7 +10,7 @@ namespace brimsound::desktop {
 /// stored in the user's configuration folder, because the preferences file belongs to the equalizer.
 std::optional<QSize> storedWindowSize();
 
-/// When it cannot be stored, the window will have the size before.
+/// If it cannot be stored, the next run uses the size that was stored last.
 void storeWindowSize(QSize);
 
 } // namespace brimsound::desktop

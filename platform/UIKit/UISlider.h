@@ -6,8 +6,8 @@
 namespace brimsound {
 
 /// A horizontal slider. Its value is clamped to [minimumValue, maximumValue], initially 0 to 1. Setting the
-/// value in code sends no actions. The minimum is always at the left, in languages that are read from right
-/// to left too.
+/// value in code sends no actions. The minimum is always at the left, also in languages that are read from
+/// right to left.
 class UISlider : public UIControl {
 public:
     UISlider();

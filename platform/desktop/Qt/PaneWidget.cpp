@@ -69,7 +69,7 @@ std::optional<Key> keyOf(const QKeyEvent& event)
     case Qt::Key_Delete:
         return Key::Delete;
     case Qt::Key_0:
-        // With one of these it is a shortcut.
+        // With one of these modifiers it is a shortcut.
         if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
             return std::nullopt;
         return Key::Zero;

@@ -10,8 +10,8 @@
 
 namespace brimsound::desktop {
 
-/// The text broken into lines at the width, which they stand in from its top. Qt's own drawing of such texts
-/// indents lines from right to left by the space at which they were broken.
+/// The text, broken into lines of at most that width in points. Qt's own drawing of such texts indents lines
+/// that are read from right to left by the space at which they were broken.
 std::unique_ptr<QTextLayout> paragraph(
     const std::string& text, const toolkit::Font&, double width, toolkit::Alignment);
 

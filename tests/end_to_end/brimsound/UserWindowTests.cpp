@@ -38,7 +38,7 @@ protected:
     /// Presses a key, which is to close the window. Returns the exit status of the program.
     std::optional<int> closeBy(const std::string& key)
     {
-        // To no window in particular, because the program's has gone when the key is released.
+        // Not sent to the program's window, which no longer exists when the key is released.
         point({ "windowfocus", "--sync", "%1", "key", "--window", "0", key });
         return _pane->exitStatus(std::chrono::seconds(20));
     }

@@ -24,7 +24,8 @@ class APaintedWindow : public TestWithParam<std::tuple<Display, const char*>> {
 protected:
     APaintedWindow()
     {
-        // To the lower right corner of the compositor, which would otherwise draw one of its own anywhere.
+        // Into the lower right corner of the compositor's window. Without a pointer in it, the compositor
+        // draws one of its own over the pane.
         desktop::ChildProcess pointer({ "xdotool", "mousemove", "598", "898" });
         pointer.exitStatus(std::chrono::seconds(20));
         if (std::get<Display>(GetParam()) == Display::Wayland)
