@@ -399,11 +399,12 @@ std::vector<int> drawnColumns(const QImage& picture, const QRect& part)
 /// "Save" in Hebrew.
 const std::string hebrew = "\u05e9\u05de\u05d9\u05e8\u05d4";
 
-TEST(ACanvas, DrawsTextsOfBothDirectionsAtTheGivenSide)
+/// Draws the text into a picture of 200 by 20 pixels.
+QImage pictureOfText(const std::string& text, toolkit::Alignment alignment, bool asParagraph)
 {
-    const auto columns = [](const std::string& text, toolkit::Alignment alignment, bool asParagraph) {
-        QImage picture(200, 20, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::white);
+    QImage picture(200, 20, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    {
         QPainter painter(&picture);
         desktop::QtCanvas canvas(painter, 1);
         const auto place = makeRect(0, 0, 200, 20);
@@ -411,6 +412,14 @@ TEST(ACanvas, DrawsTextsOfBothDirectionsAtTheGivenSide)
             canvas.drawParagraph(text, place, {}, {}, alignment);
         else
             canvas.drawLine(text, place, {}, {}, alignment);
+    }
+    return picture;
+}
+
+TEST(ACanvas, DrawsTextsOfBothDirectionsAtTheGivenSide)
+{
+    const auto columns = [](const std::string& text, toolkit::Alignment alignment, bool asParagraph) {
+        const auto picture = pictureOfText(text, alignment, asParagraph);
         return drawnColumns(picture, picture.rect());
     };
     for (const bool asParagraph : { false, true }) {
@@ -430,16 +439,7 @@ TEST(ACanvas, DrawsTextsOfBothDirectionsAtTheGivenSide)
 TEST(ACanvas, DrawsTheEndOfATextInItsOwnDirection)
 {
     const auto rightEnd = [](const std::string& text, bool asParagraph) {
-        QImage picture(200, 20, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-        desktop::QtCanvas canvas(painter, 1);
-        const auto place = makeRect(0, 0, 200, 20);
-        if (asParagraph)
-            canvas.drawParagraph(text, place, {}, {}, toolkit::Alignment::Right);
-        else
-            canvas.drawLine(text, place, {}, {}, toolkit::Alignment::Right);
-        return picture.copy(170, 0, 30, 20);
+        return pictureOfText(text, toolkit::Alignment::Right, asParagraph).copy(170, 0, 30, 20);
     };
     for (const bool asParagraph : { false, true }) {
         EXPECT_EQ(rightEnd(hebrew + ".", asParagraph), rightEnd(hebrew, asParagraph));
