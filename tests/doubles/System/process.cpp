@@ -43,6 +43,9 @@ int system(const char* command)
     return commandsAreCarriedOut ? original<int(const char*)>("system")(command) : 0;
 }
 
+// Not for shared libraries: GNUstep runs a command of its own when it starts.
+#pragma GCC visibility push(hidden)
+
 std::FILE* popen(const char* command, const char* mode)
 {
     brimsound::doubles::record(std::string("shell ") + command);
@@ -60,5 +63,7 @@ int pclose(std::FILE* stream)
     return streamsWithoutCommand().erase(stream) ? std::fclose(stream)
                                                  : original<int(std::FILE*)>("pclose")(stream);
 }
+
+#pragma GCC visibility pop
 
 } // extern "C"

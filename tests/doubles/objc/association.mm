@@ -3,8 +3,6 @@
 
 #import <Foundation/Foundation.h>
 
-#include <dlfcn.h>
-
 #include <map>
 #include <unordered_map>
 #include <utility>
@@ -79,13 +77,12 @@ id objc_getAssociatedObject(id object, const void* key)
     return found == ofObject->second.end() ? nil : found->second.value();
 }
 
-// A deallocation ends in NSObject's -dealloc, or in the function that it consists of, which some classes of
-// the library call directly. At this point the -dealloc methods of all classes have run. Both first remove
-// the associations from the table, because a released value may use associations itself.
+// The -dealloc methods of all classes end in NSObject's, except for some classes of the library that have no
+// associated objects here. The associations are removed from the table first, because a released value may
+// use associations itself.
 
 namespace {
 
-using Deallocate = void (*)(id);
 using Dealloc = void (*)(id, SEL);
 
 Dealloc originalDealloc = nullptr;
@@ -97,13 +94,6 @@ void dealloc(id object, SEL selector)
 }
 
 } // namespace
-
-void NSDeallocateObject(id object)
-{
-    const auto dropped = associationsOfAll().extract(object);
-    static const auto original = reinterpret_cast<Deallocate>(dlsym(RTLD_NEXT, "NSDeallocateObject"));
-    original(object);
-}
 
 @interface AssociationDropping : NSObject
 @end

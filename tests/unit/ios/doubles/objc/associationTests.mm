@@ -121,13 +121,4 @@ TEST_F(AnAssociatedObject, MayHaveAssociatedObjectsItself)
     EXPECT_EQ(deallocated, 2);
 }
 
-TEST_F(AnAssociatedObject, CanBelongToText)
-{
-    [object release];
-    object = [[NSMutableString alloc] init];
-    associate(&key);
-    drop();
-    EXPECT_EQ(deallocated, 1);
-}
-
 } // namespace
