@@ -53,6 +53,9 @@ MainLoop::~MainLoop()
     toolkit::Clock::shared().onChange = nullptr;
     SessionBus::shared().onPending = nullptr;
     SessionBus::shared().onReconnect = nullptr;
+    // No event loop runs any more that would delete them later.
+    for (auto& notifier : _busNotifiers)
+        delete notifier.release();
 }
 
 void MainLoop::wait(double seconds)
