@@ -45,6 +45,8 @@ live messages on the session bus, and reads changed preferences again.
 )";
 
 constexpr int usageError = 2;
+/// The service is not started again after this status.
+constexpr int nameTaken = 3;
 
 struct Options {
     bool print = false;
@@ -166,10 +168,10 @@ int serveUntilStopped(sd_bus* bus, sd_event* event)
     return result;
 }
 
-int fail(const char* what)
+int fail(const char* what, int status = EXIT_FAILURE)
 {
     std::fprintf(stderr, "mediaserverd: %s\n", what);
-    return EXIT_FAILURE;
+    return status;
 }
 
 } // namespace
@@ -203,7 +205,7 @@ int main(int argumentCount, char** arguments)
         notifications, &server, rereadFlags, settingsChangedNotification, nullptr, 0);
     const int served = serveMessagingCenter(bus, server.equalizer);
     if (served == -EEXIST)
-        return fail("another media server is running already");
+        return fail("another media server is running already", nameTaken);
     if (served < 0)
         return fail(std::strerror(-served));
 

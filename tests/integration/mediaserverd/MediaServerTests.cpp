@@ -252,7 +252,7 @@ TEST_F(AMediaServer, EndsWithAnErrorWhenTheBusEnds)
 TEST_F(AMediaServer, IsTheOnlyOneOnItsBus)
 {
     const tests::MediaServer server;
-    EXPECT_EQ(outcomeOf("--silent"), "mediaserverd: another media server is running already\nexit 1\n");
+    EXPECT_EQ(outcomeOf("--silent"), "mediaserverd: another media server is running already\nexit 3\n");
 }
 
 TEST(StartingAMediaServer, NeedsABus)
