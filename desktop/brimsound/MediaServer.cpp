@@ -18,6 +18,8 @@ using namespace std::chrono_literals;
 /// How long the app waits for a server to answer: when the app starts, and while the pane is in use.
 constexpr auto firstPatience = 5s;
 constexpr auto laterPatience = 500ms;
+/// How long the app waits for an enabled service. After log-in or a respring, the service takes a moment.
+constexpr auto servicePatience = 5s;
 /// How long to wait for a server process to end after it has lost its name. It loses the name just before.
 constexpr auto endPatience = 100ms;
 constexpr auto pollInterval = 5ms;
@@ -36,12 +38,12 @@ bool isServed()
 
 } // namespace
 
-MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::path root, Sound sound)
-    : _programFolder(std::move(programFolder))
+MediaServer::MediaServer(std::filesystem::path program, std::filesystem::path root, Sound sound)
+    : _program(std::move(program))
     , _root(std::move(root))
     , _sound(sound)
 {
-    if (!isServed())
+    if (!isServed() && !serviceStarts())
         start(firstPatience);
     SessionBus::shared().watchForLoss(messagingCenterName, [this] { serverLost(); });
 }
@@ -49,13 +51,27 @@ MediaServer::MediaServer(std::filesystem::path programFolder, std::filesystem::p
 MediaServer::~MediaServer()
 {
     SessionBus::shared().watchForLoss(messagingCenterName, [] {});
-    if (_nextLook)
-        toolkit::Clock::shared().cancel(*_nextLook);
+    cancelNext();
+}
+
+/// Asks for the service and waits. Returns whether a server is on the bus.
+bool MediaServer::serviceStarts() const
+{
+    if (_sound == Sound::LeftAlone)
+        return false;
+    std::optional<bool> answer;
+    const ServiceStart request(messagingCenterName, [&](bool served) { answer = served; });
+    const auto deadline = std::chrono::steady_clock::now() + servicePatience;
+    while (!answer && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(pollInterval);
+        SessionBus::shared().process();
+    }
+    return answer.value_or(false);
 }
 
 void MediaServer::start(std::chrono::milliseconds patience)
 {
-    std::vector<std::string> command { _programFolder / "mediaserverd", "--root", _root };
+    std::vector<std::string> command { _program, "--root", _root };
     if (_sound == Sound::LeftAlone)
         command.emplace_back("--silent");
     _process = std::make_unique<ChildProcess>(std::move(command));
@@ -93,6 +109,26 @@ void MediaServer::startIfMissing()
         lookAgain();
         return;
     }
+    if (_sound == Sound::LeftAlone) {
+        startOwn();
+        return;
+    }
+    const std::chrono::duration<double> patience = servicePatience;
+    callNext(patience.count(), [this] {
+        _serviceStart.reset();
+        startOwn();
+    });
+    _serviceStart.emplace(messagingCenterName, [this](bool served) {
+        cancelNext();
+        if (served)
+            _started = std::chrono::steady_clock::now();
+        else
+            startOwn();
+    });
+}
+
+void MediaServer::startOwn()
+{
     try {
         start(laterPatience);
     } catch (const std::exception& error) {
@@ -103,13 +139,25 @@ void MediaServer::startIfMissing()
 
 void MediaServer::lookAgain()
 {
-    if (_nextLook)
-        toolkit::Clock::shared().cancel(*_nextLook);
-    _nextLook = toolkit::Clock::shared().after(_pause, [this] {
-        _nextLook.reset();
-        startIfMissing();
-    });
+    callNext(_pause, [this] { startIfMissing(); });
     _pause = std::min(2 * _pause, longestPause);
+}
+
+/// Calls the action after that many seconds, instead of the one that was to be called next.
+void MediaServer::callNext(double delay, std::function<void()> action)
+{
+    cancelNext();
+    _next = toolkit::Clock::shared().after(delay, [this, action = std::move(action)] {
+        _next.reset();
+        action();
+    });
+}
+
+void MediaServer::cancelNext()
+{
+    if (_next)
+        toolkit::Clock::shared().cancel(*_next);
+    _next.reset();
 }
 
 } // namespace brimsound::desktop

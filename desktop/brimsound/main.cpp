@@ -20,6 +20,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -31,6 +32,13 @@ using namespace brimsound::desktop;
 constexpr toolkit::Size firstSize { 320, 568 };
 constexpr QSize smallestSize { 280, 240 };
 constexpr double scaleWithoutScreen = 2;
+
+/// The media server's program, which is installed with this one.
+std::filesystem::path mediaServerProgram()
+{
+    const std::filesystem::path folder = QCoreApplication::applicationDirPath().toStdString();
+    return (folder / MEDIASERVERD).lexically_normal();
+}
 
 /// Makes Qt use the display if there is one and it is wanted, otherwise no display.
 void choosePlatform(const Options& options)
@@ -104,7 +112,7 @@ int run(int argc, char** argv, const Options& options)
     // A script is a trial of the pane, so it must not change the sound that is playing.
     const auto sound = headless || !options.script.isEmpty() ? MediaServer::Sound::LeftAlone
                                                              : MediaServer::Sound::Equalized;
-    MediaServer server(QCoreApplication::applicationDirPath().toStdString(), deviceRoot(), sound);
+    const MediaServer server(mediaServerProgram(), deviceRoot(), sound);
 
     Trace trace(stdout);
     if (!options.script.isEmpty())
