@@ -10,10 +10,27 @@
 
 namespace brimsound::render {
 
-audio::BandGains gainsOfPreset(const std::string& name)
+namespace {
+
+PropertyList::Dictionary allPresets()
 {
     auto preferences = get_preferences();
-    const auto presets = take_presets(preferences);
+    return take_presets(preferences);
+}
+
+} // namespace
+
+std::vector<std::string> presetNames()
+{
+    std::vector<std::string> names;
+    for (const auto& preset : allPresets())
+        names.push_back(preset.key);
+    return names;
+}
+
+audio::BandGains gainsOfPreset(const std::string& name)
+{
+    const auto presets = allPresets();
     const auto* preset = presets.find(name);
     if (!preset)
         throw std::runtime_error("there is no preset \"" + name + "\"");

@@ -4,11 +4,15 @@
 #include "desktop/engine/audio/Bands.h"
 
 #include <string>
+#include <vector>
 
 namespace brimsound::render {
 
-/// The gains of a preset in the preferences, or of a built-in preset when none is saved. Throws
-/// std::runtime_error when there is no such preset, or when it is not ten numbers.
+/// The names of the presets in the preferences, or of the built-in presets when none is saved.
+std::vector<std::string> presetNames();
+
+/// The gains of one of these presets. Throws std::runtime_error when there is no such preset, or when it is
+/// not ten numbers.
 audio::BandGains gainsOfPreset(const std::string& name);
 
 /// The preamp that the pane's Auto Preamp sets for these gains: the negated highest gain, in dB.

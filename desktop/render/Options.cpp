@@ -11,6 +11,7 @@ namespace brimsound::render {
 namespace {
 
 constexpr auto usage = R"(Usage: brimsound-render IN OUT (--preset NAME | --gains "G1 ... G10") [OPTION ...]
+       brimsound-render --list-presets [--root DIR]
 
 Writes the sound file IN to OUT as the equalizer would play it. OUT has the
 format, rate, channels and length of IN.
@@ -23,6 +24,7 @@ format, rate, channels and length of IN.
   --no-limiter     let samples exceed full scale, or clip in a format that
                    does not support this
   --root DIR       the folder with the device's files, including saved presets
+  --list-presets   show the names of the presets
   --help           show this text
   --version        show the version
 )";
@@ -83,6 +85,7 @@ std::optional<Options> readOptions(int argumentCount, char** arguments)
     static constexpr option known[] = {
         { "gains", required_argument, nullptr, 'g' },
         { "help", no_argument, nullptr, 'h' },
+        { "list-presets", no_argument, nullptr, 'n' },
         { "no-limiter", no_argument, nullptr, 'l' },
         { "preamp", required_argument, nullptr, 'a' },
         { "preset", required_argument, nullptr, 'p' },
@@ -105,6 +108,9 @@ std::optional<Options> readOptions(int argumentCount, char** arguments)
         case 'a':
             preamp = optarg;
             break;
+        case 'n':
+            options.listPresets = true;
+            break;
         case 'l':
             options.limiter = false;
             break;
@@ -123,6 +129,8 @@ std::optional<Options> readOptions(int argumentCount, char** arguments)
             throw UsageError("unknown option " + quoted(arguments[optind - 1]));
         }
     }
+    if (options.listPresets)
+        return options;
     takeFiles(options, argumentCount - optind, arguments + optind);
     if (options.preset && options.gains)
         throw UsageError("--preset and --gains exclude each other");

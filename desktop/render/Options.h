@@ -17,6 +17,8 @@ public:
 };
 
 struct Options {
+    /// Whether to print the names of the presets, and do nothing else.
+    bool listPresets = false;
     std::filesystem::path in;
     std::filesystem::path out;
     /// Either a preset's name or gains are set. Gains are in dB, from -12 to 12.

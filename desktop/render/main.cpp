@@ -19,6 +19,11 @@ void run(const Options& options)
 {
     if (options.root)
         desktop::setDeviceRoot(*options.root);
+    if (options.listPresets) {
+        for (const auto& name : presetNames())
+            std::puts(name.c_str());
+        return;
+    }
     Setting setting { .limiter = options.limiter };
     setting.gains = options.preset ? gainsOfPreset(*options.preset) : *options.gains;
     setting.preamp = options.preamp ? *options.preamp : autoPreamp(setting.gains);

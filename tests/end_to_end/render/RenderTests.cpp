@@ -214,6 +214,17 @@ TEST_F(Rendering, FindsThePresetsThatWereSaved)
     expectDone(run("in.wav out.wav --preset Rock"));
 }
 
+TEST_F(Rendering, ListsThePresets)
+{
+    const auto builtIn = run("--list-presets");
+    EXPECT_EQ(builtIn.status, 0);
+    EXPECT_THAT(builtIn.output, StartsWith("Flat\nFull bass\n"));
+    EXPECT_EQ(std::ranges::count(builtIn.output, '\n'), 16);
+
+    storePreferences({ { presetsKey, PropertyList::Dictionary { { "Mine", PropertyList::Array {} } } } });
+    EXPECT_EQ(run("--list-presets").output, "Mine\n");
+}
+
 TEST_F(Rendering, RefusesAPresetThatIsNotTenGains)
 {
     writeSine("in.wav", 1000, 0.1f);
