@@ -1,12 +1,13 @@
 # Functions and lists for installing missing Debian packages. To be sourced.
 
-# Packages to build and run the pane.
-run_packages=(
+# Packages to build the programs.
+build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-wayland libsystemd-dev libgmime-3.0-dev libglib2.0-dev
+    qt6-base-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
     libcairo2-dev libpipewire-0.3-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
-    dbus-daemon fonts-inter psmisc xdg-utils
 )
+# Packages to build and run the pane.
+run_packages=("${build_packages[@]}" dbus-daemon fonts-inter psmisc qt6-wayland xdg-utils)
 # Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
@@ -16,6 +17,8 @@ test_packages=(
     libgnustep-base-dev libpng-dev
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng
 )
+# Additional packages to check what is installed on a desktop.
+installation_test_packages=(appstream bash-completion dbus-user-session desktop-file-utils fish man-db systemd zsh)
 # Additional packages for the benchmarks.
 bench_packages=(
     libbenchmark-dev libplist-dev python3 xvfb

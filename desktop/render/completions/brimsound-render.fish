@@ -1,0 +1,8 @@
+complete -c brimsound-render -l preset -x -a '(brimsound-render --list-presets)' -d 'Use the gains of a preset'
+complete -c brimsound-render -l gains -x -d 'Use these ten gains in dB'
+complete -c brimsound-render -l preamp -x -a auto -d 'Set the preamp in dB'
+complete -c brimsound-render -l no-limiter -d 'Let samples exceed full scale'
+complete -c brimsound-render -l root -x -a '(__fish_complete_directories)' -d 'Read the saved presets from this folder'
+complete -c brimsound-render -l list-presets -d 'Show the names of the presets'
+complete -c brimsound-render -l help -d 'Show the options'
+complete -c brimsound-render -l version -d 'Show the version'
