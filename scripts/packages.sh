@@ -8,6 +8,8 @@ build_packages=(
 )
 # Packages to build and run the pane.
 run_packages=("${build_packages[@]}" dbus-daemon fonts-inter psmisc qt6-wayland xdg-utils)
+# Packages to build the package for Debian: those of debian/control and the tools.
+deb_packages=("${build_packages[@]}" debhelper dpkg-dev git)
 # Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
@@ -17,8 +19,10 @@ test_packages=(
     libgnustep-base-dev libpng-dev
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng
 )
-# Additional packages to check what is installed on a desktop.
-installation_test_packages=(appstream bash-completion dbus-user-session desktop-file-utils fish man-db systemd zsh)
+# Additional packages to check the package for Debian and what it installs.
+installation_test_packages=(
+    appstream bash-completion binutils dbus-user-session desktop-file-utils fish lintian man-db systemd zsh
+)
 # Additional packages for the benchmarks.
 bench_packages=(
     libbenchmark-dev libplist-dev python3 xvfb
