@@ -52,7 +52,7 @@ TEST(AColor, IsSplitIntoHueSaturationAndBrightness)
     EXPECT_THAT(hsbOf(0.5, 0.25, 0.25), ElementsAre(0, 0.5, 0.5, 1));
 }
 
-TEST(AGrey, HasNoHueAndNoSaturation)
+TEST(AGray, HasNoHueAndNoSaturation)
 {
     EXPECT_THAT(hsbOf(*UIColor::colorWithWhiteAlpha(0.25, 0.5)), ElementsAre(0, 0, 0.25, 0.5));
     EXPECT_THAT(hsbOf(*UIColor::blackColor()), ElementsAre(0, 0, 0, 1));
