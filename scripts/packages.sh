@@ -13,7 +13,7 @@ deb_packages=("${build_packages[@]}" debhelper dpkg-dev git)
 # Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
-    locales python3 xvfb xdotool weston
+    locales python3 xvfb xdotool x11-xserver-utils weston
     fonts-dejavu-core fonts-wqy-microhei
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
     libgnustep-base-dev libpng-dev
