@@ -16,7 +16,7 @@ test_packages=(
     locales python3 xvfb xdotool x11-xserver-utils weston
     fonts-dejavu-core fonts-wqy-microhei
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3-pyatspi
-    libgnustep-base-dev libpng-dev
+    libgnustep-base-dev libblocksruntime-dev libpng-dev
     pipewire pipewire-bin pipewire-pulse wireplumber libpipewire-0.3-modules pulseaudio-utils espeak-ng
 )
 # Additional packages to check the package for Debian and what it installs.

@@ -23,7 +23,7 @@ Components shownBackground(::UIView*);
 ::CGFloat shownAlpha(::UIView*);
 
 /// The current alert; nil when there is none.
-::UIAlertView* currentAlert();
+::UIAlertController* currentAlert();
 /// Presses a button of the current alert. Returns false when there is no alert or no such button.
 bool pressAlertButton(NSInteger index);
 

@@ -61,6 +61,11 @@ class TheExecutable(unittest.TestCase):
             ],
         )
 
+    def test_shows_alerts_with_controllers(self):
+        symbols = {symbol for _, symbol, _ in binary.binds}
+        self.assertIn("_OBJC_CLASS_$_UIAlertController", symbols)
+        self.assertNotIn("_OBJC_CLASS_$_UIAlertView", symbols)
+
     def test_finds_each_symbol_in_the_library_that_has_it(self):
         self.assertTrue(binary.flags & MH_TWOLEVEL)
         self.assertTrue(binary.flags & MH_NOUNDEFS)
@@ -91,6 +96,9 @@ class ThePrincipalClass(unittest.TestCase):
         base = self.classes[principal.superclass]
         self.assertEqual(base.superclass, "_OBJC_CLASS_$_PSListController")
         self.assertIn("newController", principal.class_methods)
+
+    def test_is_told_the_answer_to_an_alert(self):
+        self.assertIn("alertView:clickedButtonAtIndex:", self.classes[information()["NSPrincipalClass"]].methods)
 
     def test_takes_the_place_of_the_list_controllers_methods(self):
         base = self.classes[self.classes[information()["NSPrincipalClass"]].superclass]

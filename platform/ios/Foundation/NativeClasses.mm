@@ -2,7 +2,6 @@
 #include "platform/AppSupport/CPDistributedMessagingCenter.h"
 #include "platform/MessageUI/MFMailComposeViewController.h"
 #include "platform/Preferences/PSSpecifier.h"
-#include "platform/UIKit/UIAlertView.h"
 #include "platform/UIKit/UIImage.h"
 #include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UIViewController.h"
@@ -41,7 +40,6 @@ NSObject* make(id native)
 {
     // Subclasses come before their superclasses.
     static const std::array classes {
-        NativeClass { [::UIAlertView class], makeFor<UIAlertView> },
         NativeClass { [::UITableViewCell class], makeFor<UITableViewCell> },
         NativeClass { [::UITableView class], makeFor<UITableView> },
         NativeClass { [::UILabel class], makeFor<UILabel> },

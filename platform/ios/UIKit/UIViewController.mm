@@ -1,7 +1,6 @@
 #include "platform/UIKit/UIViewController.h"
 
 #include "platform/ios/Foundation/Peer.h"
-#include "platform/ios/UIKit/Completion.h"
 
 #import <UIKit/UIKit.h>
 
@@ -34,6 +33,8 @@
 namespace brimsound {
 
 namespace {
+
+void (^const noBlock)(void) = nullptr;
 
 ::UIViewController* nativeOf(const UIViewController& controller)
 {
@@ -69,9 +70,11 @@ void UIViewController::presentViewControllerAnimatedCompletion(
     ::UIViewController* native = ios::nativeOf(controller.get());
     if ([nativeOf(*this) presentedViewController] || ![native isKindOfClass:[::UIViewController class]])
         return;
+    const auto finished = completion;
+    void (^const finish)(void) = ^{ finished(); };
     [nativeOf(*this) presentViewController:native
                                   animated:animated == Animated::Yes
-                                completion:ios::nativeCompletion(completion)];
+                                completion:completion ? finish : noBlock];
 }
 
 void UIViewController::dismissViewControllerAnimatedCompletion(
@@ -79,8 +82,10 @@ void UIViewController::dismissViewControllerAnimatedCompletion(
 {
     if (![nativeOf(*this) presentedViewController])
         return;
+    const auto finished = completion;
+    void (^const finish)(void) = ^{ finished(); };
     [nativeOf(*this) dismissViewControllerAnimated:animated == Animated::Yes
-                                        completion:ios::nativeCompletion(completion)];
+                                        completion:completion ? finish : noBlock];
 }
 
 } // namespace brimsound

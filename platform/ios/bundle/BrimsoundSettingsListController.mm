@@ -10,8 +10,7 @@
 
 using brimsound::ios::objectOf;
 
-@interface BrimsoundSettingsListController
-    : BRListController <UIAlertViewDelegate, MFMailComposeViewControllerDelegate>
+@interface BrimsoundSettingsListController : BRListController <MFMailComposeViewControllerDelegate>
 @end
 
 namespace {
@@ -19,6 +18,15 @@ namespace {
 brimsound::BrimsoundSettingsListController* controllerOf(BrimsoundSettingsListController* native)
 {
     return brimsound::ios::existingObjectOf<brimsound::BrimsoundSettingsListController>(native);
+}
+
+/// An empty alert for an object that is not the peer of one.
+brimsound::RetainPtr<brimsound::UIAlertView> alertFor(id native)
+{
+    using brimsound::UIAlertView;
+    if (auto* alert = dynamic_cast<UIAlertView*>(brimsound::ios::existingObjectOf(native)))
+        return brimsound::retain(alert);
+    return brimsound::make<UIAlertView>("", "", nullptr, "", std::vector<std::string> {});
 }
 
 } // namespace
@@ -31,10 +39,13 @@ brimsound::BrimsoundSettingsListController* controllerOf(BrimsoundSettingsListCo
     return new brimsound::BrimsoundSettingsListController;
 }
 
-- (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)index
+/// The alert may be any object: the pane's own alerts do not call this method, and the pane only uses the
+/// index.
+- (void)alertView:(id)alert clickedButtonAtIndex:(NSInteger)index
 {
+    const auto answered = alertFor(alert);
     if (auto* controller = controllerOf(self))
-        controller->alertViewClickedButtonAtIndex(*objectOf<brimsound::UIAlertView>(alert), index);
+        controller->alertViewClickedButtonAtIndex(*answered, index);
 }
 
 - (void)mailComposeController:(MFMailComposeViewController*)composer

@@ -17,6 +17,11 @@ NSArray* schemesThatOpen = nil;
     return application;
 }
 
+- (UIWindow*)keyWindow
+{
+    return brimsound::doubles::keyWindow();
+}
+
 - (BOOL)canOpenURL:(NSURL*)url
 {
     NSString* const scheme = [[url scheme] lowercaseString];

@@ -98,6 +98,12 @@ void doubles::setController(UIView* view, UIViewController* controller)
     return native(self).retainCount();
 }
 
+- (UIWindow*)window
+{
+    auto* const window = native(self).window();
+    return window ? static_cast<UIWindow*>(doubles::existingViewOf(*window)) : nil;
+}
+
 FORWARD_GETTER(CGRect, frame, frame)
 FORWARD_GETTER(CGRect, bounds, bounds)
 FORWARD_GETTER(UIView*, superview, parent)

@@ -3,6 +3,11 @@
 #include "tests/doubles/UIKit/HostedView.h"
 #include "toolkit/time/Animation.h"
 
+#include <Block.h>
+
+#include <functional>
+#include <memory>
+
 using brimsound::doubles::setController;
 
 namespace {
@@ -10,13 +15,26 @@ namespace {
 /// Runs while the sheet that was presented or dismissed last is on its way.
 brimsound::toolkit::Animation sheetMovement;
 
-void sheetMoves(bool animated)
+using Completion = void (^)(void);
+
+/// Nothing for null.
+std::function<void()> functionOf(Completion completion)
+{
+    if (!completion)
+        return [] {};
+    void* const copied = Block_copy(completion);
+    const std::shared_ptr<void> copy(copied, [](void* block) { Block_release(block); });
+    return [copy] { ((Completion)copy.get())(); };
+}
+
+void sheetMoves(bool animated, Completion completion)
 {
     constexpr double sheetTime = 0.5;
+    sheetMovement.cancel();
     if (animated)
-        sheetMovement.wait(sheetTime, [] {});
+        sheetMovement.wait(sheetTime, functionOf(completion));
     else
-        sheetMovement.cancel();
+        functionOf(completion)();
 }
 
 } // namespace
@@ -43,8 +61,10 @@ bool brimsound::doubles::isSheetMoving()
 
 - (UIView*)view
 {
-    if (!_view)
+    if (!_view) {
         [self loadView];
+        [self viewDidLoad];
+    }
     return _view;
 }
 
@@ -69,7 +89,19 @@ bool brimsound::doubles::isSheetMoving()
     [view release];
 }
 
+- (void)viewDidLoad
+{
+}
+
 - (void)viewDidUnload
+{
+}
+
+- (void)viewDidAppear:(BOOL)animated
+{
+}
+
+- (void)viewDidDisappear:(BOOL)animated
 {
 }
 
@@ -82,23 +114,37 @@ bool brimsound::doubles::isSheetMoving()
     return _presented;
 }
 
+- (UIViewController*)presentingViewController
+{
+    return _presenting;
+}
+
+/// Controllers are dismissed at once here.
+- (BOOL)isBeingDismissed
+{
+    return NO;
+}
+
 - (void)presentViewController:(UIViewController*)viewController
                      animated:(BOOL)animated
-                   completion:(id)completion
+                   completion:(Completion)completion
 {
     if (!viewController)
         [NSException raise:NSInvalidArgumentException format:@"No controller to present"];
+    if (viewController->_presenting)
+        [NSException raise:NSInvalidArgumentException format:@"The controller is presented already"];
     if (_presented)
         return;
     _presented = [viewController retain];
     viewController->_presenting = self;
-    sheetMoves(animated);
+    sheetMoves(animated, completion);
     UIWindow* const window = brimsound::doubles::keyWindow();
     [[viewController view] setFrame:[window bounds]];
     [window addSubview:[viewController view]];
+    [viewController viewDidAppear:animated];
 }
 
-- (void)dismissViewControllerAnimated:(BOOL)animated completion:(id)completion
+- (void)dismissViewControllerAnimated:(BOOL)animated completion:(Completion)completion
 {
     UIViewController* const presented = _presented;
     if (!presented) {
@@ -109,7 +155,8 @@ bool brimsound::doubles::isSheetMoving()
     _presented = nil;
     presented->_presenting = nil;
     [[presented view] removeFromSuperview];
-    sheetMoves(animated);
+    sheetMoves(animated, completion);
+    [presented viewDidDisappear:animated];
     [presented release];
 }
 

@@ -161,6 +161,23 @@ TEST_F(ThePrincipalClass, PassesASwitchToThePane)
     [controller release];
 }
 
+TEST_F(ThePrincipalClass, TakesAnyObjectAsTheAlertThatIsAnswered)
+{
+    PSListController* controller = open();
+    const SEL selector = sel_registerName("alertView:clickedButtonAtIndex:");
+    const auto answer
+        = reinterpret_cast<void (*)(id, SEL, id, NSInteger)>([controller methodForSelector:selector]);
+    platform.takeTrace();
+    answer(controller, selector, nil, 0);
+    EXPECT_THAT(platform.takeTrace(), testing::IsEmpty());
+    for (id alert : { id(nil), id(@"an alert"), id([[[::UIView alloc] init] autorelease]) }) {
+        answer(controller, selector, alert, 1);
+        EXPECT_THAT(platform.takeTrace(),
+            testing::ElementsAre("shell killall mediaserverd", testing::StartsWith("shell killall ")));
+    }
+    [controller release];
+}
+
 TEST_F(ThePrincipalClass, ShowsNoMailWithoutARootController)
 {
     PSListController* controller = open();

@@ -87,6 +87,8 @@ struct TestPlatform::Device {
 
     ~Device()
     {
+        // Others wait for the one that is shown.
+        while (doubles::pressAlertButton(0)) { }
         for (const auto& shown : std::vector(appController().view().subviews()))
             shown->removeFromSuperview();
         appController().dismissViewControllerAnimatedCompletion(Animated::No, {});

@@ -1,7 +1,7 @@
 // The parts of UIKit in iOS 9 that the platform uses.
 #pragma once
 
-#import <UIKit/UIAlertView.h>
+#import <UIKit/UIAlertController.h>
 #import <UIKit/UIApplication.h>
 #import <UIKit/UIButton.h>
 #import <UIKit/UIColor.h>

@@ -6,6 +6,7 @@
 @class CALayer;
 @class UIColor;
 @class UIViewController;
+@class UIWindow;
 
 typedef uint64_t UIAccessibilityTraits;
 
@@ -41,6 +42,7 @@ enum {
 @property (nonatomic) UISemanticContentAttribute semanticContentAttribute;
 
 @property (nonatomic, readonly) UIView* superview;
+@property (nonatomic, readonly) UIWindow* window;
 @property (nonatomic, readonly, copy) NSArray* subviews;
 - (void)addSubview:(UIView*)view;
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index;
@@ -73,7 +75,4 @@ enum {
 + (void)setAnimationDuration:(NSTimeInterval)duration;
 + (void)setAnimationBeginsFromCurrentState:(BOOL)fromCurrentState;
 + (void)commitAnimations;
-#if defined(__BLOCKS__)
-+ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations;
-#endif
 @end

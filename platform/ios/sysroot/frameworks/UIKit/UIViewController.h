@@ -17,20 +17,17 @@
 @property (nonatomic, retain) UIView* view;
 - (BOOL)isViewLoaded;
 - (void)loadView;
+- (void)viewDidLoad;
 - (void)viewDidUnload;
+- (void)viewDidAppear:(BOOL)animated;
+- (void)viewDidDisappear:(BOOL)animated;
 - (void)viewDidLayoutSubviews;
 
 @property (nonatomic, readonly) UIViewController* presentedViewController;
-// A compiler without blocks can only pass nil as `completion`.
-#if defined(__BLOCKS__)
+@property (nonatomic, readonly) UIViewController* presentingViewController;
+- (BOOL)isBeingDismissed;
 - (void)presentViewController:(UIViewController*)viewController
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion;
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(void (^)(void))completion;
-#else
-- (void)presentViewController:(UIViewController*)viewController
-                     animated:(BOOL)animated
-                   completion:(id)completion;
-- (void)dismissViewControllerAnimated:(BOOL)animated completion:(id)completion;
-#endif
 @end

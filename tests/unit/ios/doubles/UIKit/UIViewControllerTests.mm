@@ -11,6 +11,7 @@
 @interface LoadingController : UIViewController {
 @public
     int loads;
+    int loadsWhenLoaded;
 }
 @end
 
@@ -22,33 +23,10 @@
     [super loadView];
 }
 
-@end
-
-/// Records the delegate calls of alerts.
-@interface AlertRecorder : NSObject <UIAlertViewDelegate> {
-@public
-    std::vector<std::string>* clicks;
-}
-@end
-
-@implementation AlertRecorder
-
-- (instancetype)init
+- (void)viewDidLoad
 {
-    self = [super init];
-    clicks = new std::vector<std::string>;
-    return self;
-}
-
-- (void)dealloc
-{
-    delete clicks;
-    [super dealloc];
-}
-
-- (void)alertView:(UIAlertView*)alert clickedButtonAtIndex:(NSInteger)buttonIndex
-{
-    clicks->push_back([[alert buttonTitleAtIndex:buttonIndex] UTF8String]);
+    [super viewDidLoad];
+    loadsWhenLoaded = loads;
 }
 
 @end
@@ -132,64 +110,138 @@ TEST_F(AController, DismissesItsPresentedControllerWhenItIsDestroyed)
     [sheet release];
 }
 
+TEST_F(AController, LoadsItsViewBeforeItSaysSo)
+{
+    EXPECT_EQ(controller->loadsWhenLoaded, 0);
+    [controller view];
+    EXPECT_EQ(controller->loadsWhenLoaded, 1);
+}
+
+TEST_F(AController, CallsTheCompletionWhenTheSheetHasArrived)
+{
+    UIViewController* sheet = [[[UIViewController alloc] init] autorelease];
+    std::string calls;
+    auto* const called = &calls;
+    [controller presentViewController:sheet animated:YES completion:^{ *called += "presented "; }];
+    EXPECT_EQ(calls, "");
+    brimsound::doubles::advanceClock(1);
+    EXPECT_EQ(calls, "presented ");
+    [controller dismissViewControllerAnimated:NO completion:^{ *called += "dismissed"; }];
+    EXPECT_EQ(calls, "presented dismissed");
+}
+
+TEST_F(AController, IsPresentedOnlyOnce)
+{
+    UIViewController* sheet = [[[UIViewController alloc] init] autorelease];
+    [controller presentViewController:sheet animated:NO completion:nil];
+    EXPECT_EQ([sheet presentingViewController], controller);
+    NSString* refusal = nil;
+    @try {
+        UIViewController* other = [[[UIViewController alloc] init] autorelease];
+        [other presentViewController:sheet animated:NO completion:nil];
+    } @catch (NSException* exception) {
+        refusal = [exception name];
+    }
+    EXPECT_TRUE([refusal isEqualToString:NSInvalidArgumentException]);
+}
+
 class AnAlert : public testing::Test {
 protected:
     AnAlert() { takeTrace(); }
     ~AnAlert() override
     {
         brimsound::doubles::resetUIKit();
-        [recorder release];
         [pool release];
     }
 
-    UIAlertView* alert(NSString* message)
+    /// Its handlers write down the titles of their actions.
+    UIAlertController* alert(NSString* message)
     {
-        UIAlertView* made = [[[UIAlertView alloc] initWithTitle:nil
-                                                        message:message
-                                                       delegate:recorder
-                                              cancelButtonTitle:@"No"
-                                              otherButtonTitles:@"Yes", @"Perhaps", nil] autorelease];
+        UIAlertController* made = [UIAlertController alertControllerWithTitle:nil
+                                                                      message:message
+                                                               preferredStyle:UIAlertControllerStyleAlert];
+        auto* const clicks = &clicked;
+        for (NSString *title in [NSArray arrayWithObjects:@"No", @"Yes", @"Perhaps", nil]) {
+            const bool cancels = [title isEqual:@"No"];
+            const auto style = cancels ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
+            [made addAction:[UIAlertAction actionWithTitle:title
+                                                     style:style
+                                                   handler:^(UIAlertAction* action) {
+                                                       clicks->push_back([[action title] UTF8String]);
+                                                   }]];
+        }
         return made;
     }
 
+    void present(UIAlertController* shown)
+    {
+        [controller presentViewController:shown animated:YES completion:nil];
+    }
+
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    AlertRecorder* recorder = [[AlertRecorder alloc] init];
+    UIViewController* controller = [[[UIViewController alloc] init] autorelease];
+    std::vector<std::string> clicked;
 };
 
 TEST_F(AnAlert, IsShownUntilAButtonIsPressed)
 {
     EXPECT_FALSE(pressAlertButton(0));
-    UIAlertView* shown = alert(@"Really?");
-    EXPECT_EQ([shown addButtonWithTitle:@"Later"], 3);
-    [shown show];
-    EXPECT_TRUE([shown isVisible]);
-    EXPECT_THAT(takeTrace(), ElementsAre("alert Really? (No, Yes, Perhaps, Later)"));
-    EXPECT_FALSE(pressAlertButton(4));
+    UIAlertController* shown = alert(@"Really?");
+    present(shown);
+    EXPECT_EQ(currentAlert(), shown);
+    EXPECT_THAT(takeTrace(), ElementsAre("alert Really? (No, Yes, Perhaps)"));
+    EXPECT_FALSE(pressAlertButton(3));
     EXPECT_TRUE(pressAlertButton(2));
-    EXPECT_FALSE([shown isVisible]);
-    EXPECT_THAT(*recorder->clicks, ElementsAre("Perhaps"));
+    EXPECT_EQ(currentAlert(), nil);
+    EXPECT_EQ([shown presentingViewController], nil);
+    EXPECT_THAT(clicked, ElementsAre("Perhaps"));
 }
 
-TEST_F(AnAlert, IsRetainedWhileItIsShown)
+TEST_F(AnAlert, CanBeFollowedByAnotherOneInItsHandler)
 {
-    UIAlertView* shown = [alert(@"Held") retain];
-    const auto before = [shown retainCount];
-    [shown show];
-    EXPECT_EQ([shown retainCount], before + 1);
-    pressAlertButton(0);
-    EXPECT_EQ([shown retainCount], before);
-    [shown release];
+    UIAlertController* first = alert(@"First");
+    UIAlertController* second = alert(@"Second");
+    UIViewController* const presenter = controller;
+    [first addAction:[UIAlertAction actionWithTitle:@"Next"
+                                              style:UIAlertActionStyleDefault
+                                            handler:^(UIAlertAction*) {
+                                                [presenter presentViewController:second
+                                                                        animated:YES
+                                                                      completion:nil];
+                                            }]];
+    present(first);
+    pressAlertButton(3);
+    EXPECT_EQ(currentAlert(), second);
+}
+
+TEST_F(AnAlert, TakesOneActionThatCancels)
+{
+    UIAlertController* shown = alert(@"Really?");
+    NSString* refusal = nil;
+    @try {
+        [shown addAction:[UIAlertAction actionWithTitle:@"Never" style:UIAlertActionStyleCancel handler:nil]];
+    } @catch (NSException* exception) {
+        refusal = [exception name];
+    }
+    EXPECT_TRUE([refusal isEqualToString:NSInternalInconsistencyException]);
+}
+
+TEST_F(AnAlert, DisappearsWithoutAnAnswerWhenItIsDismissed)
+{
+    present(alert(@"Really?"));
+    [controller dismissViewControllerAnimated:YES completion:nil];
+    EXPECT_EQ(currentAlert(), nil);
+    EXPECT_THAT(clicked, IsEmpty());
 }
 
 TEST_F(AnAlert, IsGoneAfterAReset)
 {
-    [alert(@"First") show];
-    [alert(@"Second") show];
+    present(alert(@"First"));
     takeTrace();
     brimsound::doubles::resetUIKit();
     EXPECT_EQ(currentAlert(), nil);
     EXPECT_THAT(takeTrace(), IsEmpty());
-    EXPECT_THAT(*recorder->clicks, IsEmpty());
+    EXPECT_THAT(clicked, IsEmpty());
 }
 
 } // namespace
