@@ -5,6 +5,7 @@
 #include "platform/ios/Foundation/PropertyListConversion.h"
 #include "platform/ios/Preferences/NewController.h"
 #include "platform/ios/UIKit/IndexPath.h"
+#include "platform/ios/UIKit/LightAppearance.h"
 
 using brimsound::ios::existingObjectOf;
 using brimsound::ios::nativeOf;
@@ -60,6 +61,12 @@ brimsound::PSListController* controllerOf(BRListController* native)
 {
     brimsound::ios::destroyObjectOf(self);
     [super dealloc];
+}
+
+- (void)viewDidLoad
+{
+    [super viewDidLoad];
+    brimsound::ios::keepLight([self view]);
 }
 
 - (NSArray*)specifiers

@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIViewController.h"
 
 #include "platform/ios/Foundation/Peer.h"
+#include "platform/ios/UIKit/LightAppearance.h"
 
 #import <UIKit/UIKit.h>
 
@@ -14,6 +15,12 @@
 {
     brimsound::ios::destroyObjectOf(self);
     [super dealloc];
+}
+
+- (void)viewDidLoad
+{
+    [super viewDidLoad];
+    brimsound::ios::keepLight([self view]);
 }
 
 - (void)viewDidUnload

@@ -34,6 +34,7 @@ void refuseNaN(const toolkit::Rect& frame)
 @implementation UIView
 
 @synthesize semanticContentAttribute = _semanticContentAttribute;
+@synthesize overrideUserInterfaceStyle = _overrideUserInterfaceStyle;
 
 // In here, because the variables are not visible elsewhere.
 

@@ -31,6 +31,7 @@ enum {
     UIColor* _backgroundColor;
     CALayer* _layer;
     UISemanticContentAttribute _semanticContentAttribute;
+    NSInteger _overrideUserInterfaceStyle;
 }
 #endif
 
@@ -40,6 +41,10 @@ enum {
 @property (nonatomic) CGRect bounds;
 @property (nonatomic) UIViewAutoresizing autoresizingMask;
 @property (nonatomic) UISemanticContentAttribute semanticContentAttribute;
+#if defined(GNUSTEP)
+/// From iOS 13 on.
+@property (nonatomic) NSInteger overrideUserInterfaceStyle;
+#endif
 
 @property (nonatomic, readonly) UIView* superview;
 @property (nonatomic, readonly) UIWindow* window;
