@@ -57,14 +57,31 @@ class TheExecutable(unittest.TestCase):
                 "/usr/lib/libSystem.B.dylib",
                 "/usr/lib/libc++.1.dylib",
                 "/usr/lib/libobjc.A.dylib",
-                "/usr/lib/librocketbootstrap.dylib",
+                "@rpath/librocketbootstrap.dylib",
             ],
         )
+
+    def test_loads_without_rocketbootstrap(self):
+        self.assertEqual(binary.weak_libraries, ["@rpath/librocketbootstrap.dylib"])
+        self.assertEqual(binary.weak_imports, {"_rocketbootstrap_distributedmessagingcenter_apply"})
+
+    def test_looks_for_libraries_where_each_jailbreak_has_them(self):
+        self.assertEqual(binary.run_paths, ["/usr/lib", "/var/jb/usr/lib", "@loader_path/.jbroot/usr/lib"])
+
+    def test_finds_the_root_of_a_jailbreak_when_it_runs(self):
+        self.assertEqual(binary.data.count(b"/var/jb"), 1, "only the run path")
+        self.assertEqual(binary.data.count(b".jbroot"), 1, "only the run path")
 
     def test_shows_alerts_with_controllers(self):
         symbols = {symbol for _, symbol, _ in binary.binds}
         self.assertIn("_OBJC_CLASS_$_UIAlertController", symbols)
         self.assertNotIn("_OBJC_CLASS_$_UIAlertView", symbols)
+
+    def test_starts_commands_without_the_systems_shell(self):
+        symbols = {symbol for _, symbol, _ in binary.binds}
+        self.assertIn("_posix_spawn", symbols)
+        self.assertTrue(symbols.isdisjoint({"_system", "_popen", "_pclose"}))
+        self.assertNotIn("system", binary.texts(), "it is not looked up by its name either")
 
     def test_finds_each_symbol_in_the_library_that_has_it(self):
         self.assertTrue(binary.flags & MH_TWOLEVEL)

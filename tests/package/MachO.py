@@ -4,6 +4,8 @@ import struct
 
 LC_SYMTAB = 0x2
 LC_LOAD_DYLIB = 0xC
+LC_LOAD_WEAK_DYLIB = 0x80000018
+LC_RPATH = 0x8000001C
 LC_SEGMENT_64 = 0x19
 LC_CODE_SIGNATURE = 0x1D
 LC_DYLD_INFO_ONLY = 0x80000022
@@ -76,11 +78,16 @@ class MachO:
             offset += size
         self.segments = [self._segment(offset) for offset in self._offsets(LC_SEGMENT_64)]
         self.sections = {name: place for segment in self.segments for name, place in segment["sections"].items()}
-        self.libraries = [self._library(offset) for offset in self._offsets(LC_LOAD_DYLIB)]
+        self.libraries = [self._path(offset) for offset in self._offsets(LC_LOAD_DYLIB, LC_LOAD_WEAK_DYLIB)]
+        # Those that may be missing.
+        self.weak_libraries = [self._path(offset) for offset in self._offsets(LC_LOAD_WEAK_DYLIB)]
+        self.run_paths = [self._path(offset) for offset in self._offsets(LC_RPATH)]
+        # The symbols that are null when they are missing.
+        self.weak_imports = set()
         self.binds = self._binds()
 
-    def _offsets(self, command):
-        return [offset for candidate, offset in self.commands if candidate == command]
+    def _offsets(self, *commands):
+        return [offset for command, offset in self.commands if command in commands]
 
     def _segment(self, offset):
         name, start, size, file_offset, file_size, _, _, count, _ = struct.unpack_from("<16s4Q4I", self.data, offset + 8)
@@ -99,9 +106,10 @@ class MachO:
             "sections": sections,
         }
 
-    def _library(self, offset):
-        (name,) = struct.unpack_from("<I", self.data, offset + 8)
-        return Bytes(self.data, offset + name).text()
+    def _path(self, offset):
+        """The path in the load command of a library or of a run path."""
+        (path,) = struct.unpack_from("<I", self.data, offset + 8)
+        return Bytes(self.data, offset + path).text()
 
     def minimum_os(self):
         """Major and minor version, from the only load command that contains them."""
@@ -134,6 +142,8 @@ class MachO:
                 library = -immediate
             elif operation == 0x40:
                 symbol = stream.text()
+                if immediate & 1:
+                    self.weak_imports.add(symbol)
             elif operation == 0x50:
                 assert immediate == 1, "only pointers are bound"
             elif operation == 0x60:

@@ -1,4 +1,4 @@
-"""Builds the device's package again, from a copy of the sources in another folder.
+"""Builds the device's packages again, from a copy of the sources in another folder.
 
     ReproducibilityTests.py BUILD
 """
@@ -12,6 +12,7 @@ import tempfile
 import unittest
 
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
+ARCHITECTURES = ("iphoneos-arm", "iphoneos-arm64", "iphoneos-arm64e")
 
 
 def output(*command, **options):
@@ -25,10 +26,19 @@ def copy_sources(folder):
             shutil.copy(SOURCE / name, folder / name)
 
 
+def packages(source, folder, environment):
+    """The bytes of the packages of a build folder, by their architecture."""
+    made = {}
+    for architecture in ARCHITECTURES:
+        path = output(source / "scripts/deb", folder, architecture, env=environment).strip()
+        made[architecture] = pathlib.Path(path).read_bytes()
+    return made
+
+
 class AnotherBuild(unittest.TestCase):
     def test_gives_the_same_bytes(self):
         environment = dict(os.environ, SOURCE_DATE_EPOCH="1700000000", CCACHE_DISABLE="1")
-        first = pathlib.Path(output(SOURCE / "scripts/deb", build, env=environment).strip()).read_bytes()
+        first = packages(SOURCE, build, environment)
         # Neither the path nor the permissions of the sources affect the result.
         self.addCleanup(os.umask, os.umask(0o077))
         with tempfile.TemporaryDirectory() as name:
@@ -36,8 +46,9 @@ class AnotherBuild(unittest.TestCase):
             copy_sources(folder)
             output("cmake", "--preset", "ios", cwd=folder, env=environment)
             output("cmake", "--build", "--preset", "ios", cwd=folder, env=environment)
-            second = output(folder / "scripts/deb", folder / "build/ios", env=environment).strip()
-            self.assertTrue(pathlib.Path(second).read_bytes() == first, "the packages differ")
+            second = packages(folder, folder / "build/ios", environment)
+            for architecture in ARCHITECTURES:
+                self.assertTrue(first[architecture] == second[architecture], f"{architecture}: the packages differ")
 
 
 if __name__ == "__main__":

@@ -8,7 +8,9 @@
 
 #import <AppSupport/CPDistributedMessagingCenter.h>
 
-extern "C" void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter* center);
+// Null when its library, which has a package of its own, is not installed. The pane opens all the same.
+extern "C" __attribute__((weak)) void rocketbootstrap_distributedmessagingcenter_apply(
+    CPDistributedMessagingCenter* center);
 
 namespace brimsound {
 
@@ -42,7 +44,8 @@ PropertyList::Dictionary CPDistributedMessagingCenter::sendMessageAndReceiveRepl
 
 void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter& center)
 {
-    ::rocketbootstrap_distributedmessagingcenter_apply(ios::nativeOf(center));
+    if (::rocketbootstrap_distributedmessagingcenter_apply)
+        ::rocketbootstrap_distributedmessagingcenter_apply(ios::nativeOf(center));
 }
 
 } // namespace brimsound

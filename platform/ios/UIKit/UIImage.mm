@@ -3,6 +3,7 @@
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/ios/CoreGraphics/Geometry.h"
 #include "platform/ios/CoreGraphics/NativeGraphics.h"
+#include "platform/ios/Foundation/JailbreakRoot.h"
 #include "platform/ios/Foundation/NativeText.h"
 #include "platform/ios/Foundation/Peer.h"
 
@@ -38,7 +39,8 @@ RetainPtr<UIImage> UIImage::imageWithCGImage(CGImageRef picture)
 
 RetainPtr<UIImage> UIImage::imageWithContentsOfFile(const std::string& path)
 {
-    return retainedObjectOf<UIImage>([::UIImage imageWithContentsOfFile:ios::nativeText(path)]);
+    return retainedObjectOf<UIImage>(
+        [::UIImage imageWithContentsOfFile:ios::nativeText(ios::devicePath(path))]);
 }
 
 CGSize UIImage::size() const

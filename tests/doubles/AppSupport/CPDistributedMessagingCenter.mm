@@ -70,8 +70,3 @@ void forgetMessages()
 }
 
 @end
-
-void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter* messaging_center)
-{
-    messaging_center->_isOpen = YES;
-}

@@ -3,21 +3,20 @@
 #include "tests/doubles/Trace.h"
 
 #include <dlfcn.h>
+#include <spawn.h>
+#include <sys/wait.h>
 
-#include <cstdio>
-#include <set>
+#include <cerrno>
+#include <limits>
 #include <string>
 
 namespace {
 
 bool commandsAreCarriedOut = false;
+bool processesAreRefused = false;
 
-/// The streams for which no command was started: pclose has nothing to wait for.
-std::set<std::FILE*>& streamsWithoutCommand()
-{
-    static std::set<std::FILE*> streams;
-    return streams;
-}
+/// Stands for a command that is not executed. No process has this number.
+constexpr pid_t noProcess = std::numeric_limits<pid_t>::max();
 
 template <typename Function> Function* original(const char* name)
 {
@@ -33,37 +32,40 @@ void carryOutCommands(bool doSo)
     commandsAreCarriedOut = doSo;
 }
 
-} // namespace brimsound::doubles
-
-extern "C" {
-
-int system(const char* command)
+void refuseProcesses(bool doSo)
 {
-    brimsound::doubles::record(std::string("shell ") + command);
-    return commandsAreCarriedOut ? original<int(const char*)>("system")(command) : 0;
+    processesAreRefused = doSo;
 }
+
+} // namespace brimsound::doubles
 
 // Not for shared libraries: GNUstep runs a command of its own when it starts.
 #pragma GCC visibility push(hidden)
 
-std::FILE* popen(const char* command, const char* mode)
+extern "C" {
+
+int posix_spawn(pid_t* process, const char* path, const posix_spawn_file_actions_t* actions,
+    const posix_spawnattr_t* attributes, char* const arguments[], char* const environment[])
 {
-    brimsound::doubles::record(std::string("shell ") + command);
+    // sh -c COMMAND
+    brimsound::doubles::record(std::string("shell ") + arguments[2]);
+    if (processesAreRefused)
+        return EAGAIN;
     if (commandsAreCarriedOut)
-        return original<std::FILE*(const char*, const char*)>("popen")(command, mode);
-
-    auto* stream = std::fopen("/dev/null", mode);
-    if (stream)
-        streamsWithoutCommand().insert(stream);
-    return stream;
+        return original<decltype(posix_spawn)>("posix_spawn")(
+            process, path, actions, attributes, arguments, environment);
+    *process = noProcess;
+    return 0;
 }
 
-int pclose(std::FILE* stream)
+pid_t waitpid(pid_t process, int* status, int options)
 {
-    return streamsWithoutCommand().erase(stream) ? std::fclose(stream)
-                                                 : original<int(std::FILE*)>("pclose")(stream);
+    if (process != noProcess)
+        return original<decltype(waitpid)>("waitpid")(process, status, options);
+    *status = 0;
+    return process;
 }
-
-#pragma GCC visibility pop
 
 } // extern "C"
+
+#pragma GCC visibility pop

@@ -34,8 +34,7 @@ int fclose(FILE*);
 int fflush(FILE*);
 void setbuf(FILE*, char*);
 int setvbuf(FILE*, char*, int, size_t);
-FILE* popen(const char* command, const char* mode);
-int pclose(FILE*);
+FILE* fdopen(int, const char* mode);
 
 int fgetc(FILE*);
 char* fgets(char*, int, FILE*);

@@ -14,7 +14,6 @@
 #include "tests/doubles/MessageUI/ComposedMail.h"
 #include "tests/doubles/System/Commands.h"
 #include "tests/doubles/Trace.h"
-#include "tests/support/NoDescriptors.h"
 #include "tests/support/TemporaryFolder.h"
 
 #import <Preferences/PSListController.h>
@@ -76,6 +75,7 @@ struct TestPlatform::Device {
         installBundle();
         doubles::setDeviceRoot(root.path());
         doubles::carryOutCommands(false);
+        doubles::refuseProcesses(false);
         doubles::setPreferredLanguages({ "en" });
         doubles::forgetMessages();
         doubles::forgetNotifications();
@@ -110,7 +110,6 @@ struct TestPlatform::Device {
 
     std::optional<Turn> turn { std::in_place };
     TemporaryFolder root;
-    std::optional<NoDescriptors> noDescriptors;
     UIWindow* window = [[UIWindow alloc] initWithFrame:ios::native(CGRect { {}, { 320, 568 } })];
 };
 
@@ -248,13 +247,12 @@ void TestPlatform::carryOutCommands()
 
 void TestPlatform::failToStartCommands()
 {
-    carryOutCommands();
-    _device->noDescriptors.emplace();
+    doubles::refuseProcesses(true);
 }
 
 void TestPlatform::startCommandsAgain()
 {
-    _device->noDescriptors.reset();
+    doubles::refuseProcesses(false);
 }
 
 void TestPlatform::haveProgramsFor(const std::vector<std::string>& schemes)

@@ -1,0 +1,6 @@
+#import <AppSupport/CPDistributedMessagingCenter.h>
+
+extern "C" void rocketbootstrap_distributedmessagingcenter_apply(CPDistributedMessagingCenter* center)
+{
+    center->_isOpen = YES;
+}
