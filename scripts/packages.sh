@@ -9,7 +9,7 @@ build_packages=(
 # Packages to build and run the pane.
 run_packages=("${build_packages[@]}" dbus-daemon fonts-inter psmisc qt6-wayland xdg-utils)
 # Packages to build the package for Debian: those of debian/control and the tools.
-deb_packages=("${build_packages[@]}" debhelper dpkg-dev git)
+deb_packages=("${build_packages[@]}" build-essential debhelper dpkg-dev git)
 # Additional packages for the tests.
 test_packages=(
     ccache clang clang-format clang-tidy libclang-rt-dev libgtest-dev libgmock-dev libplist-dev
