@@ -244,7 +244,8 @@ TEST_F(AFaultyDesktop, FollowsAMixerUntilTheEngineEnds)
 
 TEST_F(AFaultyDesktop, EqualizesEachOfTwentyStreams)
 {
-    // Ten together are softer than a single one that is not equalized, at each frequency.
+    // Ten together are softer than a single one that is not equalized, and at some time at least as loud as
+    // an equalized one, at each frequency. Their phases are random.
     constexpr double amplitude = 0.05;
     Gains softest {};
     softest.fill(-12);
@@ -278,8 +279,8 @@ TEST_F(AFaultyDesktop, EqualizesEachOfTwentyStreams)
         hw1->next(48000);
     }
     const auto heard = hw1->samples(start);
-    EXPECT_GT(loudestAt(heard, 1000), amplitude * 0.063 * 2) << "there is no sound";
-    EXPECT_GT(loudestAt(heard, 3000), amplitude * 0.063 * 2) << "there is no sound";
+    EXPECT_GT(loudestAt(heard, 1000), amplitude * 0.063 * 0.9) << "there is no sound";
+    EXPECT_GT(loudestAt(heard, 3000), amplitude * 0.063 * 0.9) << "there is no sound";
     EXPECT_LT(loudestAt(heard, 1000), amplitude * 0.631 * 1.122);
     EXPECT_LT(loudestAt(heard, 3000), amplitude * 0.631 * 1.122);
 }
