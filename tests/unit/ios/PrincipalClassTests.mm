@@ -165,8 +165,10 @@ TEST_F(ThePrincipalClass, TakesAnyObjectAsTheAlertThatIsAnswered)
 {
     PSListController* controller = open();
     const SEL selector = sel_registerName("alertView:clickedButtonAtIndex:");
-    const auto answer
-        = reinterpret_cast<void (*)(id, SEL, id, NSInteger)>([controller methodForSelector:selector]);
+    // Compilers warn of casts between function types, except to and from this one.
+    using AnyFunction = void (*)();
+    const auto method = reinterpret_cast<AnyFunction>([controller methodForSelector:selector]);
+    const auto answer = reinterpret_cast<void (*)(id, SEL, id, NSInteger)>(method);
     platform.takeTrace();
     answer(controller, selector, nil, 0);
     EXPECT_THAT(platform.takeTrace(), testing::IsEmpty());
