@@ -41,8 +41,6 @@ namespace brimsound {
 
 namespace {
 
-void (^const noBlock)(void) = nullptr;
-
 ::UIViewController* nativeOf(const UIViewController& controller)
 {
     return ios::nativeOf(controller);
@@ -78,10 +76,12 @@ void UIViewController::presentViewControllerAnimatedCompletion(
     if ([nativeOf(*this) presentedViewController] || ![native isKindOfClass:[::UIViewController class]])
         return;
     const auto finished = completion;
-    void (^const finish)(void) = ^{ finished(); };
     [nativeOf(*this) presentViewController:native
                                   animated:animated == Animated::Yes
-                                completion:completion ? finish : noBlock];
+                                completion:^{
+                                    if (finished)
+                                        finished();
+                                }];
 }
 
 void UIViewController::dismissViewControllerAnimatedCompletion(
@@ -90,9 +90,11 @@ void UIViewController::dismissViewControllerAnimatedCompletion(
     if (![nativeOf(*this) presentedViewController])
         return;
     const auto finished = completion;
-    void (^const finish)(void) = ^{ finished(); };
     [nativeOf(*this) dismissViewControllerAnimated:animated == Animated::Yes
-                                        completion:completion ? finish : noBlock];
+                                        completion:^{
+                                            if (finished)
+                                                finished();
+                                        }];
 }
 
 } // namespace brimsound
