@@ -26,3 +26,4 @@ check_layer(
 check_layer("platform/desktop/UIKit;platform/desktop/Preferences;platform/desktop/QuartzCore" "\"(platform|toolkit)/")
 check_layer("toolkit" "\"toolkit/")
 check_layer("desktop/engine/audio" "(\"desktop/engine/audio/|<xmmintrin\\.h>)")
+check_layer("presets" "(\"presets/|\"desktop/engine/audio/|\"platform/desktop/Foundation/UnicodeText|<nlohmann/|<Eigen/)")

@@ -4,7 +4,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev libsystemd-dev libgmime-3.0-dev libglib2.0-dev
-    libcairo2-dev libpipewire-0.3-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
+    libcairo2-dev libeigen3-dev libpipewire-0.3-dev libsndfile1-dev libssl-dev nlohmann-json3-dev
 )
 # Packages to build and run the pane.
 run_packages=("${build_packages[@]}" dbus-daemon fonts-inter psmisc qt6-wayland xdg-utils)

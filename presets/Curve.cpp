@@ -1,0 +1,21 @@
+#include "presets/Curve.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brimsound::presets {
+
+double gainAt(const Curve& curve, double frequency)
+{
+    const auto above = std::ranges::lower_bound(curve, frequency, {}, &CurvePoint::frequency);
+    if (above == curve.begin())
+        return curve.front().gain;
+    if (above == curve.end())
+        return curve.back().gain;
+    const auto below = std::prev(above);
+    const double part
+        = std::log(frequency / below->frequency) / std::log(above->frequency / below->frequency);
+    return std::lerp(below->gain, above->gain, part);
+}
+
+} // namespace brimsound::presets

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "presets/Reading.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brimsound::presets {
+
+struct Recognition {
+    std::optional<Format> format;
+    /// Why there is none: what the file is, as far as that is known, and what can be read.
+    std::string reason;
+};
+
+/// The format that the contents of a file show. Its name does not count.
+Recognition recognize(std::string_view contents);
+
+} // namespace brimsound::presets

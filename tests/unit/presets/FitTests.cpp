@@ -1,0 +1,208 @@
+#include "presets/Fit.h"
+
+#include "presets/Conversion.h"
+#include "tests/support/ExampleResponses.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace brimsound::presets {
+namespace {
+
+using Shape = FilterShape;
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::Field;
+using testing::IsEmpty;
+
+MATCHER_P2(IsNear, value, distance, "")
+{
+    return std::abs(arg - value) <= distance;
+}
+
+Finding warning(const std::string& text)
+{
+    return { Severity::Warning, {}, text };
+}
+
+Level levelOf(const Response& response)
+{
+    return response.levelIsKnown ? Level::Counts : Level::IsFree;
+}
+
+TEST(TheFit, IsNeverFurtherFromTheTargetThanItsSamplesAtTheCenters)
+{
+    for (const auto& [name, response] : tests::exampleResponses()) {
+        const auto points = pointsOf(response);
+        const auto level = levelOf(response);
+        const auto fitted = compare(points, level, fit(points, level));
+        const auto sampled = compare(points, level, sampleAtCenters(points));
+        EXPECT_LE(fitted.rms, sampled.rms) << name;
+        EXPECT_LE(fitted.largest, sampled.largest) << name;
+    }
+}
+
+TEST(TheFit, KeepsTheBandsOfATrebleShelfTogether)
+{
+    const auto points = pointsOf({ { { Shape::HighShelf, 10000, -5, 0.7 } }, {}, true });
+    const auto gains = fit(points, Level::Counts);
+    EXPECT_THAT(gains[4], IsNear(0, 0.1));
+    EXPECT_THAT(gains[7], IsNear(-4, 0.5));
+    EXPECT_THAT(gains[8], IsNear(-4.5, 0.5));
+    EXPECT_THAT(gains[9], IsNear(-5, 0.5));
+    EXPECT_LT(compare(points, Level::Counts, gains).rms, 0.12);
+}
+
+TEST(TheFit, StaysWithinTheLimitsOfTheSliders)
+{
+    const Response response { { { Shape::LowShelf, 500, 20, 0.7 }, { Shape::HighShelf, 5000, -20, 0.7 } }, {},
+        true };
+    const auto gains = fit(pointsOf(response), Level::Counts);
+    EXPECT_THAT(gains[0], IsNear(12, 1e-6));
+    EXPECT_THAT(gains[9], IsNear(-12, 1e-6));
+    for (const double gain : gains)
+        EXPECT_LE(std::abs(gain), 12);
+}
+
+TEST(TheFit, IsFlatForAFlatTarget)
+{
+    const Response response { { { Shape::Peak, 1000, 0, 1 } }, {}, true };
+    EXPECT_THAT(fit(pointsOf(response), Level::Counts), Each(IsNear(0, 1e-6)));
+}
+
+TEST(AnUnknownLevel, MakesNoDifference)
+{
+    const Curve curve { { 60, -7 }, { 1000, -10 }, { 3000, -4 }, { 16000, -9 } };
+    Curve lower = curve;
+    for (auto& point : lower)
+        point.gain -= 5;
+    const auto gains = fit(pointsOf({ {}, { curve }, false }), Level::IsFree);
+    const auto same = fit(pointsOf({ {}, { lower }, false }), Level::IsFree);
+    for (std::size_t band = 0; band < gains.size(); ++band)
+        EXPECT_NEAR(gains[band], same[band], 0.01);
+}
+
+TEST(TheDifference, IsMeasuredFrom40HertzTo16Kilohertz)
+{
+    // The response of flat sliders is 0 dB, so the difference is the curve itself.
+    const Curve curve { { 39, 12 }, { 40, 3 }, { 16000, 3 }, { 16100, 12 } };
+    const auto difference = compare(pointsOf({ {}, { curve }, true }), Level::Counts, {});
+    EXPECT_NEAR(difference.rms, 3, 1e-9);
+    EXPECT_NEAR(difference.largest, 3, 1e-9);
+    EXPECT_NEAR(compare(pointsOf({ {}, { curve }, true }), Level::IsFree, {}).rms, 0, 1e-9);
+}
+
+TEST(TheDifference, TellsWhereItIsLargest)
+{
+    const auto difference
+        = compare(pointsOf({ { { Shape::Peak, 2000, 6, 4 } }, {}, true }), Level::Counts, {});
+    EXPECT_NEAR(difference.frequency, 2000, 30);
+    EXPECT_NEAR(difference.largest, 6, 0.1);
+}
+
+TEST(TheTarget, IsEvaluatedAt240Frequencies)
+{
+    const auto points = pointsOf({ { { Shape::Peak, 1000, 6, 1 } }, { { { 1000, 2 } } }, true });
+    ASSERT_EQ(points.size(), 240U);
+    EXPECT_NEAR(points.front().frequency, 20, 1e-9);
+    EXPECT_NEAR(points.back().frequency, 20000, 1e-6);
+    EXPECT_NEAR(points.front().gain, 2, 0.1);
+    // A point below 40 Hz stands for a tenth of what one above stands for.
+    EXPECT_NEAR(points[100].weight / points[5].weight, 10, 1e-9);
+}
+
+TEST(TheTarget, OfADenseCurveIsItsOwnPointsInTheAudibleRange)
+{
+    Curve curve { { 10, 1 } };
+    for (int i = 0; i < 61; ++i)
+        curve.push_back({ 20 + 300.0 * i, static_cast<double>(i % 5) });
+    curve.push_back({ 21000, 1 });
+    const auto points = pointsOf({ {}, { curve }, false });
+    ASSERT_EQ(points.size(), 61U);
+    EXPECT_EQ(points[7].frequency, curve[8].frequency);
+    EXPECT_EQ(points[7].gain, curve[8].gain);
+    curve.pop_back();
+    curve.pop_back();
+    EXPECT_EQ(pointsOf({ {}, { curve }, false }).size(), 240U);
+}
+
+TEST(TheTarget, IsLimitedTo24Decibels)
+{
+    const auto points = pointsOf({ {}, { { { 100, 90 }, { 10000, -90 } } }, true });
+    EXPECT_EQ(points.front().gain, 24);
+    EXPECT_EQ(points.back().gain, -24);
+}
+
+TEST(ACurve, IsLinearOverTheLogarithmOfTheFrequencyAndConstantOutside)
+{
+    const Curve curve { { 100, 2 }, { 10000, 6 } };
+    EXPECT_EQ(gainAt(curve, 20), 2);
+    EXPECT_EQ(gainAt(curve, 100), 2);
+    EXPECT_NEAR(gainAt(curve, 1000), 4, 1e-9);
+    EXPECT_EQ(gainAt(curve, 20000), 6);
+}
+
+TEST(Positions, AreCopied)
+{
+    Findings findings;
+    const Positions positions { { 1, 2, 3, 4, 5, -5, -4, -3, -2, -1 } };
+    const auto conversion = convert(positions, Copying::Allowed, findings);
+    EXPECT_EQ(conversion.gains, positions.gains);
+    EXPECT_FALSE(conversion.difference);
+    EXPECT_THAT(findings.all(), IsEmpty());
+}
+
+TEST(Positions, AreLimitedWithAWarningEach)
+{
+    Findings findings;
+    const auto conversion
+        = convert(Positions { { 20, 0, 0, 0, 0, 0, 0, 0, 0, -12.5 } }, Copying::Allowed, findings);
+    EXPECT_THAT(conversion.gains, ElementsAre(12, 0, 0, 0, 0, 0, 0, 0, 0, -12));
+    EXPECT_THAT(findings.all(),
+        ElementsAre(warning("the gain of 20 dB at 60 Hz is limited to 12 dB"),
+            warning("the gain of -12.5 dB at 16 kHz is limited to -12 dB")));
+}
+
+TEST(Positions, AreFittedWhenCopyingIsForbidden)
+{
+    Findings findings;
+    const auto conversion
+        = convert(Positions { { 0, 0, 0, 0, 6, 0, 0, 0, 0, 0 } }, Copying::Forbidden, findings);
+    ASSERT_TRUE(conversion.difference);
+    EXPECT_GT(conversion.gains[4], 4);
+    EXPECT_NE(conversion.gains[4], 6);
+}
+
+TEST(AConversion, WarnsOfWhatTenBandsCannotFollow)
+{
+    Findings findings;
+    convert(Response { { { Shape::Peak, 2000, 12, 6 } }, {}, true }, Copying::Allowed, findings);
+    ASSERT_EQ(findings.all().size(), 1U);
+    EXPECT_THAT(findings.all()[0].text, testing::StartsWith("ten bands only follow it roughly: up to "));
+    EXPECT_THAT(findings.all()[0].text, testing::EndsWith(" kHz"));
+}
+
+TEST(AConversion, WarnsOfFiltersBeyondTheBandsAndOfNotches)
+{
+    Findings findings;
+    const Response response { { { Shape::Peak, 25, 2, 1.41 }, { Shape::Peak, 19000, -1, 1.41 },
+                                  { Shape::Notch, 50, 0, 30 } },
+        {}, true };
+    convert(response, Copying::Allowed, findings);
+    EXPECT_THAT(findings.all(), Contains(warning("a filter at 25 Hz is beyond the bands and is lost")));
+    EXPECT_THAT(findings.all(), Contains(warning("a filter at 19 kHz is beyond the bands and is lost")));
+    EXPECT_THAT(findings.all(), Contains(warning("a notch at 50 Hz is narrower than the bands and is lost")));
+}
+
+TEST(AConversion, NamesTheBandsThatEndAtTheLimit)
+{
+    Findings findings;
+    convert(Response { { { Shape::LowShelf, 200, 20, 0.7 } }, {}, true }, Copying::Allowed, findings);
+    EXPECT_THAT(findings.all(),
+        Contains(Field(&Finding::text, testing::StartsWith("more than 12 dB would be needed at 60 Hz"))));
+}
+
+} // namespace
+} // namespace brimsound::presets
