@@ -20,10 +20,14 @@ PropertyList::Dictionary get_preferences()
 
 void write_preferences(PropertyList::Dictionary preferences)
 {
+    try_write_preferences(std::move(preferences));
+}
+
+bool try_write_preferences(PropertyList::Dictionary preferences)
+{
     const auto data
         = dataWithPropertyList(std::move(preferences), NSPropertyListFormat::BinaryFormat_v1_0, 0);
-    if (data)
-        writeToFile(*data, preferencesPath);
+    return data && writeToFile(*data, preferencesPath);
 }
 
 } // namespace brimsound

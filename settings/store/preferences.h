@@ -14,4 +14,7 @@ PropertyList::Dictionary get_preferences();
 /// leaves the old file unchanged where writeToFile can reserve the space for the new one first.
 void write_preferences(PropertyList::Dictionary preferences);
 
+/// The same, for a program that reports failures: returns whether the file was written.
+bool try_write_preferences(PropertyList::Dictionary preferences);
+
 } // namespace brimsound
