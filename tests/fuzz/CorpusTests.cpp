@@ -1,6 +1,7 @@
 // All files that the fuzzers start from, and all files with which they found errors.
 #include "tests/fuzz/GestureScript.h"
 #include "tests/fuzz/PreferencesFile.h"
+#include "tests/fuzz/PresetFile.h"
 
 #include <gtest/gtest.h>
 
@@ -43,6 +44,20 @@ TEST(EveryFileOfTheCorpus, IsParsedAsAScript)
     EXPECT_FALSE(files.empty());
     for (const auto& file : files)
         EXPECT_NO_THROW(tryGestureScript(contentsOf(file))) << file;
+}
+
+TEST(EveryFileOfTheCorpus, IsReadAsAPreset)
+{
+    for (const std::string format :
+        { "eqf", "apo", "graphiceq", "easyeffects", "xmms", "numbers", "json", "any" }) {
+        const auto files = filesOf("preset_" + format);
+        EXPECT_FALSE(files.empty());
+        for (const auto& file : files) {
+            const auto contents = contentsOf(file);
+            EXPECT_NO_THROW(tryPresetFile(contents, presets::formatNamed(format))) << file;
+            EXPECT_NO_THROW(tryConversion(contents)) << file;
+        }
+    }
 }
 
 } // namespace
