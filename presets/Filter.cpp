@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <complex>
 #include <numbers>
 
 namespace brimsound::presets {
@@ -70,24 +69,40 @@ Biquad cookbook(const Filter& filter)
     }
 }
 
-/// The power of an analog filter where the normalized complex frequency is s.
-double rlcPower(const Filter& filter, std::complex<double> s)
+/// A polynomial of the complex frequency.
+struct AnalogPolynomial {
+    double s0;
+    double s1;
+    double s2;
+
+    /// The squared magnitude at that squared frequency.
+    double power(double squaredFrequency) const
+    {
+        const double real = s0 - s2 * squaredFrequency;
+        return real * real + s1 * s1 * squaredFrequency;
+    }
+};
+
+/// One stage of an analog filter whose frequency is 1.
+struct AnalogFilter {
+    AnalogPolynomial numerator;
+    AnalogPolynomial denominator;
+    double factor;
+};
+
+AnalogFilter analog(const Filter& filter)
 {
-    const auto square = s * s;
     if (filter.shape == FilterShape::RlcPeak) {
         const double stages = filter.stages;
         const double g = std::pow(10, filter.gain / (20 * stages));
         const double k = 2 * (g + 1 / g) / (1 + 2 * filter.q / stages);
         const double theta = std::atan(g);
-        const auto stage
-            = (square + k * std::sin(theta) * s + 1.0) / (square + k * std::cos(theta) * s + 1.0);
-        return std::pow(std::norm(stage), stages);
+        return { { 1, k * std::sin(theta), 1 }, { 1, k * std::cos(theta), 1 }, 1 };
     }
     const double h = std::pow(10, filter.gain / 80);
     const double inside = filter.shape == FilterShape::RlcLowShelf ? h : 1 / h;
     const double k = 2 / (1 + filter.q);
-    const auto fraction = (inside + k * s + square / inside) / (1 / inside + k * s + square * inside);
-    return h * h * h * h * std::norm(fraction);
+    return { { inside, k, 1 / inside }, { 1 / inside, k, inside }, h * h * h * h };
 }
 
 bool isRlc(FilterShape shape)
@@ -120,16 +135,22 @@ double responseOf(const Filter& filter, double frequency)
 void addResponse(const Filter& filter, std::span<const double> frequencies, std::span<double> gains)
 {
     constexpr double halfStep = std::numbers::pi / comparisonRate;
-    const auto biquad = cookbook(filter);
-    const double center = std::tan(halfStep * filter.frequency);
-    for (std::size_t i = 0; i < frequencies.size(); ++i) {
-        const double angle = halfStep * frequencies[i];
-        if (isRlc(filter.shape)) {
-            gains[i] += decibels(rlcPower(filter, { 0, std::tan(angle) / center }));
-            continue;
+    if (isRlc(filter.shape)) {
+        const auto [numerator, denominator, factor] = analog(filter);
+        const double center = std::tan(halfStep * filter.frequency);
+        for (std::size_t i = 0; i < frequencies.size(); ++i) {
+            const double frequency = std::tan(halfStep * frequencies[i]) / center;
+            const double square = frequency * frequency;
+            gains[i]
+                += filter.stages * decibels(factor * numerator.power(square) / denominator.power(square));
         }
-        const double phi = std::sin(angle) * std::sin(angle);
-        gains[i] += decibels(biquad.numerator.power(phi) / biquad.denominator.power(phi));
+        return;
+    }
+    const auto [numerator, denominator] = cookbook(filter);
+    for (std::size_t i = 0; i < frequencies.size(); ++i) {
+        const double sine = std::sin(halfStep * frequencies[i]);
+        const double phi = sine * sine;
+        gains[i] += decibels(numerator.power(phi) / denominator.power(phi));
     }
 }
 

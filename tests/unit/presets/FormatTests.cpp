@@ -251,6 +251,8 @@ TEST(OwnJson, IsRefusedWhenItIsNotWhatItSays)
     EXPECT_THAT(only("[1e999]"), ElementsAre(error("", "the JSON text has a number that is too large")));
     EXPECT_THAT(only(std::string(70, '[') + std::string(70, ']')),
         ElementsAre(error("", "the JSON text is nested more than 64 deep")));
+    EXPECT_THAT(only("{\"" + std::string(70, '[') + "\\\"[\":1}"),
+        ElementsAre(error("format", "it is not \"brimsound-presets\"")));
     EXPECT_THAT(only("{}"), ElementsAre(error("format", "it is not \"brimsound-presets\"")));
     EXPECT_THAT(only(R"({"format":"brimsound-presets","version":2})"),
         ElementsAre(error("version", "only version 1 is known")));
