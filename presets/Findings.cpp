@@ -1,5 +1,7 @@
 #include "presets/Findings.h"
 
+#include "presets/Text.h"
+
 #include <utility>
 
 namespace brimsound::presets {
@@ -21,13 +23,11 @@ void Findings::refuse(std::string place, std::string text)
     add({ Severity::Error, std::move(place), std::move(text) });
 }
 
-void Findings::append(const Findings& others)
+void Findings::notePreamp(std::string place, double gain)
 {
-    for (const auto& finding : others._all)
-        add(finding);
-    _warnings += others._warnings;
-    _errors += others._errors;
-    _omitted += others._omitted;
+    if (gain != 0)
+        note(std::move(place),
+            "the preamp of " + plain(gain) + " dB is left out: Auto Preamp sets one for these gains");
 }
 
 void Findings::add(Finding finding)

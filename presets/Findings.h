@@ -33,7 +33,8 @@ public:
     void note(std::string place, std::string text);
     void warn(std::string place, std::string text);
     void refuse(std::string place, std::string text);
-    void append(const Findings&);
+    /// Notes that a preamp, in dB, is left out. Nothing when it is 0.
+    void notePreamp(std::string place, double gain);
 
     const std::vector<Finding>& all() const { return _all; }
     bool haveWarnings() const { return _warnings > 0; }

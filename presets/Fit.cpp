@@ -213,27 +213,27 @@ BandGains fit(std::span<const TargetPoint> points, Level level)
 Difference compare(std::span<const TargetPoint> points, Level level, const BandGains& sliders)
 {
     const auto targets = design().solve(sliders, 0);
-    std::vector<double> missing;
+    // What is wanted beyond what is heard.
+    std::vector<TargetPoint> missing;
     double sum = 0;
     double weights = 0;
-    std::vector<TargetPoint> reported;
-    for (const auto& point : points) {
+    for (auto point : points) {
         if (!point.isReported())
             continue;
-        reported.push_back(point);
-        missing.push_back(point.gain - audio::responseAt(targets, point.frequency));
-        sum += point.weight * missing.back();
+        point.gain -= audio::responseAt(targets, point.frequency);
+        sum += point.weight * point.gain;
         weights += point.weight;
+        missing.push_back(point);
     }
     const double shift = level == Level::IsFree && weights > 0 ? sum / weights : 0;
     Difference difference;
     double squares = 0;
-    for (std::size_t i = 0; i < missing.size(); ++i) {
-        const double error = missing[i] - shift;
-        squares += reported[i].weight * error * error;
+    for (const auto& point : missing) {
+        const double error = point.gain - shift;
+        squares += point.weight * error * error;
         if (std::abs(error) > difference.largest) {
             difference.largest = std::abs(error);
-            difference.frequency = reported[i].frequency;
+            difference.frequency = point.frequency;
         }
     }
     difference.rms = weights > 0 ? std::sqrt(squares / weights) : 0;

@@ -124,8 +124,8 @@ private:
             return;
         }
         _hasEqualizer = true;
-        noteLevel(equalizer["input-gain"]);
-        noteLevel(equalizer["output-gain"]);
+        for (const auto& level : { equalizer["input-gain"], equalizer["output-gain"] })
+            findings().notePreamp(level.path, level.number().value_or(0));
         const auto left = equalizer["left"];
         const auto right = equalizer["right"];
         const auto channel = _isLeft || !equalizer["split-channels"].flag(true) ? left : right;
@@ -137,14 +137,6 @@ private:
             findings().warn(equalizer["balance"].path, "the balance is left out");
         const auto pitch = equalizer[_isLeft ? "pitch-left" : "pitch-right"].number().value_or(0);
         readBands(channel, equalizer["num-bands"], std::pow(2, pitch / 12));
-    }
-
-    void noteLevel(const Node& gain)
-    {
-        const auto level = gain.number();
-        if (level && *level != 0)
-            findings().note(gain.path,
-                "the gain of " + plain(*level) + " dB is left out: Auto Preamp sets one for these gains");
     }
 
     void readBands(const Node& channel, const Node& countNode, double pitch)

@@ -54,10 +54,8 @@ ForeignPreset readRecord(std::string_view record, std::size_t number)
         positions.gains[band] = gainOf(value);
     }
     const int preamp = static_cast<unsigned char>(record[nameSize + audio::bandCount]);
-    if (preamp <= highest && gainOf(preamp) != 0)
-        preset.findings.note(place,
-            "the preamp of " + plain(gainOf(preamp))
-                + " dB is left out: Auto Preamp sets one for these gains");
+    if (preamp <= highest)
+        preset.findings.notePreamp(place, gainOf(preamp));
     preset.target = positions;
     return preset;
 }

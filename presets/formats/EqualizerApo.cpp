@@ -190,9 +190,7 @@ private:
 
     void finish()
     {
-        if (_preamp != 0)
-            _preset.findings.note(_preampPlace,
-                "the preamp of " + plain(_preamp) + " dB is left out: Auto Preamp sets one for these gains");
+        _preset.findings.notePreamp(_preampPlace, _preamp);
         const bool takesLeft = _options.channel == ReadingOptions::Channel::Left;
         auto& taken = takesLeft ? _left : _right;
         if (_left != _right)

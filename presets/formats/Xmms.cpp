@@ -97,9 +97,8 @@ void readSection(const Section& section, ForeignPreset& preset, const ReadingOpt
     preset.target = targetOf(gains, options);
     if (const auto preamp = section.values.find("Preamp"); preamp != section.values.end()) {
         const auto gain = readGain(preamp->second.text);
-        if (gain && *gain != 0 && std::isfinite(*gain))
-            preset.findings.note(preamp->second.place,
-                "the preamp of " + plain(*gain) + " dB is left out: Auto Preamp sets one for these gains");
+        if (gain && std::isfinite(*gain))
+            preset.findings.notePreamp(preamp->second.place, *gain);
     }
 }
 

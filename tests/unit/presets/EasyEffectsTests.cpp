@@ -45,6 +45,13 @@ json& firstBandOf(json& preset)
     return equalizerOf(preset)["left"]["band0"];
 }
 
+ReadingOptions rightChannel()
+{
+    ReadingOptions options;
+    options.channel = ReadingOptions::Channel::Right;
+    return options;
+}
+
 ForeignPreset read(const json& preset, const ReadingOptions& options = {})
 {
     return readEasyEffects(preset.dump(), options).front();
@@ -204,9 +211,9 @@ TEST(AnEasyEffectsPreset, NamesTheLevelsAndTheBalanceThatAreLeftOut)
     equalizerOf(preset)["balance"] = 10;
     EXPECT_THAT(read(preset).findings.all(),
         ElementsAre(Finding { Severity::Note, "output.equalizer#0.input-gain",
-                        "the gain of -5.5 dB is left out: Auto Preamp sets one for these gains" },
+                        "the preamp of -5.5 dB is left out: Auto Preamp sets one for these gains" },
             Finding { Severity::Note, "output.equalizer#0.output-gain",
-                "the gain of 2 dB is left out: Auto Preamp sets one for these gains" },
+                "the preamp of 2 dB is left out: Auto Preamp sets one for these gains" },
             warning("output.equalizer#0.balance", "the balance is left out")));
 }
 
@@ -219,10 +226,10 @@ TEST(AnEasyEffectsPreset, GivesTheLeftChannelUnlessTheRightOneIsChosen)
     EXPECT_EQ(filtersOf(left).front().gain, 5);
     EXPECT_THAT(left.findings.all(),
         ElementsAre(warning("output.equalizer#0", "the channels differ: the left one is taken")));
-    const auto right = read(preset, { .channel = ReadingOptions::Channel::Right });
+    const auto right = read(preset, rightChannel());
     EXPECT_EQ(filtersOf(right).front().gain, 1);
     equalizerOf(preset)["split-channels"] = false;
-    EXPECT_EQ(filtersOf(read(preset, { .channel = ReadingOptions::Channel::Right })).front().gain, 5);
+    EXPECT_EQ(filtersOf(read(preset, rightChannel())).front().gain, 5);
     EXPECT_THAT(read(preset).findings.all(), IsEmpty());
 }
 

@@ -16,6 +16,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+ReadingOptions rightChannel()
+{
+    ReadingOptions options;
+    options.channel = ReadingOptions::Channel::Right;
+    return options;
+}
+
 ForeignPreset read(std::string_view text, const ReadingOptions& options = {})
 {
     return readEqualizerApo(text, options).front();
@@ -302,7 +309,7 @@ TEST(ApoText, GivesTheLeftChannelUnlessTheRightOneIsChosen)
         ElementsAre(
             warning("7", "what follows is neither for the left nor the right channel and is left out"),
             warning("1", "the channels differ: the left one is taken")));
-    const auto right = read(text, { .channel = ReadingOptions::Channel::Right });
+    const auto right = read(text, rightChannel());
     EXPECT_THAT(
         filtersOf(right), ElementsAre(Filter { Shape::Peak, 60, 2, 1 }, Filter { Shape::Peak, 60, 3, 1 }));
 }
