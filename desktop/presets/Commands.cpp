@@ -46,13 +46,11 @@ int show(const Options& options)
     return EXIT_SUCCESS;
 }
 
-struct ImportedFile {
-    std::filesystem::path path;
-    std::vector<ImportedPreset> presets;
-};
-
-void reportFindings(const ImportedFile& file, const ImportedPreset& preset)
+void reportFindings(const ImportedFile& file, ImportedPreset preset)
 {
+    if (preset.outcome == Outcome::NameTaken)
+        preset.findings.refuse(
+            {}, "there is another preset " + inQuotes(preset.name) + "; see --replace and --rename");
     for (auto finding : preset.findings.all()) {
         if (finding.place.empty() && file.presets.size() > 1)
             finding.text = "preset " + inQuotes(preset.name) + ": " + finding.text;
@@ -68,12 +66,15 @@ bool printOutcomes(const ImportedFile& file, const Options& options)
     bool isComplete = true;
     for (const auto& preset : file.presets) {
         reportFindings(file, preset);
-        isComplete = isComplete && preset.outcome != Outcome::Refused;
+        if (!preset.isInStore()) {
+            isComplete = false;
+            continue;
+        }
         if (preset.outcome == Outcome::Stored)
             printLine((options.dryRun ? "Would import " : "Imported ") + resultOf(preset));
-        else if (preset.outcome == Outcome::AlreadyThere)
+        else
             printLine("Already there: " + inQuotes(preset.name));
-        if (options.dryRun && preset.outcome != Outcome::Refused)
+        if (options.dryRun)
             printLine("  " + gainsInLine(preset.conversion.gains));
     }
     return isComplete;
@@ -83,11 +84,10 @@ int import(const Options& options)
 {
     std::vector<ImportedFile> files;
     for (const auto& path : options.arguments)
-        files.push_back({ path, readFile(path, options) });
+        files.push_back(readFile(path, options.importing));
     // Read after the files, so that little time passes until it is written.
     PresetStore presets;
-    for (auto& file : files)
-        store(file.presets, presets, options.collision);
+    store(files, presets, options.collision);
     if (!options.dryRun)
         presets.save();
     bool isComplete = true;
@@ -103,7 +103,7 @@ int exportPresets(const Options& options)
     for (const auto& name : options.arguments)
         presets.push_back({ name, store.gainsOf(name) });
     Findings findings;
-    const auto contents = exported(presets, options.format.value_or(Format::BrimsoundJson), findings);
+    const auto contents = exported(presets, options.format, findings);
     if (options.output)
         writePresetFile(*options.output, contents, options.force ? Existing::Replaced : Existing::Kept);
     else

@@ -28,7 +28,7 @@ std::string whyUnreadable(const fs::path& path)
     return "it cannot be read";
 }
 
-ForeignPresets presetsOf(const fs::path& path, const Options& options)
+ForeignPresets presetsOf(const fs::path& path, const ImportOptions& options)
 {
     const auto bytes = desktop::readRegularFile(path, largestFile);
     if (!bytes)
@@ -49,14 +49,14 @@ std::string nameOf(const fs::path& path)
     return name;
 }
 
-std::string chooseName(const ForeignPreset& preset, const fs::path& path, const Options& options)
+std::string chooseName(const ForeignPreset& preset, const fs::path& path, const ImportOptions& options)
 {
     if (options.name)
         return *options.name;
     return preset.name.empty() ? nameOf(path) : preset.name;
 }
 
-ImportedPreset convertPreset(ForeignPreset preset, const fs::path& path, const Options& options)
+ImportedPreset convertPreset(ForeignPreset preset, const fs::path& path, const ImportOptions& options)
 {
     ImportedPreset imported;
     imported.name = chooseName(preset, path, options);
@@ -80,39 +80,42 @@ std::string unusedName(const std::string& name, const PresetStore& store)
     }
 }
 
+void store(ImportedPreset& preset, PresetStore& store, Collision collision)
+{
+    const auto& gains = preset.conversion.gains;
+    if (preset.findings.haveErrors()) {
+        preset.outcome = Outcome::Refused;
+    } else if (store.contains(preset.name, gains)) {
+        preset.outcome = Outcome::AlreadyThere;
+    } else if (store.contains(preset.name) && collision == Collision::Refuse) {
+        preset.outcome = Outcome::NameTaken;
+    } else {
+        if (store.contains(preset.name) && collision == Collision::Rename)
+            preset.name = unusedName(preset.name, store);
+        store.set(preset.name, gains);
+        preset.outcome = Outcome::Stored;
+    }
+}
+
 } // namespace
 
-std::vector<ImportedPreset> readFile(const fs::path& path, const Options& options)
+ImportedFile readFile(const fs::path& path, const ImportOptions& options)
 {
     auto presets = presetsOf(path, options);
     if (presets.size() > 1 && options.name)
         presets = refusedFile(
             {}, "there are " + std::to_string(presets.size()) + " presets in it, so --name cannot be used");
-    std::vector<ImportedPreset> imported;
+    ImportedFile file { path, {} };
     for (auto& preset : presets)
-        imported.push_back(convertPreset(std::move(preset), path, options));
-    return imported;
+        file.presets.push_back(convertPreset(std::move(preset), path, options));
+    return file;
 }
 
-void store(std::vector<ImportedPreset>& presets, PresetStore& store, Collision collision)
+void store(std::vector<ImportedFile>& files, PresetStore& presets, Collision collision)
 {
-    for (auto& preset : presets) {
-        if (preset.findings.haveErrors())
-            continue;
-        const auto& gains = preset.conversion.gains;
-        if (store.contains(preset.name, gains)) {
-            preset.outcome = Outcome::AlreadyThere;
-            continue;
-        }
-        if (store.contains(preset.name) && collision == Collision::Refuse) {
-            preset.findings.refuse(
-                {}, "there is another preset " + inQuotes(preset.name) + "; see --replace and --rename");
-            continue;
-        }
-        if (store.contains(preset.name) && collision == Collision::Rename)
-            preset.name = unusedName(preset.name, store);
-        store.set(preset.name, gains);
-        preset.outcome = Outcome::Stored;
+    for (auto& file : files) {
+        for (auto& preset : file.presets)
+            store(preset, presets, collision);
     }
 }
 

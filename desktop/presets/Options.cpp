@@ -48,7 +48,7 @@ Export writes to standard output.
 
   --format FORMAT    json, the default, or eqf: any number of presets
                      apo, graphiceq or easyeffects: one preset
-  -o FILE            write a file instead
+  -o, --output FILE  write a file instead
   --force            replace an existing FILE
 )text";
 
@@ -130,6 +130,7 @@ void apply(int letter, const char* value, Options& options)
         break;
     case 'f':
         options.format = readFormat(value);
+        options.importing.format = options.format;
         break;
     case 'o':
         options.output = value;
@@ -138,7 +139,7 @@ void apply(int letter, const char* value, Options& options)
         options.force = true;
         break;
     case 'n':
-        options.name = value;
+        options.importing.name = value;
         break;
     case 'R':
     case 'E':
@@ -147,24 +148,24 @@ void apply(int letter, const char* value, Options& options)
         options.collision = letter == 'R' ? Collision::Replace : Collision::Rename;
         break;
     case 's':
-        options.strict = true;
+        options.importing.strict = true;
         break;
     case 'd':
         options.dryRun = true;
         break;
     case 'F':
-        options.copying = Copying::Forbidden;
+        options.importing.copying = Copying::Forbidden;
         break;
     case 'b':
         if (std::string_view(value) != "iso")
             throw UsageError("--bands takes iso, not " + inQuotationMarks(value));
-        options.reading.bandsAreOctaves = true;
+        options.importing.reading.bandsAreOctaves = true;
         break;
     case 'c':
-        options.reading.channel = readChannel(value);
+        options.importing.reading.channel = readChannel(value);
         break;
     case 'D':
-        options.reading.device = value;
+        options.importing.reading.device = value;
         break;
     default:
         break;
@@ -185,16 +186,15 @@ void check(const CommandInfo& command, std::string_view letters, const Options& 
         throw UsageError(std::string(command.name) + " needs " + std::string(command.argument));
     if (count > command.mostArguments)
         throw UsageError("unexpected argument " + inQuotationMarks(options.arguments[command.mostArguments]));
-    if (options.name && count > 1)
+    if (options.importing.name && count > 1)
         throw UsageError("--name is for one FILE");
     if (options.force && !options.output)
         throw UsageError("--force is for -o");
     if (options.command != Command::Export)
         return;
-    const auto format = options.format.value_or(Format::BrimsoundJson);
-    if (!canExport(format))
+    if (!canExport(options.format))
         throw UsageError("this format is only read");
-    if (count > 1 && !holdsSeveral(format))
+    if (count > 1 && !holdsSeveral(options.format))
         throw UsageError("this format holds one preset; json and eqf hold several");
 }
 

@@ -1,8 +1,7 @@
 // The options of brimsound-presets.
 #pragma once
 
-#include "presets/Conversion.h"
-#include "presets/Reading.h"
+#include "desktop/presets/Import.h"
 
 #include <filesystem>
 #include <optional>
@@ -20,9 +19,6 @@ public:
 
 enum class Command { List, Show, Import, Export, Rename, Delete };
 
-/// What to do with an imported preset whose name is taken.
-enum class Collision { Refuse, Replace, Rename };
-
 struct Options {
     Command command = Command::List;
     /// Names or files, in the number that the command takes.
@@ -32,20 +28,14 @@ struct Options {
     /// list, show
     bool json = false;
 
-    /// export, import
-    std::optional<Format> format;
-
-    /// export: where to write instead of standard output, and whether over an existing file.
+    /// export: what to write, where instead of standard output, and whether over an existing file.
+    Format format = Format::BrimsoundJson;
     std::optional<std::filesystem::path> output;
     bool force = false;
 
     /// import
-    ReadingOptions reading;
-    Copying copying = Copying::Allowed;
-    std::optional<std::string> name;
+    ImportOptions importing;
     Collision collision = Collision::Refuse;
-    /// Whether a warning keeps a preset from being imported.
-    bool strict = false;
     bool dryRun = false;
 };
 
