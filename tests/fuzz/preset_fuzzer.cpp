@@ -1,4 +1,4 @@
-// One fuzzer for each format, and one that recognizes and converts: FORMAT is empty there.
+// One fuzzer for each format, and one that recognizes and converts: there, FORMAT is "any".
 #include "tests/fuzz/PresetFile.h"
 
 #include <cstddef>
