@@ -1,6 +1,7 @@
 #include "desktop/brimsound/Options.h"
 
 #include <QCommandLineParser>
+#include <QFile>
 
 #include <cstdio>
 #include <cstdlib>
@@ -44,6 +45,7 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption snapshot("snapshot", "Write a picture of the pane at the end.", "FILE.png");
     const QCommandLineOption scale("scale", "Draw N device pixels per point.", "N");
     parser.addOptions({ root, headless, script, live, snapshot, scale });
+    parser.addPositionalArgument("FILE", "Import presets of this or another equalizer.", "[FILE ...]");
 
     if (!parser.parse(arguments))
         throw UsageError(parser.errorText().toStdString());
@@ -51,8 +53,6 @@ Options readOptions(const QStringList& arguments)
         printAndExit(parser.helpText());
     if (parser.isSet(version))
         printAndExit("brimsound " BRIMSOUND_VERSION "\n");
-    if (const auto stray = parser.positionalArguments(); !stray.isEmpty())
-        throw UsageError("unexpected argument \"" + stray.front().toStdString() + "\"");
     for (const auto* option : { &root, &script, &snapshot }) {
         if (parser.isSet(*option) && parser.value(*option).isEmpty())
             throw UsageError("--" + option->names().front().toStdString() + " needs a path");
@@ -66,6 +66,8 @@ Options readOptions(const QStringList& arguments)
     options.snapshot = parser.value(snapshot);
     if (parser.isSet(scale))
         options.scale = readScale(parser.value(scale));
+    for (const auto& file : parser.positionalArguments())
+        options.files.emplace_back(QFile::encodeName(file).toStdString());
     return options;
 }
 

@@ -4,9 +4,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace brimsound::desktop {
 
@@ -22,6 +24,8 @@ struct Options {
     QString snapshot;
     /// Device pixels per point; nothing for the screen's own scale, or 2 without a screen.
     std::optional<double> scale;
+    /// Preset files to import.
+    std::vector<std::filesystem::path> files;
 };
 
 /// An invalid command line; `what` is the line to print.

@@ -4,6 +4,7 @@
 #include "desktop/brimsound/Options.h"
 #include "desktop/brimsound/OwnBus.h"
 #include "desktop/brimsound/PaneHost.h"
+#include "desktop/brimsound/PresetImport.h"
 #include "desktop/brimsound/ScriptRunner.h"
 #include "desktop/brimsound/WindowSize.h"
 #include "platform/desktop/Foundation/DeviceRoot.h"
@@ -127,6 +128,7 @@ int run(int argc, char** argv, const Options& options)
         widget = std::make_unique<PaneWidget>(host.window());
         widget->setWindowTitle(QGuiApplication::applicationDisplayName());
         widget->setMinimumSize(smallestSize);
+        widget->onFilesDropped = [&host](const auto& files) { importPresets(host, files); };
         if (const auto size = storedWindowSize(); size && options.script.isEmpty())
             widget->resize(size->boundedTo(widget->screen()->availableSize()));
         widget->show();
@@ -139,6 +141,9 @@ int run(int argc, char** argv, const Options& options)
         else
             host.window().setFrame({ {}, size });
     };
+
+    if (!options.files.empty())
+        importPresets(host, options.files);
 
     int status = 0;
     if (!options.script.isEmpty()) {

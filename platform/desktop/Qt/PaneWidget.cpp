@@ -3,13 +3,16 @@
 #include "platform/desktop/Qt/QtCanvas.h"
 #include "platform/desktop/UIKit/Screen.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QTouchEvent>
+#include <QUrl>
 #include <QWheelEvent>
 
 #include <optional>
@@ -83,6 +86,23 @@ bool isText(const QString& text)
     return !text.isEmpty() && text.front().isPrint();
 }
 
+std::vector<std::filesystem::path> filesIn(const QMimeData& data)
+{
+    std::vector<std::filesystem::path> files;
+    for (const auto& url : data.urls()) {
+        if (url.isLocalFile())
+            files.emplace_back(QFile::encodeName(url.toLocalFile()).toStdString());
+    }
+    return files;
+}
+
+/// Not as a move, which file managers propose: they would then delete the file.
+void acceptAsCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 } // namespace
 
 PaneWidget::PaneWidget(toolkit::Window& window)
@@ -90,6 +110,7 @@ PaneWidget::PaneWidget(toolkit::Window& window)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     const auto size = window.bounds().size;
     resize(QSizeF(size.width, size.height).toSize());
@@ -227,6 +248,18 @@ void PaneWidget::keyReleaseEvent(QKeyEvent* event)
     const auto key = keyOf(*event);
     if (key && !event->isAutoRepeat())
         _window.keyReleased(*key);
+}
+
+void PaneWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (onFilesDropped && !filesIn(*event->mimeData()).empty())
+        acceptAsCopy(*event);
+}
+
+void PaneWidget::dropEvent(QDropEvent* event)
+{
+    acceptAsCopy(*event);
+    onFilesDropped(filesIn(*event->mimeData()));
 }
 
 void PaneWidget::focusInEvent(QFocusEvent* event)

@@ -7,7 +7,10 @@
 #include <QTouchEvent>
 #include <QWidget>
 
+#include <filesystem>
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace brimsound::desktop {
 
@@ -20,6 +23,10 @@ public:
 
     Accessibility& accessibility() { return _accessibility; }
 
+    /// Set by the program: called with the local files that are dropped onto the widget. Without it, no files
+    /// can be dropped.
+    std::function<void(const std::vector<std::filesystem::path>&)> onFilesDropped;
+
 protected:
     bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
@@ -31,6 +38,8 @@ protected:
     void wheelEvent(QWheelEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void keyReleaseEvent(QKeyEvent*) override;
+    void dragEnterEvent(QDragEnterEvent*) override;
+    void dropEvent(QDropEvent*) override;
     void focusInEvent(QFocusEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
     bool focusNextPrevChild(bool next) override;

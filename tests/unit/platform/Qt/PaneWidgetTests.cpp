@@ -13,8 +13,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPointingDevice>
+#include <QUrl>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 
@@ -478,6 +480,60 @@ TEST_F(AFieldInAPaneWidget, DrawsItselfWhileItMoves)
     toolkit::Clock::shared().advance(0.1);
     editor()->hide();
     EXPECT_EQ(darkPixelsIn(widget.grab().toImage(), place), 0);
+}
+
+/// A drag that proposes to move what the data names.
+class ADrag : public APaneWidget {
+protected:
+    /// The action that the widget takes; Qt::IgnoreAction when nothing can be dropped.
+    Qt::DropAction enter()
+    {
+        QDragEnterEvent event(inside, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&widget, &event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+
+    Qt::DropAction drop()
+    {
+        QDropEvent event(inside, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&widget, &event);
+        return event.dropAction();
+    }
+
+    void acceptFiles()
+    {
+        widget.onFilesDropped = [this](const auto& files) { dropped = files; };
+    }
+
+    static constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QMimeData data;
+    std::vector<std::filesystem::path> dropped;
+};
+
+TEST_F(ADrag, HandsTheLocalFilesOnAndCopiesThem)
+{
+    acceptFiles();
+    data.setUrls({ QUrl::fromLocalFile("/tmp/a b.txt"), QUrl("https://example.com/c.txt"),
+        QUrl::fromLocalFile("/tmp/\xc3\xa9.eqf") });
+    EXPECT_EQ(enter(), Qt::CopyAction);
+    EXPECT_EQ(drop(), Qt::CopyAction);
+    EXPECT_THAT(dropped, ElementsAre("/tmp/a b.txt", "/tmp/\xc3\xa9.eqf"));
+}
+
+TEST_F(ADrag, IsRefusedWithoutALocalFile)
+{
+    acceptFiles();
+    data.setUrls({ QUrl("https://example.com/c.txt") });
+    EXPECT_EQ(enter(), Qt::IgnoreAction);
+    data.setUrls({});
+    data.setText("/tmp/a.txt");
+    EXPECT_EQ(enter(), Qt::IgnoreAction);
+}
+
+TEST_F(ADrag, IsRefusedWhenNothingTakesFiles)
+{
+    data.setUrls({ QUrl::fromLocalFile("/tmp/a.txt") });
+    EXPECT_EQ(enter(), Qt::IgnoreAction);
 }
 
 TEST(AWheelOverAPaneWidget, ScrollsSixtyPointsANotchAndPixelForPixelOnATouchpad)

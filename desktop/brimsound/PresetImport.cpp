@@ -1,0 +1,140 @@
+#include "desktop/brimsound/PresetImport.h"
+
+#include "desktop/presets/Import.h"
+#include "desktop/presets/PresetStore.h"
+#include "platform/desktop/effects/Effects.h"
+#include "presets/Text.h"
+#include "toolkit/alert/Alert.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace brimsound::desktop {
+
+namespace {
+
+using presets::Collision;
+using presets::ImportedFile;
+using presets::inQuotes;
+
+using Outcome = presets::ImportedPreset::Outcome;
+using Files = std::vector<ImportedFile>;
+using Names = std::vector<std::string>;
+
+/// What fits into a small window.
+constexpr std::size_t mostLines = 8;
+
+void showAlert(PaneHost& host, const std::string& message, const std::vector<std::string>& buttons,
+    std::function<void(std::size_t)> onAnswer = {})
+{
+    const auto alert = toolkit::make<toolkit::Alert>("", message, buttons);
+    auto& shown = *alert;
+    alert->onShown = [&shown] { effects().alertShown(shown.message(), shown.buttonTitles()); };
+    alert->onAnswer = std::move(onAnswer);
+    host.window().alerts().add(*alert);
+}
+
+/// The first lines, and how many more there are.
+std::string shortened(const std::vector<std::string>& lines)
+{
+    std::string text;
+    for (std::size_t i = 0; i < std::min(lines.size(), mostLines); ++i)
+        text += (i > 0 ? "\n" : "") + lines[i];
+    if (lines.size() > mostLines)
+        text += "\nand " + std::to_string(lines.size() - mostLines) + " more";
+    return text;
+}
+
+template <typename Predicate> Names namesOf(const Files& files, Predicate isWanted)
+{
+    Names names;
+    for (const auto& file : files) {
+        for (const auto& preset : file.presets) {
+            if (isWanted(preset))
+                names.push_back(preset.name);
+        }
+    }
+    return names;
+}
+
+/// Warnings and errors. Notes are about what is left out of every file.
+std::vector<std::string> problemsOf(const Files& files)
+{
+    std::vector<std::string> problems;
+    for (const auto& file : files) {
+        for (const auto& preset : file.presets) {
+            for (const auto& finding : preset.findings.all()) {
+                if (finding.severity != presets::Severity::Note)
+                    problems.push_back(lineFor(finding, file.path.filename()));
+            }
+        }
+    }
+    return problems;
+}
+
+/// Does what a tap on the preset's row does.
+void choose(BrimsoundSettingsListController& pane, const std::string& name)
+{
+    pane.showPresets();
+    auto& panel = *pane.saver();
+    const auto& presets = panel.presetDict();
+    const auto row = std::ranges::find(presets, name, &PropertyListDictionary::Entry::key) - presets.begin();
+    panel.tableViewDidSelectRowAtIndexPath(*panel.tableView(), { 1, static_cast<std::size_t>(row) });
+}
+
+void import(PaneHost&, Files, Collision);
+
+void askAboutNames(PaneHost& host, Files files, const Names& taken)
+{
+    Names quoted;
+    std::ranges::transform(taken, std::back_inserter(quoted), inQuotes);
+    const auto answered = [&host, files = std::move(files)](std::size_t button) {
+        if (button > 0)
+            import(host, files, button == 1 ? Collision::Replace : Collision::Rename);
+    };
+    showAlert(host, "There are other presets with these names:\n" + shortened(quoted),
+        { "Cancel", "Replace", "Keep Both" }, answered);
+}
+
+/// Throws std::runtime_error when the preferences cannot be read or written.
+void storeAndChoose(PaneHost& host, Files files, Collision collision)
+{
+    presets::PresetStore store;
+    presets::store(files, store, collision);
+    const auto taken
+        = namesOf(files, [](const auto& preset) { return preset.outcome == Outcome::NameTaken; });
+    if (!taken.empty()) {
+        askAboutNames(host, std::move(files), taken);
+        return;
+    }
+    store.save();
+
+    const auto names = namesOf(files, [](const auto& preset) { return preset.isInStore(); });
+    if (auto* pane = host.controller(); pane && names.size() == 1)
+        choose(*pane, names.front());
+    else if (pane && !names.empty())
+        pane->showPresets();
+    if (const auto problems = problemsOf(files); !problems.empty())
+        showAlert(host, shortened(problems), { "OK" });
+}
+
+void import(PaneHost& host, Files files, Collision collision)
+{
+    try {
+        storeAndChoose(host, std::move(files), collision);
+    } catch (const std::runtime_error& error) {
+        showAlert(host, error.what(), { "OK" });
+    }
+}
+
+} // namespace
+
+void importPresets(PaneHost& host, const std::vector<std::filesystem::path>& paths)
+{
+    Files files;
+    for (const auto& path : paths)
+        files.push_back(presets::readFile(path, {}));
+    import(host, std::move(files), Collision::Refuse);
+}
+
+} // namespace brimsound::desktop

@@ -1,0 +1,174 @@
+// Preset files that are named on the command line.
+#include "tests/end_to_end/brimsound/Program.h"
+#include "tests/support/TestBus.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace brimsound::tests {
+namespace {
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+constexpr auto preferencesPath = "/var/mobile/Library/Preferences/com.quorvix.brimsound.plist";
+constexpr auto ten = "1 2 3 4 5 -1 -2 -3 -4 -5";
+/// The preamp follows the highest band.
+const Json tenSliders = { -5, 1, 2, 3, 4, 5, -1, -2, -3, -4, -5 };
+
+class AnImportIntoThePane : public testing::Test {
+protected:
+    std::filesystem::path write(const std::string& name, std::string_view text)
+    {
+        writeFile(folder.path() / name, text);
+        return folder.path() / name;
+    }
+
+    /// Runs the script after the files were imported.
+    tests::Run import(const std::vector<std::filesystem::path>& files, const std::string& script)
+    {
+        const auto path = write("script", script);
+        std::vector<std::string> arguments { "--headless", "--root", root.path(), "--script", path };
+        arguments.insert(arguments.end(), files.begin(), files.end());
+        auto run = runProgram(arguments);
+        EXPECT_EQ(run.status, 0) << run.errors;
+        return run;
+    }
+
+    Json stateAfter(const std::vector<std::filesystem::path>& files, const std::string& script = "wait 1")
+    {
+        return import(files, script + "\nstate\n").all("state").back();
+    }
+
+    TemporaryRoot root;
+    TemporaryFolder folder;
+    TestBus bus;
+};
+
+TEST_F(AnImportIntoThePane, PlaysThePresetBandByBandAndThenRecordsIt)
+{
+    const auto run = import({ write("Mine.txt", ten) }, "wait 1\npress \"Presets\"\nstate\n");
+    EXPECT_THAT(run.all("message"), SizeIs(10));
+    EXPECT_EQ(run.all("message").back().at("vals"), tenSliders);
+    const auto state = run.all("state").back();
+    EXPECT_EQ(state.at("sliders"), tenSliders);
+    EXPECT_EQ(state.at("selected"), "Mine");
+    EXPECT_THAT(state.at("rows"), AllOf(SizeIs(17), Contains("Mine")));
+    EXPECT_EQ(state.at("notificationsToSkip"), 0);
+    EXPECT_THAT(run.all("alert"), IsEmpty());
+}
+
+TEST_F(AnImportIntoThePane, LeavesThePanelClosed)
+{
+    EXPECT_EQ(stateAfter({ write("Mine.txt", ten) }).at("panel"), "hidden");
+}
+
+TEST_F(AnImportIntoThePane, ShowsTheListOfSeveralPresetsAndChoosesNone)
+{
+    const auto state = stateAfter({ write("One.txt", ten), write("Two.txt", "1 1 1 1 1 1 1 1 1 1") });
+    EXPECT_EQ(state.at("panel"), "list");
+    EXPECT_THAT(state.at("rows"), AllOf(Contains("One"), Contains("Two")));
+    EXPECT_EQ(state.at("sliders"), Json(std::vector<int>(11)));
+    EXPECT_EQ(state.at("selected"), nullptr);
+}
+
+TEST_F(AnImportIntoThePane, ChoosesAPresetThatIsThereAlready)
+{
+    const auto file = write("Mine.txt", ten);
+    import({ file }, "wait 1\npress \"Presets\"\nrow \"Rock\"\nwait 1\n");
+    const auto run = import({ file }, "wait 1\nstate\n");
+    EXPECT_EQ(run.all("state").back().at("sliders"), tenSliders);
+    EXPECT_THAT(run.all("alert"), IsEmpty());
+}
+
+TEST_F(AnImportIntoThePane, AsksBeforeItReplacesAPreset)
+{
+    const auto run = import({ write("Rock.txt", ten) }, "wait 1\nstate\nalert \"Replace\"\nwait 1\nstate\n");
+    ASSERT_THAT(run.all("alert"), SizeIs(1));
+    EXPECT_THAT(run.all("alert")[0].at("message"), HasSubstr("\"Rock\""));
+    EXPECT_THAT(run.all("alert")[0].at("buttons"), ElementsAre("Cancel", "Replace", "Keep Both"));
+    EXPECT_EQ(run.all("state")[0].at("sliders"), Json(std::vector<int>(11)));
+    EXPECT_EQ(run.all("state")[1].at("sliders"), tenSliders);
+    EXPECT_EQ(run.all("state")[1].at("selected"), "Rock");
+    EXPECT_THAT(run.all("state")[1].at("rows"), SizeIs(16));
+}
+
+TEST_F(AnImportIntoThePane, KeepsBothPresetsOfOneName)
+{
+    const auto state = stateAfter({ write("Rock.txt", ten) }, "alert \"Keep Both\"\nwait 1");
+    EXPECT_EQ(state.at("sliders"), tenSliders);
+    EXPECT_EQ(state.at("selected"), "Rock (2)");
+    EXPECT_THAT(state.at("rows"), AllOf(SizeIs(17), Contains("Rock"), Contains("Rock (2)")));
+}
+
+TEST_F(AnImportIntoThePane, ChangesNothingWhenItIsCanceled)
+{
+    const auto run = import({ write("Rock.txt", ten), write("Mine.txt", ten) }, "alert \"Cancel\"\nwait 1\n");
+    EXPECT_THAT(run.all("write"), IsEmpty());
+    EXPECT_THAT(run.all("message"), IsEmpty());
+    EXPECT_FALSE(root.contains(preferencesPath));
+}
+
+TEST_F(AnImportIntoThePane, ShowsAllWarningsInOneAlert)
+{
+    const auto run = import({ write("Loud.txt", "20 0 0 0 0 0 0 0 0 0"), write("bad.txt", "1 2 3"),
+                                folder.path() / "missing.txt" },
+        "alert \"OK\"\nwait 1\nstate\n");
+    ASSERT_THAT(run.all("alert"), SizeIs(1));
+    const std::string message = run.all("alert")[0].at("message");
+    EXPECT_THAT(message, HasSubstr("Loud.txt: warning: the gain of 20 dB at 60 Hz is limited to 12 dB\n"));
+    EXPECT_THAT(message, HasSubstr("bad.txt: error: these are not ten numbers"));
+    EXPECT_THAT(message, HasSubstr("missing.txt: error: there is no such file"));
+    EXPECT_THAT(run.all("alert")[0].at("buttons"), ElementsAre("OK"));
+    EXPECT_EQ(run.all("state").back().at("sliders")[1], 12);
+}
+
+TEST_F(AnImportIntoThePane, DoesNotMentionThePreamp)
+{
+    const auto file = write("Bell.txt", "Preamp: -6.0 dB\nFilter 1: ON PK Fc 1000 Hz Gain 6.0 dB Q 0.70\n");
+    EXPECT_THAT(import({ file }, "wait 1\n").all("alert"), IsEmpty());
+}
+
+TEST_F(AnImportIntoThePane, NamesTheFirstWarningsAndCountsTheOthers)
+{
+    std::string lines = "Filter 1: ON PK Fc 1000 Hz Gain 6.0 dB Q 0.70\n";
+    for (int i = 0; i < 20; ++i)
+        lines += "Filter 2: ON XY\n";
+    const auto run = import({ write("Many.txt", lines) }, "alert \"OK\"\n");
+    const std::string message = run.all("alert")[0].at("message");
+    EXPECT_THAT(message, HasSubstr("Many.txt:9: warning: unknown filter type \"XY\""));
+    EXPECT_THAT(message, Not(HasSubstr("Many.txt:10:")));
+    EXPECT_THAT(message, HasSubstr("\nand 12 more"));
+}
+
+TEST_F(AnImportIntoThePane, KeepsADamagedPreferencesFile)
+{
+    root.write(preferencesPath, "damaged");
+    const auto run = import({ write("Mine.txt", ten) }, "alert \"OK\"\n");
+    EXPECT_THAT(std::string(run.all("alert")[0].at("message")), HasSubstr("cannot be read"));
+    EXPECT_EQ(root.read(preferencesPath), "damaged");
+}
+
+TEST_F(AnImportIntoThePane, ComesFromTheCommandLineProgramToo)
+{
+    RunningProgram pane(root.path(), { "--headless" });
+    EXPECT_EQ(pane.state().at("sliders")[1], 0);
+    root.write(preferencesPath,
+        "<plist><dict><key>PEAKING_EQ_VALUES</key><array><real>7</real></array></dict></plist>");
+    desktop::ChildProcess program(
+        { BRIMSOUND_PRESETS, "--root", root.path(), "import", write("Mine.txt", ten) });
+    EXPECT_EQ(program.exitStatus(std::chrono::seconds(20)), 0);
+    pane.say("wait 0.1");
+    EXPECT_EQ(pane.next("delivered").at("name"), "com.quorvix.brimsound.settingsfinishnotify");
+    EXPECT_EQ(pane.state().at("sliders")[1], 7);
+    pane.say("press \"Presets\"");
+    EXPECT_THAT(pane.state().at("rows"), Contains("Mine"));
+}
+
+} // namespace
+} // namespace brimsound::tests
