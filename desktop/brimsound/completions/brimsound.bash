@@ -17,6 +17,10 @@ _brimsound()
             mapfile -t COMPREPLY < <(compgen -W '1 2 3' -- "$cur")
             ;;
         *)
+            if [[ $cur != -* ]]; then
+                _filedir
+                return
+            fi
             mapfile -t COMPREPLY < <(compgen -W '--root --headless --script --live --snapshot --scale
                 --help --version' -- "$cur")
             ;;

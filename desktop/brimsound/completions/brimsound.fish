@@ -1,4 +1,3 @@
-complete -c brimsound -f
 complete -c brimsound -l root -x -a '(__fish_complete_directories)' -d 'Keep the settings in this folder'
 complete -c brimsound -l headless -d 'Open no window'
 complete -c brimsound -l script -r -F -d 'Run this gesture script'

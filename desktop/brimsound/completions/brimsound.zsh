@@ -7,4 +7,5 @@ _arguments \
     '--snapshot[write a picture at the end]:picture:_files -g "*.png"' \
     '--scale[pixels per point]:scale:(1 2 3)' \
     '(- *)'{-h,--help}'[show the options]' \
-    '(- *)'{-v,--version}'[show the version]'
+    '(- *)'{-v,--version}'[show the version]' \
+    '*:preset file:_files'

@@ -73,7 +73,8 @@ class TheDeb(unittest.TestCase):
 
     def test_depends_on_the_libraries_and_the_programs_it_runs(self):
         dependencies = self.packages("Depends")
-        programs = ("usr/bin/brimsound", "usr/bin/brimsound-render", "usr/libexec/brimsound/mediaserverd")
+        programs = [path.relative_to(self.root) for path in self.root.glob("usr/bin/*")]
+        programs.append("usr/libexec/brimsound/mediaserverd")
         libraries = set()
         for program in programs:
             text = output("objdump", "--private-headers", self.root / program)

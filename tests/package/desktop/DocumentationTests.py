@@ -15,7 +15,7 @@ import unittest
 
 from Installation import SOURCE, Installation, output
 
-COMPLETED = ("brimsound", "brimsound-render")
+COMPLETED = ("brimsound", "brimsound-presets", "brimsound-render")
 # The state of bash when the user presses Tab at the end of a command line, whose words are the arguments.
 BASH = """
 source /usr/share/bash-completion/bash_completion
@@ -65,7 +65,7 @@ class AManualPage(Documentation):
 
     def test_is_there_for_every_program(self):
         programs = {path.name for path in (*self.prefix.glob("bin/*"), *self.prefix.glob("libexec/brimsound/*"))}
-        self.assertEqual(len(programs), 3)
+        self.assertEqual(len(programs), 4)
         self.assertLessEqual(programs, {page.stem for page in self.pages()})
 
     def test_causes_no_warning(self):
@@ -137,19 +137,20 @@ class Completion(Documentation):
     def test_offers_presets(self):
         expected = {"Full bass", "Full bass/treble", "Full treble"}
         words = {name.replace(" ", "\\ ") for name in expected}
-        self.assertEqual(self.in_bash("brimsound-render", "--preset", "Full"), words)
-        self.assertEqual(self.in_bash("brimsound-render", "--preset", "Full\\ b"), words - {"Full\\ treble"})
-        self.assertEqual(self.in_bash("brimsound-render", "--preset", '"Full'), expected)
-        self.assertEqual(self.in_fish("brimsound-render --preset Full"), expected)
-        shown = self.in_zsh("brimsound-render --preset Full", words)
-        for word in words:
-            self.assertIn(word, shown)
+        for command in ("brimsound-render --preset", "brimsound-presets show"):
+            self.assertEqual(self.in_bash(*command.split(), "Full"), words)
+            self.assertEqual(self.in_bash(*command.split(), "Full\\ b"), words - {"Full\\ treble"})
+            self.assertEqual(self.in_bash(*command.split(), '"Full'), expected)
+            self.assertEqual(self.in_fish(f"{command} Full"), expected)
+            shown = self.in_zsh(f"{command} Full", words)
+            for word in words:
+                self.assertIn(word, shown)
 
     def test_offers_files(self):
         folder = self.installation.folder / "sounds"
         folder.mkdir()
         (folder / "song.wav").touch()
-        for program in ("brimsound --script", "brimsound-render"):
+        for program in ("brimsound", "brimsound --script", "brimsound-presets import", "brimsound-render"):
             self.assertEqual(self.in_bash(*program.split(), f"{folder}/so"), {f"{folder}/song.wav"})
             self.assertEqual(self.in_fish(f"{program} {folder}/so"), {f"{folder}/song.wav"})
             self.assertIn("song.wav", self.in_zsh(f"{program} {folder}/so", ["song.wav"]))

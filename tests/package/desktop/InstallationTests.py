@@ -40,10 +40,11 @@ class Installed(unittest.TestCase):
 
 class TheFiles(Installed):
     def test_are_these(self):
-        expected = {"bin/brimsound", "bin/brimsound-render", "libexec/brimsound/mediaserverd"}
-        expected |= {f"share/man/man{page[-1]}/{page}" for page in ("brimsound.1", "brimsound-render.1")}
+        programs = ("brimsound", "brimsound-presets", "brimsound-render")
+        expected = {f"bin/{program}" for program in programs} | {"libexec/brimsound/mediaserverd"}
+        expected |= {f"share/man/man1/{program}.1" for program in programs}
         expected |= {"share/man/man5/brimsound-script.5", "share/man/man8/mediaserverd.8"}
-        for program in ("brimsound", "brimsound-render"):
+        for program in programs:
             expected |= {
                 f"share/bash-completion/completions/{program}",
                 f"share/fish/vendor_completions.d/{program}.fish",
@@ -54,6 +55,7 @@ class TheFiles(Installed):
             f"share/icons/hicolor/scalable/apps/{NAME}.svg",
             f"share/applications/{NAME}.desktop",
             f"share/metainfo/{NAME}.metainfo.xml",
+            f"share/mime/packages/{NAME}.xml",
             f"share/dbus-1/services/{NAME}.service",
             "share/systemd/user/brimsound.service",
         }
@@ -174,7 +176,9 @@ class TheMenuEntry(Installed):
         self.assertEqual(output("desktop-file-validate", self.prefix / f"share/applications/{NAME}.desktop"), "")
 
     def test_names_the_installed_program_and_icon(self):
-        self.assertTrue((self.prefix / "bin" / self.entry["Exec"]).exists())
+        program, files = self.entry["Exec"].split()
+        self.assertTrue((self.prefix / "bin" / program).exists())
+        self.assertEqual(files, "%F")
         self.assertEqual(self.entry["Icon"], NAME)
 
 
