@@ -62,10 +62,12 @@ std::vector<double> graphicEqFrequencies()
     constexpr double ratio = 1.0563;
     constexpr double last = 20000;
     std::vector<double> frequencies;
-    for (double frequency = first; frequency < last; frequency *= ratio) {
+    double frequency = first;
+    while (frequency < last) {
         const double whole = std::floor(frequency);
         if (frequencies.empty() || whole != frequencies.back())
             frequencies.push_back(whole);
+        frequency *= ratio;
     }
     return frequencies;
 }

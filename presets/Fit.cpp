@@ -68,16 +68,16 @@ std::vector<double> frequenciesOf(std::span<const TargetPoint> points)
     return frequencies;
 }
 
-/// The minimum of x' matrix x / 2 - right' x for lowest <= x <= highest, by coordinate descent from 0. The
-/// matrix is positive definite.
+/// The minimum of x' matrix x / 2 - right' x for lowest <= x <= highest, by coordinate descent unless the
+/// minimum without these limits is within them. The matrix is positive definite.
 Bands minimize(const BandMatrix& matrix, const Bands& right, const Bands& lowest, const Bands& highest)
 {
     constexpr int mostSweeps = 2000;
     constexpr double precision = 1e-7;
-    const Bands inside = matrix.ldlt().solve(right);
-    if ((inside.array() >= lowest.array()).all() && (inside.array() <= highest.array()).all())
-        return inside;
-    Bands x = inside.cwiseMax(lowest).cwiseMin(highest);
+    Bands x = matrix.ldlt().solve(right);
+    if ((x.array() >= lowest.array()).all() && (x.array() <= highest.array()).all())
+        return x;
+    x = x.cwiseMax(lowest).cwiseMin(highest).eval();
     for (int sweep = 0; sweep < mostSweeps; ++sweep) {
         double change = 0;
         for (Eigen::Index i = 0; i < x.size(); ++i) {
@@ -129,6 +129,7 @@ private:
         // Keeps the matrix positive definite and is too small to move the minimum.
         constexpr double damping = 1e-9;
         constexpr double enough = 1e-5;
+        constexpr double smallestPart = 0.01;
         const BandMatrix toFilters = _slopesAtCenters.inverse();
         const MatrixXd slopes = centered(_slopesAtPoints * toFilters);
         BandMatrix matrix = slopes.transpose() * _weights.asDiagonal() * slopes;
@@ -139,11 +140,13 @@ private:
 
         const Bands before = _filters;
         const double errorBefore = _error;
-        for (double part = 1; part > 0.01; part /= 2) {
+        double part = 1;
+        while (part > smallestPart) {
             _filters = before + part * (toFilters * change);
             evaluate();
             if (_error < errorBefore)
                 return change.cwiseAbs().maxCoeff() > enough;
+            part /= 2;
         }
         _filters = before;
         evaluate();

@@ -209,9 +209,11 @@ std::string utf8From(std::string_view bytes)
 std::string windows1252From(std::string_view utf8, bool& isExact)
 {
     isExact = desktop::isText(utf8);
-    if (!isExact)
-        return std::string(utf8.size(), '?');
     std::string bytes;
+    if (!isExact) {
+        bytes.assign(utf8.size(), '?');
+        return bytes;
+    }
     while (!utf8.empty()) {
         const auto byte = byteInWindows1252(takeCharacter(utf8));
         isExact = isExact && byte != 0;

@@ -74,7 +74,7 @@ ImportedPreset convertPreset(ForeignPreset preset, const fs::path& path, const I
 std::string unusedName(const std::string& name, const PresetStore& store)
 {
     for (int number = 2;; ++number) {
-        const auto numbered = name + " (" + std::to_string(number) + ")";
+        auto numbered = name + " (" + std::to_string(number) + ")";
         if (!store.contains(numbered))
             return numbered;
     }

@@ -82,7 +82,7 @@ public:
         const Node root { &*file, {} };
         const auto chain = root["output"].isObject() ? root["output"] : root["input"];
         if (!chain.isObject())
-            findings().refuse({}, "there is no \"output\" and no \"input\"");
+            findings().refuse({}, R"(there is no "output" and no "input")");
         else
             readChain(chain);
         if (!findings().haveErrors() && !_hasEqualizer)

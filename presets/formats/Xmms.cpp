@@ -123,7 +123,7 @@ ForeignPresets readXmms(std::string_view text, const ReadingOptions& options)
             readSection(section->second, preset, options);
     }
     if (presets.empty())
-        return refusedFile({}, "there is no section \"Equalizer preset\" and no list \"Presets\"");
+        return refusedFile({}, R"(there is no section "Equalizer preset" and no list "Presets")");
     return presets;
 }
 

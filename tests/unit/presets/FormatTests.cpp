@@ -12,7 +12,6 @@
 namespace brimsound::presets {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pointwise;

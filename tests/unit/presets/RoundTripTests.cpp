@@ -23,9 +23,6 @@ using tests::RoundTrip;
 
 namespace {
 
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::SizeIs;
 using testing::StartsWith;
 
