@@ -25,6 +25,10 @@ constexpr std::array<std::pair<std::string_view, Format>, 7> names { {
     { "json", Format::BrimsoundJson },
 } };
 
+constexpr auto readable
+    = "files that can be read: Winamp EQF, Equalizer APO and AutoEq text, GraphicEQ curves, EasyEffects and "
+      "PulseEffects 4 JSON, XMMS and Audacious presets, ten numbers, and brimsound-presets JSON";
+
 constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
 
 ForeignPresets read(std::string_view contents, Format format, const ReadingOptions& options)
@@ -66,8 +70,11 @@ ForeignPresets readPresets(
     if (format)
         return read(contents, *format, options);
     const auto recognition = recognize(contents);
-    if (!recognition.format)
-        return refusedFile({}, recognition.reason);
+    if (!recognition.format) {
+        auto refused = refusedFile({}, recognition.reason);
+        refused.front().findings.note({}, readable);
+        return refused;
+    }
     return read(contents, *recognition.format, options);
 }
 

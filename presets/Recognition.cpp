@@ -14,15 +14,6 @@ namespace brimsound::presets {
 
 namespace {
 
-Recognition unknown(const std::string& what)
-{
-    return { std::nullopt,
-        what
-            + "; files that can be read: Winamp EQF, Equalizer APO and AutoEq text, GraphicEQ curves, "
-              "EasyEffects and"
-              " PulseEffects 4 JSON, XMMS and Audacious presets, ten numbers, and brimsound-presets JSON" };
-}
-
 Recognition recognizeJson(std::string_view text)
 {
     Findings findings;
@@ -37,7 +28,7 @@ Recognition recognizeJson(std::string_view text)
         return { Format::EasyEffects, {} };
     const bool isEqMac
         = file->is_array() && !file->empty() && file->front().is_object() && file->front().contains("gains");
-    return unknown(isEqMac ? "this is a preset file of eqMac" : "this is JSON of an unknown kind");
+    return { std::nullopt, isEqMac ? "this is a preset file of eqMac" : "this is JSON of an unknown kind" };
 }
 
 /// What a line shows by itself.
@@ -76,7 +67,7 @@ std::optional<Recognition> recognizeLine(std::string_view line)
             continue;
         if (mark.start == "Filter" && line.find(':') == std::string_view::npos)
             continue;
-        return mark.format ? Recognition { mark.format, {} } : unknown(std::string(mark.program));
+        return Recognition { mark.format, std::string(mark.program) };
     }
     return std::nullopt;
 }
@@ -97,11 +88,11 @@ Recognition recognize(std::string_view contents)
     if (isEqf(contents))
         return { Format::Eqf, {} };
     if (contents.starts_with("Winamp EQ library file"))
-        return unknown("this is a Winamp equalizer file of another version");
+        return { std::nullopt, "this is a Winamp equalizer file of another version" };
     if (contents.starts_with("\xff\xfe") || contents.starts_with("\xfe\xff"))
         return { std::nullopt, "this text is in UTF-16: save it as UTF-8" };
     if (contents.find('\0') != std::string_view::npos)
-        return unknown("this is a binary file");
+        return { std::nullopt, "this is a binary file" };
     const auto start = contents.find_first_not_of(" \t\r\n");
     if (start == std::string_view::npos)
         return { std::nullopt, "the file is empty" };
@@ -117,7 +108,7 @@ Recognition recognize(std::string_view contents)
     const auto numbers = readTenNumbers(contents);
     if (isNumbers(contents) && !numbers.front().findings.haveErrors())
         return { Format::TenNumbers, {} };
-    return unknown(describe(contents));
+    return { std::nullopt, describe(contents) };
 }
 
 } // namespace brimsound::presets

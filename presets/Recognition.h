@@ -10,7 +10,7 @@ namespace brimsound::presets {
 
 struct Recognition {
     std::optional<Format> format;
-    /// Why there is none: what the file is, as far as that is known, and what can be read.
+    /// Why there is none: what the file is, as far as that is known.
     std::string reason;
 };
 

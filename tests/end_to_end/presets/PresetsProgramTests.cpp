@@ -236,8 +236,9 @@ TEST_F(ThePresetsProgram, ImportsTheOthersWhenOneFileIsBad)
     const auto outcome = run("import b.txt missing.txt a.txt .");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "Imported \"a\", positions copied\n");
-    EXPECT_THAT(
-        outcome.errors, StartsWith("b.txt: error: these are not ten numbers; files that can be read: "));
+    EXPECT_THAT(outcome.errors,
+        StartsWith(
+            "b.txt: error: these are not ten numbers\nb.txt: note: files that can be read: Winamp EQF, "));
     EXPECT_THAT(outcome.errors, HasSubstr("\nmissing.txt: error: there is no such file\n"));
     EXPECT_THAT(outcome.errors, HasSubstr("\n.: error: it is no regular file\n"));
     EXPECT_THAT(names(), Contains("a"));
