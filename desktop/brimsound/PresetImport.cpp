@@ -7,7 +7,9 @@
 #include "toolkit/alert/Alert.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace brimsound::desktop {
 
@@ -22,7 +24,13 @@ using Files = std::vector<ImportedFile>;
 using Names = std::vector<std::string>;
 
 /// What fits into a small window.
-constexpr std::size_t mostLines = 8;
+constexpr std::size_t mostNames = 8;
+constexpr std::size_t mostProblems = 5;
+
+bool isDigit(char letter)
+{
+    return '0' <= letter && letter <= '9';
+}
 
 void showAlert(PaneHost& host, const std::string& message, const std::vector<std::string>& buttons,
     std::function<void(std::size_t)> onAnswer = {})
@@ -34,14 +42,14 @@ void showAlert(PaneHost& host, const std::string& message, const std::vector<std
     host.window().alerts().add(*alert);
 }
 
-/// The first lines, and how many more there are.
-std::string shortened(const std::vector<std::string>& lines)
+/// The first of these texts, and how many more there are.
+std::string joined(const std::vector<std::string>& texts, std::size_t most, const std::string& separator)
 {
     std::string text;
-    for (std::size_t i = 0; i < std::min(lines.size(), mostLines); ++i)
-        text += (i > 0 ? "\n" : "") + lines[i];
-    if (lines.size() > mostLines)
-        text += "\nand " + std::to_string(lines.size() - mostLines) + " more";
+    for (std::size_t i = 0; i < std::min(texts.size(), most); ++i)
+        text += (i > 0 ? separator : "") + texts[i];
+    if (texts.size() > most)
+        text += separator + "and " + std::to_string(texts.size() - most) + " more";
     return text;
 }
 
@@ -57,18 +65,46 @@ template <typename Predicate> Names namesOf(const Files& files, Predicate isWant
     return names;
 }
 
-/// Warnings and errors. Notes are about what is left out of every file.
-std::vector<std::string> problemsOf(const Files& files)
+std::string capitalized(std::string text)
 {
-    std::vector<std::string> problems;
+    if ('a' <= text.front() && text.front() <= 'z')
+        text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text;
+}
+
+/// A finding without the file's name. `owner` is the preset in a file of several.
+std::string textOf(const presets::Finding& finding, const std::string& owner)
+{
+    const bool isLine = !finding.place.empty() && std::ranges::all_of(finding.place, isDigit);
+    const auto place = isLine ? "Line " + finding.place : presets::printable(finding.place);
+    const auto where = place.empty() ? owner : place;
+    const auto text = where.empty() ? capitalized(finding.text) : where + ": " + finding.text;
+    return finding.severity == presets::Severity::Error ? "Not imported. " + text : text;
+}
+
+/// The findings of this severity, below the name of each file.
+std::vector<std::string> textsOf(const Files& files, presets::Severity severity)
+{
+    std::vector<std::string> texts;
     for (const auto& file : files) {
+        auto heading = presets::printable(file.path.filename().string()) + "\n";
         for (const auto& preset : file.presets) {
+            const auto owner = file.presets.size() > 1 ? inQuotes(preset.name) : "";
             for (const auto& finding : preset.findings.all()) {
-                if (finding.severity != presets::Severity::Note)
-                    problems.push_back(lineFor(finding, file.path.filename()));
+                if (finding.severity == severity)
+                    texts.push_back(std::exchange(heading, "") + textOf(finding, owner));
             }
         }
     }
+    return texts;
+}
+
+/// Errors come first, because there may be more warnings than fit. Notes are about what is left out of every
+/// file.
+std::vector<std::string> problemsOf(const Files& files)
+{
+    auto problems = textsOf(files, presets::Severity::Error);
+    std::ranges::move(textsOf(files, presets::Severity::Warning), std::back_inserter(problems));
     return problems;
 }
 
@@ -92,7 +128,7 @@ void askAboutNames(PaneHost& host, Files files, const Names& taken)
         if (button > 0)
             import(host, files, button == 1 ? Collision::Replace : Collision::Rename);
     };
-    showAlert(host, "There are other presets with these names:\n" + shortened(quoted),
+    showAlert(host, "There are other presets with these names:\n" + joined(quoted, mostNames, "\n"),
         { "Cancel", "Replace", "Keep Both" }, answered);
 }
 
@@ -115,7 +151,7 @@ void storeAndChoose(PaneHost& host, Files files, Collision collision)
     else if (pane && !names.empty())
         pane->showPresets();
     if (const auto problems = problemsOf(files); !problems.empty())
-        showAlert(host, shortened(problems), { "OK" });
+        showAlert(host, joined(problems, mostProblems, "\n\n"), { "OK" });
 }
 
 void import(PaneHost& host, Files files, Collision collision)
