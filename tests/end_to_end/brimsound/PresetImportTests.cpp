@@ -46,6 +46,14 @@ protected:
         return import(files, script + "\nstate\n").all("state").back();
     }
 
+    /// Of the only alert.
+    static std::string messageOf(const tests::Run& run)
+    {
+        const auto alerts = run.all("alert");
+        EXPECT_THAT(alerts, SizeIs(1));
+        return alerts.empty() ? "" : alerts[0].at("message");
+    }
+
     TemporaryRoot root;
     TemporaryFolder folder;
     TestBus bus;
@@ -90,9 +98,8 @@ TEST_F(AnImportIntoThePane, ChoosesAPresetThatIsThereAlready)
 TEST_F(AnImportIntoThePane, AsksBeforeItReplacesAPreset)
 {
     const auto run = import({ write("Rock.txt", ten) }, "wait 1\nstate\nalert \"Replace\"\nwait 1\nstate\n");
-    ASSERT_THAT(run.all("alert"), SizeIs(1));
-    EXPECT_THAT(run.all("alert")[0].at("message"), HasSubstr("\"Rock\""));
-    EXPECT_THAT(run.all("alert")[0].at("buttons"), ElementsAre("Cancel", "Replace", "Keep Both"));
+    EXPECT_THAT(messageOf(run), HasSubstr("\"Rock\""));
+    EXPECT_THAT(run.all("alert").at(0).at("buttons"), ElementsAre("Cancel", "Replace", "Keep Both"));
     EXPECT_EQ(run.all("state")[0].at("sliders"), Json(std::vector<int>(11)));
     EXPECT_EQ(run.all("state")[1].at("sliders"), tenSliders);
     EXPECT_EQ(run.all("state")[1].at("selected"), "Rock");
@@ -120,12 +127,11 @@ TEST_F(AnImportIntoThePane, ShowsAllProblemsInOneAlert)
     const auto run = import({ write("Loud.txt", "20 0 0 0 0 0 0 0 0 0"), write("bad.txt", "1 2 3"),
                                 folder.path() / "missing.txt" },
         "alert \"OK\"\nwait 1\nstate\n");
-    ASSERT_THAT(run.all("alert"), SizeIs(1));
-    EXPECT_EQ(run.all("alert")[0].at("message"),
+    EXPECT_EQ(messageOf(run),
         "bad.txt\nNot imported. These are not ten numbers\n\n"
         "missing.txt\nNot imported. There is no such file\n\n"
         "Loud.txt\nThe gain of 20 dB at 60 Hz is limited to 12 dB");
-    EXPECT_THAT(run.all("alert")[0].at("buttons"), ElementsAre("OK"));
+    EXPECT_THAT(run.all("alert").at(0).at("buttons"), ElementsAre("OK"));
     EXPECT_EQ(run.all("state").back().at("sliders")[1], 12);
 }
 
@@ -141,7 +147,7 @@ TEST_F(AnImportIntoThePane, NamesTheFirstWarningsAndCountsTheOthers)
     for (int i = 0; i < 20; ++i)
         lines += "Filter 2: ON XY\n";
     const auto run = import({ write("Many.txt", lines) }, "alert \"OK\"\n");
-    const std::string message = run.all("alert")[0].at("message");
+    const auto message = messageOf(run);
     EXPECT_THAT(
         message, StartsWith("Many.txt\nLine 2: unknown filter type \"XY\", line skipped\n\nLine 3: "));
     EXPECT_THAT(message, EndsWith("\n\nLine 6: unknown filter type \"XY\", line skipped\n\nand 15 more"));
@@ -152,7 +158,7 @@ TEST_F(AnImportIntoThePane, NamesThePresetsOfALibraryInItsWarnings)
     const auto file = write("Library.preset",
         "[Presets]\nPreset0=Loud\nPreset1=Lost\n[Loud]\nBand0=20\nBand1=0\nBand2=0\nBand3=0\nBand4=0\n"
         "Band5=0\nBand6=0\nBand7=0\nBand8=0\nBand9=0\n");
-    EXPECT_EQ(import({ file }, "alert \"OK\"\n").all("alert")[0].at("message"),
+    EXPECT_EQ(messageOf(import({ file }, "alert \"OK\"\n")),
         "Library.preset\nNot imported. Line 3: there is no section \"Lost\"\n\n"
         "Library.preset\n\"Loud\": the gain of 20 dB at 60 Hz is limited to 12 dB");
 }
@@ -161,7 +167,7 @@ TEST_F(AnImportIntoThePane, KeepsADamagedPreferencesFile)
 {
     root.write(preferencesPath, "damaged");
     const auto run = import({ write("Mine.txt", ten) }, "alert \"OK\"\n");
-    EXPECT_THAT(std::string(run.all("alert")[0].at("message")), HasSubstr("cannot be read"));
+    EXPECT_THAT(messageOf(run), HasSubstr("cannot be read"));
     EXPECT_EQ(root.read(preferencesPath), "damaged");
 }
 
