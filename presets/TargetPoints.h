@@ -24,8 +24,9 @@ struct TargetPoint {
 };
 
 /// The response at 240 frequencies from 20 Hz to 20 kHz, evenly spaced on a logarithmic scale; but a single
-/// curve of more than 60 points at its own points, because interpolating would add errors. Gains are limited
-/// to 24 dB in either direction, beyond which no slider reaches.
+/// curve of more than 60 points, nowhere more than half an octave apart, at its own points, because
+/// interpolating would add errors. When the level is not known, their median is 0 dB. Gains are limited to
+/// 24 dB in either direction, beyond which no slider reaches.
 std::vector<TargetPoint> pointsOf(const Response&);
 
 } // namespace brimsound::presets

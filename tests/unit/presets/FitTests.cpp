@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <limits>
 
 namespace brimsound::presets {
 namespace {
@@ -75,13 +76,15 @@ TEST(TheFit, IsFlatForAFlatTarget)
 TEST(AnUnknownLevel, MakesNoDifference)
 {
     const Curve curve { { 60, -7 }, { 1000, -10 }, { 3000, -4 }, { 16000, -9 } };
-    Curve lower = curve;
-    for (auto& point : lower)
-        point.gain -= 5;
     const auto gains = fit(pointsOf({ {}, { curve }, false }), Level::IsFree);
-    const auto same = fit(pointsOf({ {}, { lower }, false }), Level::IsFree);
-    for (std::size_t band = 0; band < gains.size(); ++band)
-        EXPECT_NEAR(gains[band], same[band], 0.01);
+    for (const double shift : { -50, -5, 30 }) {
+        Curve shifted = curve;
+        for (auto& point : shifted)
+            point.gain += shift;
+        const auto same = fit(pointsOf({ {}, { shifted }, false }), Level::IsFree);
+        for (std::size_t band = 0; band < gains.size(); ++band)
+            EXPECT_NEAR(gains[band], same[band], 0.01) << shift;
+    }
 }
 
 TEST(TheDifference, IsMeasuredFrom40HertzTo16Kilohertz)
@@ -117,15 +120,31 @@ TEST(TheTarget, OfADenseCurveIsItsOwnPointsInTheAudibleRange)
 {
     Curve curve { { 10, 1 } };
     for (int i = 0; i < 61; ++i)
-        curve.push_back({ 20 + 300.0 * i, static_cast<double>(i % 5) });
+        curve.push_back({ 20 * std::pow(1000, i / 60.0), static_cast<double>(i % 5) });
     curve.push_back({ 21000, 1 });
-    const auto points = pointsOf({ {}, { curve }, false });
+    const auto points = pointsOf({ {}, { curve }, true });
     ASSERT_EQ(points.size(), 61U);
     EXPECT_EQ(points[7].frequency, curve[8].frequency);
     EXPECT_EQ(points[7].gain, curve[8].gain);
     curve.pop_back();
     curve.pop_back();
-    EXPECT_EQ(pointsOf({ {}, { curve }, false }).size(), 240U);
+    EXPECT_EQ(pointsOf({ {}, { curve }, true }).size(), 240U);
+}
+
+TEST(TheTarget, OfACurveThatIsDenseOnlyInAPartOfTheRangeIsInterpolated)
+{
+    Curve low;
+    Curve linear;
+    for (int i = 0; i <= 100; ++i) {
+        low.push_back({ 20.0 + i, -i / 20.0 });
+        linear.push_back({ 20 + 199.8 * i, -i / 20.0 });
+    }
+    EXPECT_EQ(pointsOf({ {}, { low }, false }).size(), 240U);
+    EXPECT_EQ(pointsOf({ {}, { linear }, false }).size(), 240U);
+    // Constant above 120 Hz.
+    const auto gains = fit(pointsOf({ {}, { low }, true }), Level::Counts);
+    for (std::size_t band = 2; band < gains.size(); ++band)
+        EXPECT_NEAR(gains[band], -5, 0.5) << band;
 }
 
 TEST(TheTarget, IsLimitedTo24Decibels)
@@ -133,6 +152,16 @@ TEST(TheTarget, IsLimitedTo24Decibels)
     const auto points = pointsOf({ {}, { { { 100, 90 }, { 10000, -90 } } }, true });
     EXPECT_EQ(points.front().gain, 24);
     EXPECT_EQ(points.back().gain, -24);
+}
+
+TEST(TheTarget, OfUnknownLevelHasItsMedianAtZero)
+{
+    const auto points = pointsOf({ {}, { { { 100, -90 }, { 10000, -70 } } }, false });
+    EXPECT_NEAR(points[120].gain, 0, 1e-9);
+    EXPECT_NEAR(points.back().gain - points.front().gain, 20, 1e-9);
+    const double huge = std::numeric_limits<double>::max();
+    for (const auto& point : pointsOf({ {}, { { { 100, huge } }, { { 100, huge } } }, false }))
+        EXPECT_EQ(point.gain, 24);
 }
 
 TEST(ACurve, IsLinearOverTheLogarithmOfTheFrequencyAndConstantOutside)
