@@ -58,8 +58,8 @@ constexpr std::array<Mark, 15> marks { {
     { "If:", Format::EqualizerApo, {} },
 } };
 
-/// A file that was meant for Equalizer APO may begin with any text, so the first line that shows anything
-/// counts.
+/// A file that was meant for Equalizer APO may begin with any text, and one of sections with any of them, so
+/// the first line that shows anything counts.
 std::optional<Recognition> recognizeLine(std::string_view line)
 {
     for (const auto& mark : marks) {
@@ -97,14 +97,16 @@ Recognition recognize(std::string_view contents)
     if (start == std::string_view::npos)
         return { std::nullopt, "the file is empty" };
 
-    const auto lines = linesOf(contents.substr(start));
-    const bool isHeading = recognizeLine(trimmed(lines.front())).has_value();
-    if (!isHeading && (contents[start] == '{' || contents[start] == '['))
-        return recognizeJson(contents);
-    for (const auto line : lines) {
+    const bool mayBeJson = contents[start] == '{' || contents[start] == '[';
+    const auto json = mayBeJson ? recognizeJson(contents) : Recognition();
+    if (json.format)
+        return json;
+    for (const auto line : linesOf(contents)) {
         if (const auto recognition = recognizeLine(trimmed(line)))
             return *recognition;
     }
+    if (mayBeJson)
+        return json;
     const auto numbers = readTenNumbers(contents);
     if (isNumbers(contents) && !numbers.front().findings.haveErrors())
         return { Format::TenNumbers, {} };

@@ -78,6 +78,13 @@ TEST(AnUnknownFile, IsRefusedWithWhatCanBeRead)
             HasSubstr("GraphicEQ"), HasSubstr("EasyEffects"), HasSubstr("XMMS"), HasSubstr("ten numbers")));
 }
 
+TEST(AFileOfSections, IsRecognizedByAnyOfThem)
+{
+    expectFormat("[Other]\na=1\n[Equalizer preset]\nBand0=1", Format::Xmms);
+    expectRefused("[apps]\na=1\n[apps_equalizer]\nband0_freq=1", "this is a preset of PulseEffects 1 to 3");
+    expectRefused("[Other]\na=1\n", "line 1: this is no valid JSON");
+}
+
 TEST(ReadingAFile, UsesTheFormatThatItsContentsShow)
 {
     EXPECT_FALSE(readPresets("1 2 3 4 5 6 7 8 9 10", {}, {}).front().findings.haveErrors());
