@@ -34,21 +34,48 @@ Response curveThrough(const Positions& positions)
     return { {}, { curve }, true };
 }
 
+bool isPeak(FilterShape shape)
+{
+    return shape == FilterShape::Peak || shape == FilterShape::RlcPeak;
+}
+
+/// Whether the filter changes everything below its frequency.
+bool reachesDown(FilterShape shape)
+{
+    return shape == FilterShape::LowShelf || shape == FilterShape::RlcLowShelf
+        || shape == FilterShape::HighPass;
+}
+
+/// Whether the filter changes everything above its frequency.
+bool reachesUp(FilterShape shape)
+{
+    return shape == FilterShape::HighShelf || shape == FilterShape::RlcHighShelf
+        || shape == FilterShape::LowPass;
+}
+
 /// Bands only shape the sound between the lowest and the highest of them.
-void warnAboutFilters(const Response& response, Findings& findings)
+void reportLosses(const Filter& filter, Findings& findings)
 {
     constexpr double lowest = 40;
     constexpr double highest = 18000;
     constexpr double narrowNotch = 3;
-    for (const auto& filter : response.filters) {
-        const bool isOutside = filter.frequency < lowest || filter.frequency > highest;
-        if (filter.shape == FilterShape::Notch && filter.q > narrowNotch)
-            findings.warn({},
-                "a notch at " + frequencyText(filter.frequency) + " is narrower than the bands and is lost");
-        else if (filter.shape == FilterShape::Peak && isOutside && filter.gain != 0)
-            findings.warn(
-                {}, "a filter at " + frequencyText(filter.frequency) + " is beyond the bands and is lost");
-    }
+    const bool isPass = filter.shape == FilterShape::LowPass || filter.shape == FilterShape::HighPass;
+    const bool hasEffect = filter.gain != 0 || isPass;
+    const bool isDown = isPeak(filter.shape) || reachesDown(filter.shape);
+    const bool isUp = isPeak(filter.shape) || reachesUp(filter.shape);
+    const auto frequency = frequencyText(filter.frequency);
+    if (filter.shape == FilterShape::Notch && filter.q > narrowNotch)
+        findings.warn(filter.place, "a notch at " + frequency + " is narrower than the bands and is lost");
+    else if (hasEffect && ((isDown && filter.frequency < lowest) || (isUp && filter.frequency > highest)))
+        findings.warn(filter.place, "a filter at " + frequency + " is beyond the bands and is lost");
+    else if (hasEffect && reachesDown(filter.shape))
+        findings.note(filter.place,
+            "the filter at " + frequency + " falls back to 0 dB below "
+                + frequencyText(audio::centers.front()));
+    else if (hasEffect && reachesUp(filter.shape))
+        findings.note(filter.place,
+            "the filter at " + frequency + " falls back to 0 dB above "
+                + frequencyText(audio::centers.back()));
 }
 
 std::string bandsAtTheLimit(const audio::BandGains& gains)
@@ -67,7 +94,8 @@ Conversion fitted(const Response& response, Findings& findings)
 {
     constexpr double roughRms = 1.5;
     constexpr double roughPeak = 4;
-    warnAboutFilters(response, findings);
+    for (const auto& filter : response.filters)
+        reportLosses(filter, findings);
     const auto points = pointsOf(response);
     const auto level = response.levelIsKnown ? Level::Counts : Level::IsFree;
     Conversion conversion { fit(points, level), {} };

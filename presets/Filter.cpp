@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <tuple>
 
 namespace brimsound::presets {
 
@@ -124,6 +125,12 @@ double amplitudeSum(double gain)
 }
 
 } // namespace
+
+bool Filter::operator==(const Filter& other) const
+{
+    return std::tie(shape, frequency, gain, q, stages)
+        == std::tie(other.shape, other.frequency, other.gain, other.q, other.stages);
+}
 
 double responseOf(const Filter& filter, double frequency)
 {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace brimsound::presets {
@@ -37,8 +38,10 @@ struct Filter {
     double q = 1;
     /// How many equal filters an RLC peak consists of, each with an equal part of the gain.
     int stages = 1;
+    /// Where the file has it: see Finding. Filters at different places are equal.
+    std::string place {};
 
-    bool operator==(const Filter&) const = default;
+    bool operator==(const Filter&) const;
 };
 
 /// The response in dB at a frequency in Hz below half the comparison rate. Never below -120 dB.

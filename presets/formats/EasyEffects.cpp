@@ -188,6 +188,7 @@ private:
         filter.frequency = *frequency * pitch;
         filter.gain = shape->hasGain ? *gain : 0;
         filter.q = *q;
+        filter.place = band.path;
         applyMode(band, *shape, filter);
         add(band, filter);
     }

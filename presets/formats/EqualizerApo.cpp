@@ -95,10 +95,11 @@ private:
     {
         if (isOutOfScope())
             return;
-        const auto filter = readApoFilter(parameters);
+        auto filter = readApoFilter(parameters);
         switch (filter.use) {
         case ApoFilter::Use::On:
             count(1);
+            filter.filter.place = _place;
             for (auto* channel : channels())
                 channel->filters.push_back(filter.filter);
             break;

@@ -155,7 +155,8 @@ TEST_F(ThePresetsProgram, ImportsAFileUnderItsName)
                               "[0-9.]+ dB, at [0-9.]+ k?Hz\n"));
     EXPECT_EQ(outcome.errors,
         "My Phones ParametricEQ.txt:1: note: the preamp of -6 dB is left out: Auto Preamp sets one for these "
-        "gains\n");
+        "gains\n"
+        "My Phones ParametricEQ.txt:2: note: the filter at 105 Hz falls back to 0 dB below 60 Hz\n");
     const auto all = presets();
     ASSERT_TRUE(all.find("My Phones"));
     EXPECT_NEAR(all.find("My Phones")->asArray()->at(0).floatValue(), 4, 0.5);

@@ -87,6 +87,12 @@ TEST(AnEasyEffectsPreset, HasFiltersOfTheCookbookInTheModeApo)
             Filter { Shape::LowPass, 19000, 0, 0.5 }));
 }
 
+TEST(AnEasyEffectsPreset, NamesThePathOfEachFilter)
+{
+    const auto preset = presetOf({ band(60, 5, 1.41), band(1000, -3, 2) });
+    EXPECT_EQ(filtersOf(read(preset)).back().place, "output.equalizer#0.left.band1");
+}
+
 TEST(AnEasyEffectsPreset, HasItsOwnFiltersInTheModeRlc)
 {
     auto preset = presetOf({ band(60, 5, 1.41), band(100, 3, 0.7), band(10000, 3, 0.7) });

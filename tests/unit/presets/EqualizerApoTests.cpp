@@ -187,6 +187,13 @@ TEST(ApoText, HasAFilterOnEachLine)
             "the preamp of -6.5 dB is left out: Auto Preamp sets one for these gains" }));
 }
 
+TEST(ApoText, NamesTheLineOfEachFilter)
+{
+    const auto preset = read("\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n\nFilter: ON LP Fc 9000 Hz\n");
+    EXPECT_EQ(filtersOf(preset).front().place, "2");
+    EXPECT_EQ(filtersOf(preset).back().place, "4");
+}
+
 TEST(ApoText, AddsItsPreamps)
 {
     const auto preset = read("Preamp: -6,5 dB\nPreamp: +1 dB\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1");

@@ -213,16 +213,50 @@ TEST(AConversion, WarnsOfWhatTenBandsCannotFollow)
     EXPECT_THAT(findings.all()[0].text, testing::EndsWith(" kHz"));
 }
 
-TEST(AConversion, WarnsOfFiltersBeyondTheBandsAndOfNotches)
+Finding reported(Shape shape, double frequency, double gain)
 {
     Findings findings;
-    const Response response { { { Shape::Peak, 25, 2, 1.41 }, { Shape::Peak, 19000, -1, 1.41 },
-                                  { Shape::Notch, 50, 0, 30 } },
-        {}, true };
-    convert(response, Copying::Allowed, findings);
-    EXPECT_THAT(findings.all(), Contains(warning("a filter at 25 Hz is beyond the bands and is lost")));
-    EXPECT_THAT(findings.all(), Contains(warning("a filter at 19 kHz is beyond the bands and is lost")));
-    EXPECT_THAT(findings.all(), Contains(warning("a notch at 50 Hz is narrower than the bands and is lost")));
+    convert(Response { { { shape, frequency, gain, 0.7, 1, "7" } }, {}, true }, Copying::Allowed, findings);
+    return findings.all().empty() ? Finding {} : findings.all().front();
+}
+
+TEST(AConversion, WarnsOfFiltersBeyondTheBands)
+{
+    const auto lost = [](const std::string& frequency) {
+        return Finding { Severity::Warning, "7",
+            "a filter at " + frequency + " is beyond the bands and is lost" };
+    };
+    EXPECT_EQ(reported(Shape::Peak, 25, 2), lost("25 Hz"));
+    EXPECT_EQ(reported(Shape::RlcPeak, 25, 2), lost("25 Hz"));
+    EXPECT_EQ(reported(Shape::Peak, 19000, -1), lost("19 kHz"));
+    EXPECT_EQ(reported(Shape::LowShelf, 35, 1), lost("35 Hz"));
+    EXPECT_EQ(reported(Shape::RlcHighShelf, 20000, 1), lost("20 kHz"));
+    EXPECT_EQ(reported(Shape::HighPass, 20, 0), lost("20 Hz"));
+    EXPECT_EQ(reported(Shape::LowPass, 19500, 0), lost("19.5 kHz"));
+    EXPECT_EQ(reported(Shape::Peak, 25, 0), Finding {});
+    EXPECT_EQ(reported(Shape::Peak, 1000, 1), Finding {});
+}
+
+TEST(AConversion, NotesFiltersThatReachBeyondTheBands)
+{
+    const auto note = [](const std::string& text) { return Finding { Severity::Note, "7", text }; };
+    const auto below = note("the filter at 105 Hz falls back to 0 dB below 60 Hz");
+    EXPECT_EQ(reported(Shape::LowShelf, 105, 1), below);
+    EXPECT_EQ(reported(Shape::RlcLowShelf, 105, -1), below);
+    EXPECT_EQ(reported(Shape::HighPass, 105, 0), below);
+    const auto above = note("the filter at 10 kHz falls back to 0 dB above 16 kHz");
+    EXPECT_EQ(reported(Shape::HighShelf, 10000, 1), above);
+    EXPECT_EQ(reported(Shape::RlcHighShelf, 10000, -1), above);
+    EXPECT_EQ(reported(Shape::LowPass, 10000, 0), above);
+    EXPECT_EQ(reported(Shape::LowShelf, 105, 0), Finding {});
+}
+
+TEST(AConversion, WarnsOfNarrowNotches)
+{
+    Findings findings;
+    convert(Response { { { Shape::Notch, 50, 0, 30, 1, "7" } }, {}, true }, Copying::Allowed, findings);
+    EXPECT_EQ(findings.all().front(),
+        (Finding { Severity::Warning, "7", "a notch at 50 Hz is narrower than the bands and is lost" }));
 }
 
 TEST(AConversion, NamesTheBandsThatEndAtTheLimit)
