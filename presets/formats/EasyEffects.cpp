@@ -87,6 +87,8 @@ public:
             readChain(chain);
         if (!findings().haveErrors() && !_hasEqualizer)
             findings().refuse(chain.path, "there is no equalizer that is switched on");
+        else if (!findings().haveErrors() && _response.filters.empty())
+            findings().refuse(chain.path, "there is no band that is on");
         _preset.target = std::move(_response);
         return _preset;
     }
@@ -125,18 +127,29 @@ private:
         }
         _hasEqualizer = true;
         for (const auto& level : { equalizer["input-gain"], equalizer["output-gain"] })
-            findings().notePreamp(level.path, level.number().value_or(0));
+            readPreamp(level);
         const auto left = equalizer["left"];
         const auto right = equalizer["right"];
-        const auto channel = _isLeft || !equalizer["split-channels"].flag(true) ? left : right;
-        const bool differ = left.exists() && right.exists() && *left.value != *right.value;
-        if (equalizer["split-channels"].flag(true) && differ)
+        const bool isSplit = equalizer["split-channels"].flag(true);
+        const bool bandsDiffer = isSplit && left.exists() && right.exists() && *left.value != *right.value;
+        const auto leftPitch = equalizer["pitch-left"].number().value_or(0);
+        const auto rightPitch = equalizer["pitch-right"].number().value_or(0);
+        if (bandsDiffer || leftPitch != rightPitch)
             findings().warn(equalizer.path,
                 std::string("the channels differ: the ") + (_isLeft ? "left" : "right") + " one is taken");
         if (const auto balance = equalizer["balance"].number(); balance && *balance != 0)
             findings().warn(equalizer["balance"].path, "the balance is left out");
-        const auto pitch = equalizer[_isLeft ? "pitch-left" : "pitch-right"].number().value_or(0);
-        readBands(channel, equalizer["num-bands"], std::pow(2, pitch / 12));
+        readBands(_isLeft || !isSplit ? left : right, equalizer["num-bands"],
+            std::pow(2, (_isLeft ? leftPitch : rightPitch) / 12));
+    }
+
+    void readPreamp(const Node& level)
+    {
+        const auto gain = level.number().value_or(0);
+        if (std::isfinite(gain))
+            findings().notePreamp(level.path, gain);
+        else
+            findings().refuse(level.path, "the preamp must be a finite number");
     }
 
     void readBands(const Node& channel, const Node& countNode, double pitch)

@@ -173,7 +173,16 @@ TEST(AnEasyEffectsPreset, ShiftsFrequenciesByItsPitch)
 {
     auto preset = presetOf({ band(500, 2, 1) });
     equalizerOf(preset)["pitch-left"] = 12;
+    equalizerOf(preset)["pitch-right"] = 12;
     EXPECT_NEAR(filtersOf(read(preset)).front().frequency, 1000, 1e-9);
+    EXPECT_THAT(read(preset).findings.all(), IsEmpty());
+    equalizerOf(preset)["pitch-right"] = 0;
+    EXPECT_NEAR(filtersOf(read(preset)).front().frequency, 1000, 1e-9);
+    EXPECT_NEAR(filtersOf(read(preset, rightChannel())).front().frequency, 500, 1e-9);
+    EXPECT_THAT(read(preset).findings.all(),
+        ElementsAre(warning("output.equalizer#0", "the channels differ: the left one is taken")));
+    EXPECT_THAT(read(preset, rightChannel()).findings.all(),
+        ElementsAre(warning("output.equalizer#0", "the channels differ: the right one is taken")));
 }
 
 TEST(AnEasyEffectsPreset, AddsTheEqualizersOfItsOutput)
@@ -288,6 +297,16 @@ TEST(AnEasyEffectsPreset, IsRefusedWhenPartsAreMissing)
             error("output", "there is no equalizer that is switched on")));
 }
 
+TEST(AnEasyEffectsPreset, IsRefusedWithoutABandThatIsOn)
+{
+    auto preset = presetOf({ band(60, 5, 1.41), band(100, 5, 1.41) });
+    firstBandOf(preset)["type"] = "Off";
+    equalizerOf(preset)["left"]["band1"]["mute"] = true;
+    EXPECT_THAT(read(preset).findings.all(), ElementsAre(error("output", "there is no band that is on")));
+    equalizerOf(preset)["num-bands"] = 0;
+    EXPECT_THAT(read(preset).findings.all(), ElementsAre(error("output", "there is no band that is on")));
+}
+
 TEST(AnEasyEffectsPreset, IsRefusedWithNumbersThatCannotBe)
 {
     for (const char* key : { "frequency", "q" }) {
@@ -300,6 +319,10 @@ TEST(AnEasyEffectsPreset, IsRefusedWithNumbersThatCannotBe)
     auto preset = presetOf({ band(60, 5, 1.41) });
     firstBandOf(preset)["gain"] = "nan";
     EXPECT_TRUE(read(preset).findings.haveErrors());
+    preset = presetOf({ band(60, 5, 1.41) });
+    equalizerOf(preset)["output-gain"] = "inf";
+    EXPECT_THAT(read(preset).findings.all(),
+        ElementsAre(error("output.equalizer#0.output-gain", "the preamp must be a finite number")));
 }
 
 } // namespace
