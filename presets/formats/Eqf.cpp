@@ -12,6 +12,7 @@ namespace {
 constexpr std::string_view magic = "Winamp EQ library file v1.1\x1a!--";
 constexpr std::size_t nameSize = 257;
 constexpr std::size_t recordSize = nameSize + audio::bandCount + 1;
+/// Winamp's name for the only preset of a file.
 constexpr auto nameless = "Entry1";
 
 // Two values stand for the middle of a slider; 31 steps from either make 12 dB.
@@ -40,8 +41,7 @@ ForeignPreset readRecord(std::string_view record, std::size_t number)
         preset.findings.refuse(place, "the file ends within this preset");
         return preset;
     }
-    if (name != nameless)
-        preset.name = name;
+    preset.name = name;
     Positions positions;
     for (std::size_t band = 0; band < audio::bandCount; ++band) {
         const int value = static_cast<unsigned char>(record[nameSize + band]);
@@ -79,6 +79,8 @@ ForeignPresets readEqf(std::string_view bytes)
         presets.push_back(readRecord(bytes.substr(0, recordSize), number));
         bytes.remove_prefix(std::min(recordSize, bytes.size()));
     }
+    if (presets.size() == 1 && presets.front().name == nameless)
+        presets.front().name.clear();
     return presets;
 }
 

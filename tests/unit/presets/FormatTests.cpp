@@ -99,8 +99,14 @@ TEST(AWinampFile, HasNamesInEitherEncoding)
 {
     EXPECT_EQ(readEqf(magic() + record("Caf\xc3\xa9", middle)).front().name, "Caf\xc3\xa9");
     EXPECT_EQ(readEqf(magic() + record("Caf\xe9 \x80", middle)).front().name, "Caf\xc3\xa9 \xe2\x82\xac");
-    EXPECT_EQ(readEqf(magic() + record("Entry1", middle)).front().name, "");
     EXPECT_EQ(readEqf(magic() + std::string(257, 'x') + middle).front().name, std::string(257, 'x'));
+}
+
+TEST(AWinampFile, HasNoNameWhenItsOnlyPresetHasWinampsDefault)
+{
+    EXPECT_EQ(readEqf(magic() + record("Entry1", middle)).front().name, "");
+    const auto library = readEqf(magic() + record("Entry1", middle) + record("Entry2", middle));
+    EXPECT_EQ(library.front().name, "Entry1");
 }
 
 TEST(AWinampFile, HasAPreampThatIsLeftOut)
