@@ -89,6 +89,7 @@ private:
         return found == commands.end() ? nullptr : &*found;
     }
 
+    bool takesLeft() const { return _options.channel == ReadingOptions::Channel::Left; }
     bool isOutOfScope() const { return !_deviceApplies || !_stageApplies; }
 
     void readFilter(std::string_view parameters)
@@ -132,8 +133,9 @@ private:
             warn("preamp without a number, line skipped");
         else if (!std::isfinite(*preamp))
             refuse("the preamp must be a finite number");
-        else if (!isOutOfScope() && !channels().empty()) {
-            _preamp += *preamp;
+        else if (!isOutOfScope()) {
+            _leftPreamp += _onLeft ? *preamp : 0;
+            _rightPreamp += _onRight ? *preamp : 0;
             if (_preampPlace.empty())
                 _preampPlace = _place;
         }
@@ -191,12 +193,12 @@ private:
 
     void finish()
     {
-        _preset.findings.notePreamp(_preampPlace, _preamp);
-        const bool takesLeft = _options.channel == ReadingOptions::Channel::Left;
-        auto& taken = takesLeft ? _left : _right;
-        if (_left != _right)
+        _preset.findings.notePreamp(_preampPlace, takesLeft() ? _leftPreamp : _rightPreamp);
+        auto& taken = takesLeft() ? _left : _right;
+        if (_left != _right || _leftPreamp != _rightPreamp)
             _preset.findings.warn(_channelPlace,
-                std::string("the channels differ: the ") + (takesLeft ? "left" : "right") + " one is taken");
+                std::string("the channels differ: the ") + (takesLeft() ? "left" : "right")
+                    + " one is taken");
         taken.levelIsKnown = taken.curves.empty();
         if (taken.filters.empty() && taken.curves.empty()) {
             _preset.findings.refuse({}, "there is no filter that is on, and no curve");
@@ -250,7 +252,8 @@ private:
     bool _stageApplies = true;
     std::string_view _device;
     std::string _channelPlace;
-    double _preamp = 0;
+    double _leftPreamp = 0;
+    double _rightPreamp = 0;
     std::string _preampPlace;
 };
 

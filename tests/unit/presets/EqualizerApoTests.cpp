@@ -201,6 +201,15 @@ TEST(ApoText, AddsItsPreamps)
     EXPECT_THAT(preset.findings.all()[0].text, HasSubstr("-5.5 dB"));
 }
 
+TEST(ApoText, AddsThePreampsOfTheChannelThatIsTaken)
+{
+    const auto text = "Preamp: -1 dB\nChannel: L\nPreamp: -2 dB\nChannel: R\nPreamp: -4 dB\n"
+                      "Channel: all\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1";
+    EXPECT_THAT(read(text).findings.all()[0].text, HasSubstr("-3 dB"));
+    EXPECT_THAT(read(text, rightChannel()).findings.all()[0].text, HasSubstr("-5 dB"));
+    EXPECT_EQ(read(text).findings.all().back(), warning("2", "the channels differ: the left one is taken"));
+}
+
 TEST(ApoText, HasACurveOfUnknownLevel)
 {
     const auto preset = read("GraphicEQ: 40 4.5; 25 6; 100 -0.0");
@@ -319,6 +328,7 @@ TEST(ApoText, GivesTheLeftChannelUnlessTheRightOneIsChosen)
     const auto right = read(text, rightChannel());
     EXPECT_THAT(
         filtersOf(right), ElementsAre(Filter { Shape::Peak, 60, 2, 1 }, Filter { Shape::Peak, 60, 3, 1 }));
+    EXPECT_EQ(right.findings.all().back(), warning("1", "the channels differ: the right one is taken"));
 }
 
 TEST(ApoText, DoesNotWarnOfChannelsThatAreEqual)
