@@ -158,8 +158,8 @@ private:
 
     void readDevice(std::string_view parameters)
     {
-        _deviceApplies
-            = areEqualInAnyCase(parameters, "all") || !_options.device || parameters == *_options.device;
+        _deviceApplies = areEqualInAnyCase(parameters, "all") || !_options.device
+            || utf8From(parameters) == *_options.device;
         if (areEqualInAnyCase(parameters, "all"))
             return;
         if (!_deviceApplies) {

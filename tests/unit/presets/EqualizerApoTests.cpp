@@ -363,6 +363,14 @@ TEST(ApoText, NeedsAChoiceBetweenTwoDevices)
             warning("3", "for the device \"Headphones\", imported for all devices")));
 }
 
+TEST(ApoText, MayNameItsDeviceInTheAnsiCodePage)
+{
+    ReadingOptions options;
+    options.device = "Kopfh\xc3\xb6rer";
+    EXPECT_THAT(
+        filtersOf(read("Device: Kopfh\xf6rer\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n", options)), SizeIs(1));
+}
+
 TEST(ApoText, LeavesOutWhatIsForRecording)
 {
     const auto preset = read("Stage: capture\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n"
