@@ -56,42 +56,54 @@ struct Numbers {
     std::optional<double> slope;
 };
 
-constexpr std::string_view noBreakSpace = "\xc2\xa0";
-
 bool isDigit(char letter)
 {
     return '0' <= letter && letter <= '9';
 }
 
+/// The length of the no-break space that the text begins with, or 0. Text in the ANSI code page has it as one
+/// byte.
+std::size_t noBreakSpace(std::string_view text)
+{
+    constexpr std::array<std::string_view, 3> spaces { "\xc2\xa0", "\xe2\x80\xaf", "\xa0" };
+    const auto* space = std::ranges::find_if(spaces, [&](auto known) { return text.starts_with(known); });
+    return space == spaces.end() ? 0 : space->size();
+}
+
 /// With points for commas. A no-break space between digits separates thousands and is dropped; elsewhere it
-/// becomes a blank. Text in the ANSI code page has it as one byte.
+/// becomes a blank.
 std::string normalized(std::string_view text)
 {
     std::string line;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isWide = text.substr(i).starts_with(noBreakSpace);
-        if (isWide || text[i] == noBreakSpace[1]) {
-            i += isWide ? 1 : 0;
-            const bool isInside
-                = !line.empty() && isDigit(line.back()) && i + 1 < text.size() && isDigit(text[i + 1]);
-            if (!isInside)
-                line += ' ';
-        } else {
-            line += text[i] == ',' ? '.' : text[i];
-        }
+    while (!text.empty()) {
+        const auto space = noBreakSpace(text);
+        if (space == 0)
+            line += text.front() == ',' ? '.' : text.front();
+        text.remove_prefix(std::max<std::size_t>(space, 1));
+        const bool isInside = !line.empty() && isDigit(line.back()) && !text.empty() && isDigit(text.front());
+        if (space > 0 && !isInside)
+            line += ' ';
     }
     return line;
+}
+
+/// Whether the point that the text begins with separates thousands: exactly three digits follow.
+bool isBeforeGroup(std::string_view text)
+{
+    constexpr std::size_t end = 4;
+    return std::min(text.find_first_not_of("0123456789", 1), text.size()) == end
+        && (text.size() == end || text[end] == '.');
 }
 
 std::optional<double> readFrequency(std::string_view word)
 {
     const auto length = std::min(word.find_first_not_of("0123456789.+-eE"), word.size());
-    std::string digits(word.substr(0, length));
-    const auto point = digits.find('.');
-    if (point != std::string::npos && digits.size() == point + 4
-        && std::all_of(digits.begin() + static_cast<std::ptrdiff_t>(point) + 1, digits.end(), isDigit))
-        digits.erase(point, 1);
-    std::string_view rest = digits.empty() ? word : std::string_view(digits);
+    std::string number;
+    for (std::size_t i = 0; i < length; ++i) {
+        if (word[i] != '.' || !isBeforeGroup(word.substr(i, length - i)))
+            number += word[i];
+    }
+    std::string_view rest = number.empty() ? word : std::string_view(number);
     return takeNumber(rest);
 }
 

@@ -121,6 +121,8 @@ TEST(AFrequency, WithThreeDigitsAfterItsSeparatorIsInThousands)
     expectFilter("ON PK Fc 22.123 Hz Gain -3.0 dB Q 1", { Shape::Peak, 22123, -3, 1 });
     expectFilter("ON PK Fc 50,0 Hz Gain -3.0 dB Q 1", { Shape::Peak, 50, -3, 1 });
     expectFilter("ON PK Fc 50.25Hz Gain -3.0 dB Q 1", { Shape::Peak, 50.25, -3, 1 });
+    expectFilter("ON PK Fc 1,607.5 Hz Gain -3.0 dB Q 1", { Shape::Peak, 1607.5, -3, 1 });
+    expectFilter("ON PK Fc 1.607,25 Hz Gain -3,0 dB Q 1", { Shape::Peak, 1607.25, -3, 1 });
 }
 
 TEST(AFrequency, MayHaveANoBreakSpace)
@@ -130,6 +132,10 @@ TEST(AFrequency, MayHaveANoBreakSpace)
         { Shape::Peak, 1607, -3, 1 });
     expectFilter("ON PK Fc 1\xa0"
                  "607\xa0Hz Gain -3.0 dB Q 1",
+        { Shape::Peak, 1607, -3, 1 });
+    // The narrow one that separates thousands in French.
+    expectFilter("ON PK Fc 1\xe2\x80\xaf"
+                 "607\xe2\x80\xafHz Gain -3.0 dB Q 1",
         { Shape::Peak, 1607, -3, 1 });
 }
 
