@@ -5,6 +5,7 @@
 #include "presets/Text.h"
 
 #include <array>
+#include <map>
 #include <string_view>
 
 namespace brimsound::presets {
@@ -71,27 +72,36 @@ ImportedPreset convertPreset(ForeignPreset preset, const fs::path& path, const I
     return imported;
 }
 
-std::string unusedName(const std::string& name, const PresetStore& store)
+/// The next number to try for each name. It only grows, so that a file of thousands of presets of one name
+/// takes no quadratic time.
+using Numbers = std::map<std::string, int>;
+
+/// The name, or a numbered one, that is not taken by a preset with other gains.
+std::string freeName(
+    const std::string& name, const audio::BandGains& gains, const PresetStore& store, Numbers& numbers)
 {
-    for (int number = 2;; ++number) {
-        auto numbered = name + " (" + std::to_string(number) + ")";
-        if (!store.contains(numbered))
-            return numbered;
-    }
+    constexpr int first = 2;
+    auto& number = numbers.try_emplace(name, first).first->second;
+    auto numbered = name;
+    while (store.contains(numbered) && !store.contains(numbered, gains))
+        numbered = name + " (" + std::to_string(number++) + ")";
+    return numbered;
 }
 
-void store(ImportedPreset& preset, PresetStore& store, Collision collision)
+void store(ImportedPreset& preset, PresetStore& store, Collision collision, Numbers& numbers)
 {
-    const auto& gains = preset.conversion.gains;
     if (preset.findings.haveErrors()) {
         preset.outcome = Outcome::Refused;
-    } else if (store.contains(preset.name, gains)) {
+        return;
+    }
+    const auto& gains = preset.conversion.gains;
+    if (collision == Collision::Rename)
+        preset.name = freeName(preset.name, gains, store, numbers);
+    if (store.contains(preset.name, gains)) {
         preset.outcome = Outcome::AlreadyThere;
     } else if (store.contains(preset.name) && collision == Collision::Refuse) {
         preset.outcome = Outcome::NameTaken;
     } else {
-        if (store.contains(preset.name) && collision == Collision::Rename)
-            preset.name = unusedName(preset.name, store);
         store.set(preset.name, gains);
         preset.outcome = Outcome::Stored;
     }
@@ -113,9 +123,10 @@ ImportedFile readFile(const fs::path& path, const ImportOptions& options)
 
 void store(std::vector<ImportedFile>& files, PresetStore& presets, Collision collision)
 {
+    Numbers numbers;
     for (auto& file : files) {
         for (auto& preset : file.presets)
-            store(preset, presets, collision);
+            store(preset, presets, collision, numbers);
     }
 }
 

@@ -33,11 +33,11 @@ bool isDamaged()
     return !file || !file->asDictionary();
 }
 
-PropertyList::Array storedGains(const audio::BandGains& gains)
+/// In the precision of the file.
+TenGains storedGains(const audio::BandGains& gains)
 {
-    PropertyList::Array stored;
-    for (const double gain : gains)
-        stored.emplace_back(static_cast<float>(gain));
+    TenGains stored {};
+    std::ranges::transform(gains, stored.begin(), [](double gain) { return static_cast<float>(gain); });
     return stored;
 }
 
@@ -77,7 +77,7 @@ audio::BandGains PresetStore::gainsOf(const std::string& name) const
 bool PresetStore::contains(const std::string& name, const audio::BandGains& gains) const
 {
     const auto* preset = _presets.find(name);
-    return preset && *preset == PropertyList(storedGains(gains));
+    return preset && hasTenGains(*preset) && tenGains(*preset) == storedGains(gains);
 }
 
 std::optional<std::string> PresetStore::selected() const
@@ -88,7 +88,8 @@ std::optional<std::string> PresetStore::selected() const
 
 void PresetStore::set(const std::string& name, const audio::BandGains& gains)
 {
-    _presets.set(name, storedGains(gains));
+    const auto stored = storedGains(gains);
+    _presets.set(name, PropertyList::Array(stored.begin(), stored.end()));
     _changed = true;
 }
 

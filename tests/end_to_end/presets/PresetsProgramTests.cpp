@@ -278,6 +278,21 @@ TEST_F(ThePresetsProgram, FindsAnotherNameWhenTold)
     EXPECT_THAT(names(), SizeIs(18));
     EXPECT_EQ(*presets().find("Rock (2)"), tenGains);
     EXPECT_EQ(*presets().find("Rock (3)"), otherTenGains);
+    expectDone("import --rename Rock.txt", "Already there: \"Rock (3)\"\n");
+}
+
+TEST_F(ThePresetsProgram, NumbersThePresetsOfOneNameInALibrary)
+{
+    write("all.json", R"({"format":"brimsound-presets","version":1,"presets":[
+        {"name":"A","gains":[1,0,0,0,0,0,0,0,0,0]}, {"name":"A","gains":[2,0,0,0,0,0,0,0,0,0]},
+        {"name":"A","gains":[3,0,0,0,0,0,0,0,0,0]}]})");
+    EXPECT_EQ(run("import all.json").status, 1);
+    EXPECT_THAT(names(), AllOf(SizeIs(17), Contains("A")));
+    expectDone("import --rename all.json",
+        "Already there: \"A\"\nImported \"A (2)\", positions copied\nImported \"A (3)\", positions "
+        "copied\n");
+    expectDone("import --rename all.json",
+        "Already there: \"A\"\nAlready there: \"A (2)\"\nAlready there: \"A (3)\"\n");
 }
 
 TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsAgain)
@@ -287,6 +302,16 @@ TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsAgain)
     const auto before = fs::last_write_time(root.path() / fs::path(preferencesPath).relative_path());
     expectDone("import a.txt", "Already there: \"a\"\n");
     EXPECT_EQ(fs::last_write_time(root.path() / fs::path(preferencesPath).relative_path()), before);
+}
+
+TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsInAnotherType)
+{
+    root.write(preferencesPath,
+        "<plist><dict><key>PRESETS</key><dict><key>a</key><array><integer>1</integer><integer>2</integer>"
+        "<integer>3</integer><integer>4</integer><integer>5</integer><string>-1</string><integer>-2</integer>"
+        "<integer>-3</integer><integer>-4</integer><real>-5</real></array></dict></dict></plist>");
+    write("a.txt", ten);
+    expectDone("import a.txt", "Already there: \"a\"\n");
 }
 
 TEST_F(ThePresetsProgram, UsesTheNameThatIsGiven)
