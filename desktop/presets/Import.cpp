@@ -57,14 +57,16 @@ std::string chooseName(const ForeignPreset& preset, const fs::path& path, const 
     return preset.name.empty() ? nameOf(path) : preset.name;
 }
 
-ImportedPreset convertPreset(ForeignPreset preset, const fs::path& path, const ImportOptions& options)
+ImportedPreset convertPreset(
+    ForeignPreset preset, const fs::path& path, bool isOnly, const ImportOptions& options)
 {
     ImportedPreset imported;
     imported.name = chooseName(preset, path, options);
     imported.findings = std::move(preset.findings);
     auto& findings = imported.findings;
     if (!findings.haveErrors() && !isName(imported.name))
-        findings.refuse({}, inQuotes(imported.name) + " cannot be a name; give one with --name");
+        findings.refuse(
+            {}, inQuotes(imported.name) + " cannot be a name" + (isOnly ? "; give one with --name" : ""));
     if (!findings.haveErrors())
         imported.conversion = convert(preset.target, options.copying, findings);
     if (!findings.haveErrors() && options.strict && findings.haveWarnings())
@@ -117,7 +119,7 @@ ImportedFile readFile(const fs::path& path, const ImportOptions& options)
             {}, "there are " + std::to_string(presets.size()) + " presets in it, so --name cannot be used");
     ImportedFile file { path, {} };
     for (auto& preset : presets)
-        file.presets.push_back(convertPreset(std::move(preset), path, options));
+        file.presets.push_back(convertPreset(std::move(preset), path, presets.size() == 1, options));
     return file;
 }
 

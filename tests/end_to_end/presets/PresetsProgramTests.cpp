@@ -342,6 +342,10 @@ TEST_F(ThePresetsProgram, ImportsALibraryWithoutItsBadPresets)
     EXPECT_THAT(names(), AllOf(Contains("Two"), Not(Contains("One"))));
     expectFailure(
         "import all.q1 --name Three", "all.q1: error: there are 2 presets in it, so --name cannot be used\n");
+    library[31] = '\n';
+    library[31 + 260] = '\x10';
+    write("all.q1", library);
+    EXPECT_EQ(run("import all.q1").errors, "all.q1: error: preset \"?ne\": \"?ne\" cannot be a name\n");
 }
 
 TEST_F(ThePresetsProgram, NamesThePresetOfALibraryInItsWarnings)
