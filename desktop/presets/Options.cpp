@@ -209,6 +209,8 @@ std::optional<Options> readOptions(int argumentCount, char** arguments)
     for (int letter = 0; (letter = getopt_long(argumentCount, arguments, ":o:", known, nullptr)) != -1;) {
         switch (letter) {
         case 'r':
+            if (*optarg == '\0')
+                throw UsageError("--root needs a path");
             options.root = optarg;
             break;
         case 'h':

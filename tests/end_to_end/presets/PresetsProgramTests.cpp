@@ -569,6 +569,7 @@ TEST_F(ThePresetsProgram, RefusesAWrongCommandLine)
     expectUsageError("show", "show needs a NAME");
     expectUsageError("import", "import needs a FILE");
     expectUsageError("rename Rock", "rename needs OLD and NEW");
+    expectUsageError("list --root ''", "--root needs a path");
     expectUsageError("show Rock --force", "--force is no option of show");
     expectUsageError("import a --json", "--json is no option of import");
     expectUsageError("import a --format mp3", "unknown format \"mp3\"");
