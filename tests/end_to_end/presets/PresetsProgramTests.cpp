@@ -253,6 +253,23 @@ TEST_F(ThePresetsProgram, NeitherWaitsForAPipeNorReadsAHugeFile)
     expectFailure("import huge.txt", "huge.txt: error: it is larger than 1 MiB\n");
 }
 
+TEST_F(ThePresetsProgram, ReportsThatAFileCannotBeRead)
+{
+    expectFailure("import /proc/self/mem", "/proc/self/mem: error: it cannot be read\n");
+}
+
+TEST_F(ThePresetsProgram, CountsMessagesBeyondTheFirstHundred)
+{
+    std::string lines = "Filter: ON PK Fc 1000 Hz Gain 1 dB Q 1\n";
+    for (int i = 0; i < 105; ++i)
+        lines += "Filter: ON XY\n";
+    write("a.txt", lines);
+    const auto outcome = run("import a.txt");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(std::ranges::count(outcome.errors, '\n'), 101);
+    EXPECT_THAT(outcome.errors, testing::EndsWith("\na.txt: note: 5 more messages\n"));
+}
+
 TEST_F(ThePresetsProgram, RefusesANameThatIsTaken)
 {
     write("Rock.txt", ten);
@@ -477,6 +494,22 @@ TEST_F(ThePresetsProgram, KeepsAnExistingFileUnlessForced)
     EXPECT_THAT(read("a.json"), HasSubstr("Rock"));
     expectFailure("export Rock -o no/a.json",
         "brimsound-presets: \"no/a.json\" cannot be written: No such file or directory\n");
+    expectFailure("export Rock -o . --force", "brimsound-presets: \".\" cannot be written\n");
+}
+
+TEST_F(ThePresetsProgram, LeavesNoPartOfAFileThatCannotBeWritten)
+{
+    write("old.txt", "mine");
+    // Files may have one block, as the message does.
+    const std::string limit = "ulimit -f 1; trap '' XFSZ;";
+    const auto created = run("export Rock --format graphiceq -o new.txt", limit);
+    EXPECT_EQ(created.status, 1);
+    EXPECT_EQ(created.errors, "brimsound-presets: \"new.txt\" cannot be written: File too large\n");
+    EXPECT_FALSE(fs::exists(folder.path() / "new.txt"));
+    const auto replaced = run("export Rock --format graphiceq -o old.txt --force", limit);
+    EXPECT_EQ(replaced.status, 1);
+    EXPECT_EQ(replaced.errors, "brimsound-presets: \"old.txt\" cannot be written\n");
+    EXPECT_EQ(read("old.txt"), "mine");
 }
 
 TEST_F(ThePresetsProgram, WarnsOfNamesThatAFormatLacks)
@@ -535,9 +568,11 @@ TEST_F(ThePresetsProgram, ReportsThatThePreferencesCannotBeWritten)
     run("import a.txt");
     const auto before = root.read(preferencesPath);
     write("b.txt", otherTen);
-    // Files may have no blocks.
-    const auto outcome = run("import b.txt", "ulimit -f 0; trap '' XFSZ;");
+    // Files may have one block.
+    const auto outcome = run("import b.txt", "ulimit -f 1; trap '' XFSZ;");
     EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors,
+        AllOf(StartsWith("brimsound-presets: \""), HasSubstr(".plist\" cannot be written\n")));
     EXPECT_THAT(names(), Not(Contains("b")));
     EXPECT_EQ(root.read(preferencesPath), before);
 }
