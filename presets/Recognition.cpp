@@ -98,7 +98,7 @@ Recognition recognize(std::string_view contents)
         return { std::nullopt, "the file is empty" };
 
     const bool mayBeJson = contents[start] == '{' || contents[start] == '[';
-    const auto json = mayBeJson ? recognizeJson(contents) : Recognition();
+    auto json = mayBeJson ? recognizeJson(contents) : Recognition();
     if (json.format)
         return json;
     for (const auto line : linesOf(contents)) {
