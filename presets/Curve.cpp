@@ -13,8 +13,9 @@ double gainAt(const Curve& curve, double frequency)
     if (above == curve.end())
         return curve.back().gain;
     const auto below = std::prev(above);
-    const double part
-        = std::log(frequency / below->frequency) / std::log(above->frequency / below->frequency);
+    // Not the logarithm of a quotient, which overflows when a frequency is extremely low.
+    const double start = std::log(below->frequency);
+    const double part = (std::log(frequency) - start) / (std::log(above->frequency) - start);
     return std::lerp(below->gain, above->gain, part);
 }
 

@@ -173,6 +173,13 @@ TEST(ACurve, IsLinearOverTheLogarithmOfTheFrequencyAndConstantOutside)
     EXPECT_EQ(gainAt(curve, 20000), 6);
 }
 
+TEST(ACurve, IsFiniteForNumbersOfAnySize)
+{
+    const double smallest = std::numeric_limits<double>::denorm_min();
+    const double huge = std::numeric_limits<double>::max();
+    EXPECT_TRUE(std::isfinite(gainAt({ { smallest, huge }, { 100, -huge } }, 20)));
+}
+
 TEST(Positions, AreCopied)
 {
     Findings findings;
