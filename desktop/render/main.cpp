@@ -1,4 +1,5 @@
 // The equalizer for sound files, with the same filters as for the desktop's sound.
+#include "desktop/presets/PresetStore.h"
 #include "desktop/render/Gains.h"
 #include "desktop/render/Options.h"
 #include "desktop/render/Rendering.h"
@@ -20,12 +21,12 @@ void run(const Options& options)
     if (options.root)
         desktop::setDeviceRoot(*options.root);
     if (options.listPresets) {
-        for (const auto& name : presetNames())
+        for (const auto& name : presets::PresetStore().names())
             std::puts(name.c_str());
         return;
     }
     Setting setting { .limiter = options.limiter };
-    setting.gains = options.preset ? gainsOfPreset(*options.preset) : *options.gains;
+    setting.gains = options.preset ? presets::PresetStore().gainsOf(*options.preset) : *options.gains;
     setting.preamp = options.preamp ? *options.preamp : autoPreamp(setting.gains);
     renderFile(options.in, options.out, setting);
 }

@@ -233,6 +233,14 @@ TEST_F(Rendering, RefusesAPresetThatIsNotTenGains)
     expectRefused(run("in.wav out.wav --preset Short"), 1, "preset \"Short\" is not ten gains");
 }
 
+TEST_F(Rendering, RefusesToFindPresetsInADamagedPreferencesFile)
+{
+    writeSine("in.wav", 1000, 0.1f);
+    root.write(preferencesPath, "damaged");
+    expectRefused(run("in.wav out.wav --preset Rock"), 1, "cannot be read");
+    expectRefused(run("--list-presets"), 1, "cannot be read");
+}
+
 TEST_F(Rendering, IsSettledFromTheFirstSampleOn)
 {
     write(path("in.wav"),
