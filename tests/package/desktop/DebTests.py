@@ -68,7 +68,9 @@ class TheDeb(unittest.TestCase):
         self.assertEqual(output(program, "--version"), f"mediaserverd {version}\n")
 
     def test_causes_no_remark_of_lintian(self):
-        command = ("lintian", "--allow-root", "--display-info", "--pedantic", "--fail-on", "none", self.deb)
+        # Lintian also takes machine code for misspelled words. What it finds depends on the compiler.
+        spelling = "--suppress-tags=spelling-error-in-binary"
+        command = ("lintian", "--allow-root", "--display-info", "--pedantic", "--fail-on", "none", spelling, self.deb)
         self.assertEqual(output(*command, env=ENVIRONMENT), "")
 
     def test_depends_on_the_libraries_and_the_programs_it_runs(self):
@@ -118,7 +120,7 @@ class TheDeb(unittest.TestCase):
 
     def test_leaves_the_service_disabled(self):
         names = {name for _, _, _, name in self.listing()}
-        self.assertFalse([name for name in names if ".wants" in name or "preset" in name])
+        self.assertFalse([name for name in names if ".wants/" in name or name.endswith(".preset")])
         script = self.content("DEBIAN/postinst").decode()
         # The helper creates links for a service that an administrator has enabled, and for no other one.
         (enabling,) = [i for i, line in enumerate(script.splitlines()) if " --user enable " in line]
