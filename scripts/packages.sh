@@ -61,6 +61,7 @@ install_packages() {
 # build PRESET: configures if necessary, and builds.
 build() {
     echo "Building $1"
-    [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
+    # Also configure again after a change to the presets: CMake itself keeps the old values.
+    [ "build/$1/build.ninja" -nt CMakePresets.json ] || cmake --preset "$1" >/dev/null
     cmake --build --preset "$1"
 }
