@@ -96,6 +96,12 @@ public:
 private:
     Findings& findings() { return _preset.findings; }
 
+    /// PulseEffects lists all effects, most of them with a "state" of false.
+    static bool isSwitchedOff(const Node& effect)
+    {
+        return effect["bypass"].flag(false) || !effect["state"].flag(true);
+    }
+
     void readChain(const Node& chain)
     {
         const auto order = chain["plugins_order"];
@@ -108,7 +114,8 @@ private:
             if (!name) {
                 findings().warn(order.path, "an effect without a name is left out");
             } else if (*name != "equalizer" && !name->starts_with("equalizer#")) {
-                findings().warn(order.path, "the effect " + inQuotes(*name) + " is left out");
+                if (!isSwitchedOff(chain[*name]))
+                    findings().warn(order.path, "the effect " + inQuotes(*name) + " is left out");
             } else if (const auto equalizer = chain[*name]; equalizer.isObject()) {
                 readEqualizer(equalizer);
             } else {
@@ -121,7 +128,7 @@ private:
 
     void readEqualizer(const Node& equalizer)
     {
-        if (equalizer["bypass"].flag(false) || !equalizer["state"].flag(true)) {
+        if (isSwitchedOff(equalizer)) {
             findings().warn(equalizer.path, "it is switched off and left out");
             return;
         }

@@ -201,6 +201,20 @@ TEST(AnEasyEffectsPreset, AddsTheEqualizersOfItsOutput)
             warning("output.equalizer#2", "it is switched off and left out")));
 }
 
+TEST(AnEasyEffectsPreset, DoesNotMentionEffectsThatAreSwitchedOff)
+{
+    auto preset = presetOf({ band(60, 5, 1.41) });
+    auto& output = preset["output"];
+    output["limiter#0"]["bypass"] = true;
+    output["reverb"]["state"] = "false";
+    output["exciter#0"]["bypass"] = false;
+    output["crossfeed"]["state"] = "true";
+    output["plugins_order"] = { "limiter#0", "reverb", "exciter#0", "crossfeed", "equalizer#0" };
+    EXPECT_THAT(read(preset).findings.all(),
+        ElementsAre(warning("output.plugins_order", "the effect \"exciter#0\" is left out"),
+            warning("output.plugins_order", "the effect \"crossfeed\" is left out")));
+}
+
 TEST(AnEasyEffectsPreset, UsesItsInputWithoutAnOutput)
 {
     auto preset = presetOf({ band(60, 5, 1.41) });
