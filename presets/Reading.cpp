@@ -71,7 +71,7 @@ ForeignPresets readPresets(
         return read(contents, *format, options);
     const auto recognition = recognize(contents);
     if (!recognition.format) {
-        auto refused = refusedFile({}, recognition.reason);
+        auto refused = refusedFile(recognition.place, recognition.reason);
         refused.front().findings.note({}, readable);
         return refused;
     }

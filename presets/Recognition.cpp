@@ -20,7 +20,7 @@ Recognition recognizeJson(std::string_view text)
     const auto file = parseJson(text, findings);
     if (!file) {
         const auto& finding = findings.all().front();
-        return { std::nullopt, (finding.place.empty() ? "" : "line " + finding.place + ": ") + finding.text };
+        return { std::nullopt, finding.text, finding.place };
     }
     if (isBrimsoundJson(*file))
         return { Format::BrimsoundJson, {} };

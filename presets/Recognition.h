@@ -12,6 +12,8 @@ struct Recognition {
     std::optional<Format> format;
     /// Why there is none: what the file is, as far as that is known.
     std::string reason;
+    /// Where that shows: see Finding.
+    std::string place {};
 };
 
 /// The format that the contents of a file show. Its name does not count.

@@ -56,7 +56,7 @@ TEST(AnUnknownFile, IsRefusedWithWhatItIs)
     expectRefused("filter.graph = {}", "this is a configuration of PipeWire");
     expectRefused("[{\"name\":\"a\",\"gains\":{}}]", "this is a preset file of eqMac");
     expectRefused("[1]", "this is JSON of an unknown kind");
-    expectRefused("{\"a\":\n1,}", "line 2: this is no valid JSON");
+    expectRefused("{\"a\":\n1,}", "this is no valid JSON");
     expectRefused("{\"a\":1e999}", "the JSON text has a number that is too large");
     expectRefused("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12\n13\n14\n15\n16\n17\n18\n",
         "this is a preset of foobar2000, with 18 bands");
@@ -66,6 +66,13 @@ TEST(AnUnknownFile, IsRefusedWithWhatItIs)
     expectRefused(" \r\n", "the file is empty");
     expectRefused(std::string_view("a\0b", 3), "this is a binary file");
     expectRefused("\xff\xfeG", "this text is in UTF-16: save it as UTF-8");
+}
+
+TEST(AnUnknownFile, IsRefusedWithTheLineThatIsNoJson)
+{
+    const auto presets = readPresets("{\"a\":\n1,}", {}, {});
+    const Finding expected { Severity::Error, "2", "this is no valid JSON" };
+    EXPECT_EQ(presets.front().findings.all().front(), expected);
 }
 
 TEST(AnUnknownFile, IsRefusedWithWhatCanBeRead)
@@ -82,7 +89,7 @@ TEST(AFileOfSections, IsRecognizedByAnyOfThem)
 {
     expectFormat("[Other]\na=1\n[Equalizer preset]\nBand0=1", Format::Xmms);
     expectRefused("[apps]\na=1\n[apps_equalizer]\nband0_freq=1", "this is a preset of PulseEffects 1 to 3");
-    expectRefused("[Other]\na=1\n", "line 1: this is no valid JSON");
+    expectRefused("[Other]\na=1\n", "this is no valid JSON");
 }
 
 TEST(ReadingAFile, UsesTheFormatThatItsContentsShow)
