@@ -39,7 +39,7 @@ File sectionsOf(std::string_view text)
         const auto line = trimmed(whole);
         const auto place = std::to_string(++number);
         if (line.starts_with('[') && line.ends_with(']')) {
-            const auto name = line.substr(1, line.size() - 2);
+            const auto name = trimmed(line.substr(1, line.size() - 2));
             // Of several sections of a name the first one counts.
             const auto [entry, isNew] = file.sections.try_emplace(name, Section { place, {} });
             section = isNew ? &entry->second : nullptr;

@@ -196,6 +196,14 @@ TEST(AnXmmsLibrary, HasASectionForEachName)
     EXPECT_THAT(presets[1].findings.all(), ElementsAre(error("3", "there is no section \"Gone\"")));
 }
 
+TEST(AnXmmsLibrary, MayHaveBlanksAroundItsNames)
+{
+    const auto presets = readXmms(std::string("[Presets]\nPreset0=Loud \n[Loud ]\n") + xmmsBands, {});
+    ASSERT_THAT(presets, SizeIs(1));
+    EXPECT_EQ(presets[0].name, "Loud");
+    EXPECT_EQ(gainsOf(presets[0])[0], 1.5);
+}
+
 TEST(AnXmmsPreset, IsRefusedWithoutAGainForEachBand)
 {
     EXPECT_THAT(readXmms("\n[Equalizer preset]\nBand0=1\n", {}).front().findings.all(),
