@@ -28,7 +28,8 @@ audio::FilterTargets filtersOf(const OwnPreset& preset)
 /// What keeps the sound within full scale: minus the highest response, rounded down to 0.1 dB.
 double preampFor(const audio::FilterTargets& filters)
 {
-    return -std::ceil(std::max(0.0, audio::maximumResponse(filters)) * 10) / 10;
+    // A difference, so that there is no "-0.0" in the file.
+    return 0 - std::ceil(std::max(0.0, audio::maximumResponse(filters)) * 10) / 10;
 }
 
 /// PipeWire's reader takes at most six characters of a gain or a Q.

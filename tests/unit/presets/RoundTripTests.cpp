@@ -23,6 +23,7 @@ using tests::RoundTrip;
 
 namespace {
 
+using testing::HasSubstr;
 using testing::SizeIs;
 using testing::StartsWith;
 
@@ -114,6 +115,7 @@ TEST(TheExportedPreamp, KeepsTheSoundWithinFullScale)
         EXPECT_GT(*preamp + peak, -0.1 - 1e-9);
     }
     EXPECT_EQ(linesIn(exportOf(allSlidersAt(-12), Format::EqualizerApo)).front(), "Preamp: 0.0 dB");
+    EXPECT_THAT(exportOf(allSlidersAt(-12), Format::EasyEffects), HasSubstr("\"input-gain\": 0.0,"));
 }
 
 TEST(GraphicEqExport, HasAutoEqsFrequenciesInOneLine)
