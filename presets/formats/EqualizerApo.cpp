@@ -136,7 +136,7 @@ private:
         else if (!isOutOfScope()) {
             _leftPreamp += _onLeft ? *preamp : 0;
             _rightPreamp += _onRight ? *preamp : 0;
-            if (_preampPlace.empty())
+            if (_preampPlace.empty() && (takesLeft() ? _onLeft : _onRight))
                 _preampPlace = _place;
         }
     }

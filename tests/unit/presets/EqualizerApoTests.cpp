@@ -216,6 +216,14 @@ TEST(ApoText, AddsThePreampsOfTheChannelThatIsTaken)
     EXPECT_EQ(read(text).findings.all().back(), warning("2", "the channels differ: the left one is taken"));
 }
 
+TEST(ApoText, NamesTheFirstPreampOfTheChannelThatIsTaken)
+{
+    const auto text = "Channel: R\nPreamp: -4 dB\nChannel: C\nPreamp: -1 dB\nChannel: L\nPreamp: -3 dB\n"
+                      "Channel: all\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1";
+    EXPECT_EQ(read(text).findings.all()[1].place, "6");
+    EXPECT_EQ(read(text, rightChannel()).findings.all()[1].place, "2");
+}
+
 TEST(ApoText, HasACurveOfUnknownLevel)
 {
     const auto preset = read("GraphicEQ: 40 4.5; 25 6; 100 -0.0");
