@@ -158,17 +158,17 @@ private:
 
     void readDevice(std::string_view parameters)
     {
-        _deviceApplies = areEqualInAnyCase(parameters, "all") || !_options.device
-            || utf8From(parameters) == *_options.device;
-        if (areEqualInAnyCase(parameters, "all"))
+        const auto device = utf8From(parameters);
+        _deviceApplies = areEqualInAnyCase(device, "all") || !_options.device || device == *_options.device;
+        if (areEqualInAnyCase(device, "all"))
             return;
         if (!_deviceApplies) {
-            warn("for the device " + inQuotes(parameters) + ", left out");
+            warn("for the device " + inQuotes(device) + ", left out");
         } else if (_device.empty()) {
-            _device = parameters;
-            warn("for the device " + inQuotes(parameters) + ", imported for all devices");
-        } else if (_device != parameters) {
-            refuse("for another device, " + inQuotes(parameters) + ": choose one with --device");
+            _device = device;
+            warn("for the device " + inQuotes(device) + ", imported for all devices");
+        } else if (_device != device) {
+            refuse("for another device, " + inQuotes(device) + ": choose one with --device");
         }
     }
 
@@ -250,7 +250,7 @@ private:
     bool _onRight = true;
     bool _deviceApplies = true;
     bool _stageApplies = true;
-    std::string_view _device;
+    std::string _device;
     std::string _channelPlace;
     double _leftPreamp = 0;
     double _rightPreamp = 0;

@@ -381,8 +381,10 @@ TEST(ApoText, MayNameItsDeviceInTheAnsiCodePage)
 {
     ReadingOptions options;
     options.device = "Kopfh\xc3\xb6rer";
-    EXPECT_THAT(
-        filtersOf(read("Device: Kopfh\xf6rer\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n", options)), SizeIs(1));
+    const auto preset = read("Device: Kopfh\xf6rer\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n", options);
+    EXPECT_THAT(filtersOf(preset), SizeIs(1));
+    EXPECT_EQ(preset.findings.all().front(),
+        warning("1", "for the device \"Kopfh\xc3\xb6rer\", imported for all devices"));
 }
 
 TEST(ApoText, LeavesOutWhatIsForRecording)
