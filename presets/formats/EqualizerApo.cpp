@@ -51,6 +51,8 @@ private:
             refuse("what applies is only known when Equalizer APO runs: " + inQuotes(line));
             return;
         }
+        if (!isInScope(name))
+            return;
         if (colon == std::string_view::npos)
             warn("no command, line skipped: " + inQuotes(line));
         else if (startsWithInAnyCase(name, "Filter"))
@@ -90,12 +92,17 @@ private:
     }
 
     bool takesLeft() const { return _options.channel == ReadingOptions::Channel::Left; }
-    bool isOutOfScope() const { return !_deviceApplies || !_stageApplies; }
+
+    /// Nothing counts in a section for another device or for recording, until the next section begins.
+    bool isInScope(std::string_view command) const
+    {
+        const bool isDevice = areEqualInAnyCase(command, "Device");
+        const bool isStage = areEqualInAnyCase(command, "Stage");
+        return isDevice || (_deviceApplies && (isStage || _stageApplies));
+    }
 
     void readFilter(std::string_view parameters)
     {
-        if (isOutOfScope())
-            return;
         auto filter = readApoFilter(parameters);
         switch (filter.use) {
         case ApoFilter::Use::On:
@@ -116,8 +123,6 @@ private:
 
     void readCurve(std::string_view parameters)
     {
-        if (isOutOfScope())
-            return;
         const auto curve = readGraphicEq(parameters, _place, _preset.findings);
         if (!curve)
             return;
@@ -133,7 +138,7 @@ private:
             warn("preamp without a number, line skipped");
         else if (!std::isfinite(*preamp))
             refuse("the preamp must be a finite number");
-        else if (!isOutOfScope()) {
+        else {
             _leftPreamp += _onLeft ? *preamp : 0;
             _rightPreamp += _onRight ? *preamp : 0;
             if (_preampPlace.empty() && (takesLeft() ? _onLeft : _onRight))

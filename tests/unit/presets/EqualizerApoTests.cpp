@@ -387,9 +387,23 @@ TEST(ApoText, MayNameItsDeviceInTheAnsiCodePage)
         warning("1", "for the device \"Kopfh\xc3\xb6rer\", imported for all devices"));
 }
 
+TEST(ApoText, LeavesOutAllLinesForAnotherDevice)
+{
+    ReadingOptions options;
+    options.device = "Headphones";
+    const auto preset = read("Device: Speakers\nChannel: R\nStage: capture\nPreamp: inf dB\nInclude: a.txt\n"
+                             "Nonsense: 1\nNothing\n"
+                             "Device: Headphones\nFilter: ON PK Fc 60 Hz Gain 2 dB Q 1\n",
+        options);
+    EXPECT_THAT(filtersOf(preset), ElementsAre(Filter { Shape::Peak, 60, 2, 1 }));
+    EXPECT_THAT(preset.findings.all(),
+        ElementsAre(warning("1", "for the device \"Speakers\", left out"),
+            warning("8", "for the device \"Headphones\", imported for all devices")));
+}
+
 TEST(ApoText, LeavesOutWhatIsForRecording)
 {
-    const auto preset = read("Stage: capture\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n"
+    const auto preset = read("Stage: capture\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\nChannel: R\nNonsense: 1\n"
                              "Stage: post-mix\nFilter: ON PK Fc 60 Hz Gain 2 dB Q 1\n");
     EXPECT_THAT(filtersOf(preset), ElementsAre(Filter { Shape::Peak, 60, 2, 1 }));
     EXPECT_THAT(
