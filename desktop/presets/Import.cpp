@@ -65,8 +65,9 @@ ImportedPreset convertPreset(
     imported.findings = std::move(preset.findings);
     auto& findings = imported.findings;
     if (!findings.haveErrors() && !isName(imported.name))
-        findings.refuse(
-            {}, inQuotes(imported.name) + " cannot be a name" + (isOnly ? "; give one with --name" : ""));
+        findings.refuse({},
+            inQuotes(imported.name) + " cannot be a name"
+                + (isOnly ? "; give one with brimsound-presets import --name" : ""));
     if (!findings.haveErrors())
         imported.conversion = convert(preset.target, options.copying, findings);
     if (!findings.haveErrors() && options.strict && findings.haveWarnings())

@@ -173,7 +173,8 @@ private:
             _device = device;
             warn("for the device " + inQuotes(device) + ", imported for all devices");
         } else if (_device != device) {
-            refuse("for another device, " + inQuotes(device) + ": choose one with --device");
+            refuse("for another device, " + inQuotes(device)
+                + ": choose one with brimsound-presets import --device");
         }
     }
 

@@ -337,9 +337,10 @@ TEST_F(ThePresetsProgram, UsesTheNameThatIsGiven)
     expectDone("import a.txt --name 'Bass/treble \xc3\xa9'",
         "Imported \"Bass/treble \xc3\xa9\", positions copied\n");
     EXPECT_THAT(names(), Contains("Bass/treble \xc3\xa9"));
-    expectFailure("import a.txt --name ''", "a.txt: error: \"\" cannot be a name; give one with --name\n");
+    expectFailure("import a.txt --name ''",
+        "a.txt: error: \"\" cannot be a name; give one with brimsound-presets import --name\n");
     expectFailure("import a.txt --name \"$(printf 'a\\nb')\"",
-        "a.txt: error: \"a?b\" cannot be a name; give one with --name\n");
+        "a.txt: error: \"a?b\" cannot be a name; give one with brimsound-presets import --name\n");
 }
 
 TEST_F(ThePresetsProgram, ImportsALibraryWithoutItsBadPresets)

@@ -367,7 +367,8 @@ TEST(ApoText, NeedsAChoiceBetweenTwoDevices)
                       "Device: Headphones\nFilter: ON PK Fc 60 Hz Gain 2 dB Q 1\n";
     EXPECT_THAT(read(text).findings.all(),
         ElementsAre(warning("1", "for the device \"Speakers\", imported for all devices"),
-            error("3", "for another device, \"Headphones\": choose one with --device")));
+            error("3",
+                "for another device, \"Headphones\": choose one with brimsound-presets import --device")));
     ReadingOptions options;
     options.device = "Headphones";
     const auto chosen = read(text, options);
