@@ -18,6 +18,11 @@ constexpr std::array<char16_t, 32> upperControls { 0x20ac, 0, 0x201a, 0x0192, 0x
     0x02c6, 0x2030, 0x0160, 0x2039, 0x0152, 0, 0x017d, 0, 0, 0x2018, 0x2019, 0x201c, 0x201d, 0x2022, 0x2013,
     0x2014, 0x02dc, 0x2122, 0x0161, 0x203a, 0x0153, 0, 0x017e, 0x0178 };
 
+bool isLetter(char character)
+{
+    return ('a' <= character && character <= 'z') || ('A' <= character && character <= 'Z');
+}
+
 char lower(char letter)
 {
     return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -101,6 +106,11 @@ std::vector<std::string_view> wordsOf(std::string_view text, std::string_view se
     return words;
 }
 
+bool isDigit(char character)
+{
+    return '0' <= character && character <= '9';
+}
+
 bool areEqualInAnyCase(std::string_view a, std::string_view b)
 {
     return std::ranges::equal(a, b, {}, lower, lower);
@@ -121,6 +131,8 @@ std::optional<double> takeNumber(std::string_view& text)
     if (error == std::errc::invalid_argument)
         return std::nullopt;
     digits.remove_prefix(static_cast<std::size_t>(end - digits.data()));
+    if (!std::isfinite(number) && !digits.empty() && isLetter(digits.front()))
+        return std::nullopt;
     text = digits;
     return error == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : number;
 }

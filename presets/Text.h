@@ -14,6 +14,8 @@ std::string_view trimmed(std::string_view);
 std::vector<std::string_view> linesOf(std::string_view);
 /// The parts between any of the separators, without empty ones.
 std::vector<std::string_view> wordsOf(std::string_view, std::string_view separators);
+/// Whether it is an ASCII digit.
+bool isDigit(char);
 /// Whether two ASCII texts are equal apart from the case of letters.
 bool areEqualInAnyCase(std::string_view, std::string_view);
 /// Whether the text begins with this ASCII text in any case.
@@ -22,7 +24,8 @@ bool startsWithInAnyCase(std::string_view text, std::string_view start);
 /// The number that the whole text is, with a point and an optional sign. Infinite for a number that is too
 /// large; nothing when it is no number.
 std::optional<double> numberFrom(std::string_view);
-/// The number that the text begins with, for example "6dB"; it is removed from the text.
+/// The number that the text begins with, for example "6dB"; it is removed from the text. "inf" and "nan" are
+/// numbers, but not as the first letters of a word.
 std::optional<double> takeNumber(std::string_view& text);
 
 /// A number with so many decimals, never "-0.0".

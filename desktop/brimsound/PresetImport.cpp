@@ -27,11 +27,6 @@ using Names = std::vector<std::string>;
 constexpr std::size_t mostNames = 8;
 constexpr std::size_t mostProblems = 5;
 
-bool isDigit(char letter)
-{
-    return '0' <= letter && letter <= '9';
-}
-
 void showAlert(PaneHost& host, const std::string& message, const std::vector<std::string>& buttons,
     std::function<void(std::size_t)> onAnswer = {})
 {
@@ -75,7 +70,7 @@ std::string capitalized(std::string text)
 /// A finding without the file's name. `owner` is the preset in a file of several.
 std::string textOf(const presets::Finding& finding, const std::string& owner)
 {
-    const bool isLine = !finding.place.empty() && std::ranges::all_of(finding.place, isDigit);
+    const bool isLine = !finding.place.empty() && std::ranges::all_of(finding.place, presets::isDigit);
     const auto place = isLine ? "Line " + finding.place : presets::printable(finding.place);
     const auto where = place.empty() ? owner : place;
     const auto text = where.empty() ? capitalized(finding.text) : where + ": " + finding.text;

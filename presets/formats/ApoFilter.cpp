@@ -56,11 +56,6 @@ struct Numbers {
     std::optional<double> slope;
 };
 
-bool isDigit(char letter)
-{
-    return '0' <= letter && letter <= '9';
-}
-
 /// The length of the no-break space that the text begins with, or 0. Text in the ANSI code page has it as one
 /// byte.
 std::size_t noBreakSpace(std::string_view text)

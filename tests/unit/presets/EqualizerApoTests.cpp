@@ -233,6 +233,13 @@ TEST(ApoText, HasACurveOfUnknownLevel)
     EXPECT_THAT(preset.findings.all(), IsEmpty());
 }
 
+TEST(ApoText, MayHaveWordsAfterACurve)
+{
+    const auto preset = read("GraphicEQ: 25 6; 40 4.5; info by Nancy");
+    EXPECT_THAT(std::get<Response>(preset.target).curves, ElementsAre(Curve { { 25, 6 }, { 40, 4.5 } }));
+    EXPECT_THAT(preset.findings.all(), IsEmpty());
+}
+
 TEST(ApoText, MayHaveDecimalCommasInACurveWithoutPoints)
 {
     EXPECT_THAT(std::get<Response>(read("GraphicEQ: 25 6,5; 40 -4,5").target).curves,
