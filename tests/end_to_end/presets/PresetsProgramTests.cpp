@@ -312,7 +312,7 @@ TEST_F(ThePresetsProgram, NumbersThePresetsOfOneNameInALibrary)
         "Already there: \"A\"\nAlready there: \"A (2)\"\nAlready there: \"A (3)\"\n");
 }
 
-TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsAgain)
+TEST_F(ThePresetsProgram, TakesTheSameGainsAsAlreadyThere)
 {
     write("a.txt", ten);
     run("import a.txt");
@@ -321,7 +321,7 @@ TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsAgain)
     EXPECT_EQ(fs::last_write_time(root.path() / fs::path(preferencesPath).relative_path()), before);
 }
 
-TEST_F(ThePresetsProgram, DoesNotMindTheSameGainsInAnotherType)
+TEST_F(ThePresetsProgram, TakesTheSameGainsInAnotherTypeAsAlreadyThere)
 {
     root.write(preferencesPath,
         "<plist><dict><key>PRESETS</key><dict><key>a</key><array><integer>1</integer><integer>2</integer>"
