@@ -61,7 +61,7 @@ install_packages() {
 # build PRESET: configures if necessary, and builds.
 build() {
     echo "Building $1"
-    # Also configure again after a change to the presets: CMake itself keeps the old values.
+    # After a change to CMakePresets.json, too: CMake itself keeps the old values.
     [ "build/$1/build.ninja" -nt CMakePresets.json ] || cmake --preset "$1" >/dev/null
     cmake --build --preset "$1"
 }
