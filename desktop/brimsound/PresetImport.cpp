@@ -84,6 +84,9 @@ std::vector<std::string> textsOf(const Files& files, presets::Severity severity)
     for (const auto& file : files) {
         auto heading = presets::printable(file.path.filename().string()) + "\n";
         for (const auto& preset : file.presets) {
+            // Of a preset that is not imported, only the reason is of interest.
+            if (severity != presets::Severity::Error && preset.findings.haveErrors())
+                continue;
             const auto owner = file.presets.size() > 1 ? inQuotes(preset.name) : "";
             for (const auto& finding : preset.findings.all()) {
                 if (finding.severity == severity)

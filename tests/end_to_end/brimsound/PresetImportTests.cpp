@@ -163,6 +163,16 @@ TEST_F(AnImportIntoThePane, NamesThePresetsOfALibraryInItsWarnings)
         "Library.preset\n\"Loud\": the gain of 20 dB at 60 Hz is limited to 12 dB");
 }
 
+TEST_F(AnImportIntoThePane, OnlyShowsTheErrorOfAPresetThatIsNotImported)
+{
+    const auto file = write("Room.txt",
+        "Device: Speakers\nFilter: ON PK Fc 60 Hz Gain 1 dB Q 1\n"
+        "Device: Headphones\nFilter: ON PK Fc 60 Hz Gain 2 dB Q 1\n");
+    EXPECT_EQ(messageOf(import({ file }, "alert \"OK\"\n")),
+        "Room.txt\nNot imported. Line 3: for another device, \"Headphones\": choose one with "
+        "brimsound-presets import --device");
+}
+
 TEST_F(AnImportIntoThePane, KeepsADamagedPreferencesFile)
 {
     root.write(preferencesPath, "damaged");
